@@ -1,0 +1,8 @@
+#include "libkel/nextwhite.h"
+
+#include "libkel/keltype.h"
+
+char* nextwhite(char* s) {
+  while (*s != '\0' && !kel_is(*s, KEL_SPACE)) ++s;
+  return s;
+}

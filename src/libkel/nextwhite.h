@@ -1,0 +1,7 @@
+#ifndef LIBKEL_NEXTWHITE_H
+#define LIBKEL_NEXTWHITE_H
+
+/// The first white-space character at or after `s`, or its terminating NUL. Points into the argument.
+char* nextwhite(char* s);
+
+#endif

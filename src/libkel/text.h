@@ -1,0 +1,69 @@
+#ifndef LIBKEL_TEXT_H
+#define LIBKEL_TEXT_H
+
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+#include <utility>
+
+/// An owned string, or null. Null and empty are different things.
+///
+/// Equal strings share one copy of their characters, which lives as long as any Text holds it: a document names the
+/// same pages, popups and resources over and over. So copying is cheap, comparing compares addresses, a Text may be
+/// assigned its own characters, and every text knows its hash. The characters come from the toolkit's allocator.
+class Text {
+ public:
+  Text() = default;
+  /// A copy of `s`; null gives null.
+  Text(const char* s) : shared_(s ? share(s) : nullptr) {}
+  /// A copy of `s` up to its first NUL.
+  explicit Text(std::string_view s) : shared_(share(s.substr(0, s.find('\0')))) {}
+  Text(const Text& other) : shared_(other.shared_) {
+    if (shared_) ++shared_->references;
+  }
+  Text(Text&& other) noexcept : shared_(std::exchange(other.shared_, nullptr)) {}
+  Text& operator=(Text other) noexcept {
+    std::swap(shared_, other.shared_);
+    return *this;
+  }
+  ~Text() {
+    if (shared_ && --shared_->references == 0) release(shared_);
+  }
+
+  /// The characters, or null. They are the Text's own.
+  const char* c_str() const { return shared_ ? shared_->characters : nullptr; }
+  operator const char*() const { return c_str(); }
+  /// Null counts as empty.
+  bool empty() const { return !shared_ || shared_->characters[0] == '\0'; }
+  std::string_view view() const { return shared_ ? std::string_view(shared_->characters, shared_->size) : std::string_view(); }
+  /// Whether there is a per-cent sign in it, which printing treats specially.
+  bool has_percent() const { return shared_ && shared_->has_percent; }
+  std::uint32_t hash() const { return shared_ ? shared_->hash : 0; }
+
+  friend bool operator==(const Text& a, const Text& b) { return a.shared_ == b.shared_; }
+  friend bool operator==(const Text& a, const char* b) {
+    return a.shared_ && b ? std::strcmp(a.shared_->characters, b) == 0 : !a.shared_ && !b;
+  }
+
+ private:
+  struct Shared {
+    std::uint32_t references;
+    std::uint32_t hash;
+    std::uint32_t size : 31;
+    std::uint32_t has_percent : 1;
+    char characters[1];  // as many as the text has, and a NUL
+  };
+  struct Table;
+
+  static Table& table();
+  static Shared* share(std::string_view s);
+  static Shared* make(std::string_view s, std::uint32_t hash);
+  static void release(Shared* shared);
+
+  Shared* shared_ = nullptr;
+};
+
+/// `text`, or null where it is empty: what an optional value given as '' means.
+inline Text non_empty(Text text) { return text.empty() ? Text() : text; }
+
+#endif

@@ -1,0 +1,123 @@
+// The sections on the families themselves.
+
+#include <string>
+
+#include "libkel/keltype.h"
+#include "vqc/cmd/generate/config_file.h"
+#include "vqc/cmd/model/options.h"
+
+namespace {
+
+constexpr Template names_head = "char *@FAMILY_NAMES@[] = {\n";
+constexpr Template name_row = "\t\"@FAMILY@\",\n";
+constexpr Template names_end =
+    "\t(char *) 0\n"
+    "};\n\n";
+constexpr Template count_definition = "int @FAMILY_COUNT@ = @N@;\n\n";
+
+constexpr Template init_block = R"(/*
+** Family @FAMILY@ external functions
+*/
+
+#ifndef   _NO_PROTO
+extern void @INIT@(Widget shell) ;
+#else  /* _NO_PROTO */
+extern void @INIT@() ;
+#endif /* _NO_PROTO */
+)";
+
+constexpr Template headers_head = R"(/*
+** Family @FAMILY@ headers
+*/
+
+static XFamilyHeader_t @BASE@_headers[] = {
+)";
+constexpr Template header_row = "\t{ \"@FILE@\" },\n";
+constexpr Template headers_end =
+    "\t{ (char *) 0 }\n"
+    "} ;\n\n";
+
+constexpr Template widgets_head = R"(/*
+** Family @FAMILY@ widgets
+*/
+
+static XWidgetClass_p @BASE@_widgets[] = {
+)";
+constexpr Template widget_row = "\t&xw_@WIDGET@,\n";
+constexpr Template widgets_end =
+    "\t(XWidgetClass_p) 0\n"
+    "} ;\n\n";
+
+constexpr Template table_head = "XFamily_t @FAMILY_TABLE@[] = {\n";
+constexpr Template table_row =
+    "\t{ \"@FAMILY@\", @WIDGETS@, @HEADERS@, @QUOTED_INIT@, @INIT@, @VQ@, @CODE@, False, @PRE_SHELL@},\n";
+constexpr Template table_end =
+    "\t{ (char *) 0, (XWidgetClass_p *) 0, (XFamilyHeader_p) 0, (char *) 0, (void (*)()) 0, False, False, False, False }\n"
+    "} ;\n\n";
+
+bool fits_identifier(char c) { return kel_is(c, KEL_LETTER | KEL_UNDERSCORE); }
+
+/// What the identifiers of a family begin with: its name, or so much of it as fits into an identifier and the family's
+/// number among those that take part.
+std::string identifier_base(const Family& family, int index) {
+  const std::string_view name = family.name.view();
+  std::size_t size = 0;
+  while (size < name.size() && fits_identifier(name[size])) ++size;
+  std::string base(name.substr(0, size));
+  return size == name.size() ? base : base + "_" + std::to_string(index);
+}
+
+void write_headers_block(Run& run, const Family& family, const std::string& base) {
+  emit<headers_head>(run.out, family.name, base.c_str());
+  for (const auto& header : family.family_headers) emit<header_row>(run.out, header.record->name);
+  emit<headers_end>(run.out);
+}
+
+void write_widgets_block(Run& run, const Family& family, const std::string& base) {
+  emit<widgets_head>(run.out, family.name, base.c_str());
+  for (const auto& widget : family.widgets) emit<widget_row>(run.out, widget.record->name);
+  emit<widgets_end>(run.out);
+}
+
+void write_blocks(Run& run, const Family& family, const std::string& base) {
+  if (family.family_init) emit<init_block>(run.out, family.name, family.family_init, family.family_init);
+  write_headers_block(run, family, base);
+  write_widgets_block(run, family, base);
+}
+
+void write_table_row(Run& run, const Family& family, const std::string& base) {
+  const std::string widgets = family.widgets.empty() ? "(XWidgetClass_p *) 0" : base + "_widgets";
+  const std::string headers = family.family_headers.empty() ? "(XFamilyHeader_p) 0" : base + "_headers";
+  emit<table_row>(run.out, family.name, widgets.c_str(), headers.c_str(), Quoted{family.family_init, "(char *) 0"},
+                  Or{family.family_init, "(void (*)()) 0"}, family.generate_family_init_vq,
+                  family.generate_family_init_code, family.generate_family_init_pre_shell);
+}
+
+/// Calls `write(family, base)` with each family that takes part.
+template <class Write>
+void each_with_base(Write write) {
+  int index = 0;
+  each_family([&](const Family& family) { write(family, identifier_base(family, index++)); });
+}
+
+}  // namespace
+
+void write_family_names(Run& run) {
+  write_title(run, "Families");
+  emit<names_head>(run.out, vqc_get_family_names_variable());
+  int count = 0;
+  each_family([&](const Family& family) {
+    emit<name_row>(run.out, Verbatim{family.name});
+    ++count;
+  });
+  emit<names_end>(run.out);
+  emit<count_definition>(run.out, vqc_get_family_count_variable(), count);
+}
+
+void write_families(Run& run) {
+  write_title(run, "Family class records");
+  each_with_base([&](const Family& family, const std::string& base) { write_blocks(run, family, base); });
+  emit<table_head>(run.out, vqc_get_family_table_variable());
+  each_with_base([&](const Family& family, const std::string& base) { write_table_row(run, family, base); });
+  emit<table_end>(run.out);
+}

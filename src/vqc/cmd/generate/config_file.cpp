@@ -1,0 +1,41 @@
+#include "vqc/cmd/generate/config_file.h"
+
+#include "vqc/cmd/generate/includes.h"
+#include "vqc/cmd/model/options.h"
+#include "vqc/cmd/model/stop.h"
+
+namespace {
+
+constexpr Template stop_list_array = "char @NAME@[] = \"@TEXT@\";\n\n";
+constexpr Template no_stop_list = "char *@NAME@ = (char *) 0;\n\n";
+
+constexpr void (*sections[])(Run&) = {
+    write_config_includes,
+    write_stop_list,
+    write_popup_declarations,
+    write_popups,
+    write_page_names,
+    write_resources,
+    write_class_declarations,
+    write_family_names,
+    write_class_pointers,
+    write_enumerations,
+    write_aliases,
+    write_converter_declarations,
+    write_converters,
+    write_families,
+};
+
+}  // namespace
+
+void write_config_file(Run& run) {
+  for (auto write_section : sections) write_section(run);
+}
+
+void write_stop_list(Run& run) {
+  if (stop_list) {
+    emit<stop_list_array>(run.out, vqc_get_stop_list_variable(), Verbatim{stop_list});
+  } else {
+    emit<no_stop_list>(run.out, vqc_get_stop_list_variable());
+  }
+}

@@ -1,0 +1,103 @@
+#ifndef VQC_CMD_GENERATE_EMIT_H
+#define VQC_CMD_GENERATE_EMIT_H
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+#include <utility>
+
+#include "libkel/text.h"
+#include "vqc/cmd/savefile/util.h"
+
+/// Text to emit, with @NAMES@ where values go. It is taken apart when the program is compiled.
+template <std::size_t size>
+struct Template {
+  consteval Template(const char (&literal)[size]) {
+    for (std::size_t i = 0; i < size; ++i) text[i] = literal[i];
+  }
+
+  consteval std::size_t count(char wanted) const {
+    std::size_t found = 0;
+    for (char c : text) found += c == wanted;
+    return found;
+  }
+
+  char text[size];
+};
+
+namespace emit_detail {
+
+struct Piece {
+  std::size_t begin;
+  std::size_t size;
+};
+
+/// The pieces between the @ marks: literal text and names in turn.
+template <Template source>
+inline constexpr auto pieces = [] {
+  static_assert(source.count('@') % 2 == 0, "an @ without its partner");
+  std::array<Piece, source.count('@') + 1> result{};
+  std::size_t piece = 0;
+  for (std::size_t i = 0; source.text[i] != '\0'; ++i) {
+    if (source.text[i] == '@') {
+      result[++piece].begin = i + 1;
+    } else {
+      ++result[piece].size;
+    }
+  }
+  return result;
+}();
+
+}  // namespace emit_detail
+
+// How values are put into a template.
+
+/// As it stands, or `fallback` when null.
+struct Or {
+  const Text& text;
+  std::string_view fallback;
+};
+/// In double quotes, or `fallback` when null.
+struct Quoted {
+  const Text& text;
+  std::string_view fallback;
+};
+/// Through ptrout: per-cent signs stay as they are, null is "0".
+struct Verbatim {
+  const char* text;
+};
+/// Through ptrsfxout: with a suffix, or "0" when null.
+struct Suffixed {
+  const char* text;
+  const char* suffix;
+};
+
+inline void put(Stream& out, const char* text) { charout(&out, text); }
+inline void put(Stream& out, std::string_view text) { charout(&out, text); }
+inline void put(Stream& out, const Text& text) { charout(&out, text); }
+inline void put(Stream& out, bool flag) { boolout(&out, flag); }
+inline void put(Stream& out, int number) { intout(&out, number); }
+inline void put(Stream& out, const Or& value) { value.text ? put(out, value.text) : put(out, value.fallback); }
+inline void put(Stream& out, const Verbatim& value) { ptrout(&out, value.text); }
+inline void put(Stream& out, const Suffixed& value) { ptrsfxout(&out, value.text, value.suffix); }
+inline void put(Stream& out, const Quoted& value) {
+  if (!value.text) return put(out, value.fallback);
+  put(out, std::string_view("\""));
+  put(out, value.text);
+  put(out, std::string_view("\""));
+}
+
+/// Emits a template with `values` in place of its names, in the order in which the names stand.
+template <Template source, class... Values>
+void emit(Stream& out, const Values&... values) {
+  constexpr auto& pieces = emit_detail::pieces<source>;
+  static_assert(pieces.size() == 2 * sizeof...(Values) + 1, "a value for each name");
+  static constexpr auto& text = source.text;
+  static_assert(source.count('%') == 0, "literal text is written as it stands");
+  const auto literal = [&](std::size_t i) { rawout(&out, std::string_view(text + pieces[i].begin, pieces[i].size)); };
+  std::size_t i = 0;
+  literal(i);
+  ((put(out, values), literal(i += 2)), ...);
+}
+
+#endif

@@ -1,0 +1,16 @@
+#ifndef VQC_CMD_GENERATE_INCLUDES_H
+#define VQC_CMD_GENERATE_INCLUDES_H
+
+#include "vqc/cmd/generate/walk.h"
+
+/// The name the program goes by in what it generates.
+inline constexpr const char* kProgramName = "vqconfig";
+
+inline constexpr Template include_line = "#include <@FILE@>\n";
+
+// The beginning of every generated file: who made it, the fixed includes, and the headers of the families.
+
+void write_config_includes(Run& run);
+void write_code_includes(Run& run);
+
+#endif

@@ -1,0 +1,25 @@
+#ifndef VQC_CMD_GENERATE_NAME_SET_H
+#define VQC_CMD_GENERATE_NAME_SET_H
+
+#include <absl/container/flat_hash_set.h>
+
+#include <cstddef>
+
+#include "libkel/text.h"
+
+/// Names that have been dealt with.
+class NameSet {
+ public:
+  void insert(const Text& name) { names_.insert(name); }
+  /// True for a name that is not empty and was not there.
+  bool add(const Text& name) { return !name.empty() && names_.insert(name).second; }
+  bool contains(const Text& name) const { return names_.contains(name); }
+
+ private:
+  struct Hash {
+    std::size_t operator()(const Text& name) const { return name.hash() * std::size_t{0x9E3779B97F4A7C15}; }
+  };
+  absl::flat_hash_set<Text, Hash> names_;
+};
+
+#endif

@@ -1,0 +1,185 @@
+#ifndef VQC_CMD_MODEL_NAME_LIST_H
+#define VQC_CMD_MODEL_NAME_LIST_H
+
+#include <absl/container/flat_hash_set.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+#include <iterator>
+#include <memory>
+#include <vector>
+
+#include "libkel/text.h"
+
+enum class Order { sorted, appended };
+
+/// The name by which an element is found: its own, or that of the record it refers to.
+template <class Element>
+const Text& name_of(const Element& element) {
+  if constexpr (requires { element.record; }) {
+    return element.record->name;
+  } else {
+    return element.name;
+  }
+}
+
+/// A singly linked list of named elements, each name once. It links its elements; who fills it owns them.
+///
+/// A long list that is searched has an index by name. A sorted list takes new elements at its end and brings them to their places when
+/// it is next walked: documents come in any order, and a walk to the place of each of 100,000 names would never end.
+template <class Element, Order order>
+class NameList {
+ public:
+  class Iterator {
+   public:
+    using iterator_category = std::forward_iterator_tag;
+    using value_type = Element;
+    using difference_type = std::ptrdiff_t;
+    using pointer = Element*;
+    using reference = Element&;
+
+    explicit Iterator(Element* element = nullptr) : element_(element) {}
+    Element& operator*() const { return *element_; }
+    Element* operator->() const { return element_; }
+    Iterator& operator++() {
+      element_ = element_->next;
+      return *this;
+    }
+    bool operator==(const Iterator&) const = default;
+
+   private:
+    Element* element_;
+  };
+
+  Iterator begin() const { return Iterator(head()); }
+  Iterator end() const { return Iterator(); }
+
+  /// The first element in the list's order, or null.
+  Element* head() const {
+    settle();
+    return head_;
+  }
+  unsigned size() const { return size_; }
+  bool empty() const { return size_ == 0; }
+
+  /// The element of that name, or null.
+  Element* find(const Text& name) const {
+    if (tail_ && name_of(*tail_) == name) return tail_;  // what has just been added is soon looked for
+    if (size_ > kSearched) {
+      build_index();
+      auto found = index_->find(name);
+      return found == index_->end() ? nullptr : *found;
+    }
+    Element* element = head_;
+    while (element && !(name_of(*element) == name)) element = element->next;
+    return element;
+  }
+
+  /// The same, but quick to find nothing where a name comes in its order.
+  Element* find_before_adding(const Text& name) const {
+    const bool in_order = order == Order::sorted && tail_ && !unsettled_after_ && !rearranged_;
+    return in_order && std::strcmp(name_of(*tail_), name) < 0 ? nullptr : find(name);
+  }
+
+  /// Links an element whose name the list does not hold yet.
+  void link(Element* element) {
+    if (order == Order::sorted && !unsettled_after_ && tail_ && (rearranged_ || before(*element, *tail_))) {
+      unsettled_after_ = tail_;
+    }
+    element->next = nullptr;
+    (tail_ ? tail_->next : head_) = element;
+    tail_ = element;
+    ++size_;
+    if (index_) index_->insert(element);
+  }
+
+  /// Unlinks an element of this list.
+  void unlink(Element* element) {
+    settle();
+    Element* previous = before_element(element);
+    (previous ? previous->next : head_) = element->next;
+    if (tail_ == element) tail_ = previous;
+    --size_;
+    if (index_) index_->erase(element);
+  }
+
+  /// Swaps an element with the one after it; the last element stays.
+  void move_down(Element* element) {
+    settle();
+    rearranged_ = true;
+    Element* follower = element->next;
+    if (!follower) return;
+    Element* previous = before_element(element);
+    (previous ? previous->next : head_) = follower;
+    element->next = follower->next;
+    follower->next = element;
+    if (tail_ == follower) tail_ = element;
+  }
+
+  /// Swaps an element with the one before it; the first element stays.
+  void move_up(Element* element) {
+    settle();
+    if (Element* previous = before_element(element)) move_down(previous);
+  }
+
+ private:
+  struct Hash {
+    using is_transparent = void;
+    static std::size_t spread(const Text& name) { return name.hash() * std::size_t{0x9E3779B97F4A7C15}; }
+    std::size_t operator()(const Text& name) const { return spread(name); }
+    std::size_t operator()(const Element* element) const { return spread(name_of(*element)); }
+  };
+  struct Equal {
+    using is_transparent = void;
+    bool operator()(const Element* a, const Element* b) const { return a == b; }
+    bool operator()(const Element* a, const Text& b) const { return name_of(*a) == b; }
+  };
+  using Index = absl::flat_hash_set<Element*, Hash, Equal>;
+
+  static constexpr unsigned kSearched = 8;  // up to here a search is as quick as an index
+
+  static bool before(const Element& a, const Element& b) { return std::strcmp(name_of(a), name_of(b)) < 0; }
+
+  Element* before_element(const Element* element) const {
+    if (element == head_) return nullptr;
+    Element* previous = head_;
+    while (previous->next != element) previous = previous->next;
+    return previous;
+  }
+
+  void build_index() const {
+    if (index_) return;
+    index_ = std::make_unique<Index>();
+    index_->reserve(size_);
+    for (Element* each = head_; each; each = each->next) index_->insert(each);
+  }
+
+  /// Sorts what was added out of order and merges it with what stands in order already.
+  void settle() const {
+    if (!unsettled_after_) return;
+    std::vector<Element*> late;
+    for (Element* each = unsettled_after_->next; each; each = each->next) late.push_back(each);
+    std::sort(late.begin(), late.end(), [](const Element* a, const Element* b) { return before(*a, *b); });
+    unsettled_after_->next = nullptr;
+    tail_ = nullptr;
+    Element** link = &head_;
+    for (Element* element : late) {
+      while (*link && before(**link, *element)) link = &(*link)->next;
+      element->next = *link;
+      *link = element;
+      link = &element->next;
+    }
+    tail_ = unsettled_after_->next ? late.back() : unsettled_after_;
+    unsettled_after_ = nullptr;
+  }
+
+  mutable Element* head_ = nullptr;
+  mutable Element* tail_ = nullptr;
+  mutable Element* unsettled_after_ = nullptr;  // the last element in order, when later ones are not
+  unsigned size_ = 0;
+  bool rearranged_ = false;  // moves have been made: no longer may a new element be compared with the last one alone
+  mutable std::unique_ptr<Index> index_;  // built when it is first needed
+};
+
+#endif

@@ -1,0 +1,11 @@
+#ifndef VQC_CMD_MODEL_STOP_H
+#define VQC_CMD_MODEL_STOP_H
+
+#include "libkel/text.h"
+
+/// The widget classes to leave out: comma-separated class names, or null.
+inline Text stop_list;
+
+inline void set_stop_list(const Text& text) { stop_list = text; }
+
+#endif

@@ -1,0 +1,74 @@
+#ifndef VQC_CMD_SAVEFILE_LEXER_H
+#define VQC_CMD_SAVEFILE_LEXER_H
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <string_view>
+
+#include "libkel/text.h"
+#include "vqc/cmd/savefile/keywords.h"
+#include "vqc/cmd/savefile/stream.h"
+
+/// The line of the document that is being read, from 1.
+inline int lineno = 0;
+
+/// The kinds of token. They stand apart from the characters' codes, some of which are the same numbers.
+enum class SaveFileToken { keyword = 9, string = 12, integer = 13, identifier = 15, end_of_input = 65535, character = -1 };
+
+/// Turns the characters of one document into tokens.
+class Lexer {
+ public:
+  /// Null reads as an empty document.
+  explicit Lexer(std::unique_ptr<Stream> stream);
+
+  /// Moves to the next character. 0 when there is no open stream: the current character stays.
+  int next_ch();
+
+  /// Reads the next token. 0 for a character that can begin none, and for a lone "-".
+  int next_token();
+
+  /// After this there is only end of input.
+  void close();
+
+  SaveFileToken kind() const { return kind_; }
+  bool is(char character) const { return kind_ == SaveFileToken::character && character_ == character; }
+  bool is(Kw kw) const { return kind_ == SaveFileToken::keyword && keyword_ == kw; }
+  bool is(SaveFileToken kind) const { return kind_ == kind; }
+  Kw keyword() const { return keyword_; }
+  int integer() const { return integer_; }
+  /// The text of a string or identifier, until the next token is read.
+  std::string_view text() const { return {text_.data(), text_size_}; }
+
+ private:
+  static constexpr int kEnd = -1;
+  static constexpr std::size_t kLongest = 2047;  // characters kept of a token
+
+  int current() { return next_ < end_ || fill() ? static_cast<unsigned char>(*next_) : kEnd; }
+  bool fill();
+  void skip_space();
+  void skip_line();
+  void skip_comment();
+  bool skip_to_token();
+  template <class Stop>
+  void keep_until(Stop stop);
+  void keep(const char* from, const char* to);
+  int read_string();
+  void read_escape();
+  int read_word();
+  int read_number(bool negative);
+  int read_minus();
+  int read_character();
+
+  std::unique_ptr<Stream> stream_;
+  const char* next_ = nullptr;  // the current character, unless it is `end_`
+  const char* end_ = nullptr;
+  SaveFileToken kind_ = SaveFileToken::end_of_input;
+  int character_ = 0;
+  Kw keyword_{};
+  int integer_ = 0;
+  std::size_t text_size_ = 0;
+  std::array<char, kLongest> text_;
+};
+
+#endif

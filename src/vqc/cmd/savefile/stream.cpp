@@ -1,0 +1,62 @@
+#include "vqc/cmd/savefile/stream.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace {
+
+constexpr int kNotOpen = -1;
+constexpr mode_t kReadWriteAll = 0666;  // less what the user's umask takes
+
+}  // namespace
+
+std::unique_ptr<Stream> Stream::open(const char* path, const char* mode) {
+  const int flags = *mode == 'w' ? O_WRONLY | O_CREAT | O_TRUNC : O_RDONLY;
+  const int descriptor = ::open(path, flags | O_CLOEXEC, kReadWriteAll);
+  return std::unique_ptr<Stream>(descriptor == kNotOpen ? nullptr : new Stream(descriptor));
+}
+
+Stream::Stream(int descriptor) : descriptor_(descriptor), buffer_(new char[kSize]) {}
+
+Stream::~Stream() { close(); }
+
+std::string_view Stream::read() {
+  ssize_t got = 0;
+  do {
+    got = ::read(descriptor_, buffer_.get(), kSize);
+  } while (got < 0 && errno == EINTR);
+  return {buffer_.get(), got > 0 ? static_cast<std::size_t>(got) : 0};
+}
+
+bool Stream::close() {
+  if (descriptor_ == kNotOpen) return true;
+  const bool flushed = flush();
+  const int flush_error = errno;
+  const bool closed = ::close(descriptor_) == 0;
+  descriptor_ = kNotOpen;
+  if (!flushed) errno = flush_error;
+  return flushed && closed;
+}
+
+bool Stream::write_through(std::string_view text) {
+  const bool flushed = flush();
+  if (text.size() < kSize) return write(text) && flushed;
+  return write_all(text) && flushed;
+}
+
+bool Stream::flush() {
+  const std::size_t used = used_;
+  used_ = 0;
+  return write_all({buffer_.get(), used});
+}
+
+bool Stream::write_all(std::string_view text) {
+  while (!text.empty()) {
+    const ssize_t written = ::write(descriptor_, text.data(), text.size());
+    if (written < 0 && errno != EINTR) return false;
+    if (written > 0) text.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return true;
+}

@@ -1,0 +1,46 @@
+#ifndef VQC_CMD_SAVEFILE_STREAM_H
+#define VQC_CMD_SAVEFILE_STREAM_H
+
+#include <cstddef>
+#include <cstring>
+#include <memory>
+#include <string_view>
+
+/// An open file with a buffer. Closing happens at the latest when it is destroyed.
+class Stream {
+ public:
+  /// Null when the file cannot be opened; errno says why. The mode is "r", or "w" to create or truncate.
+  static std::unique_ptr<Stream> open(const char* path, const char* mode);
+  Stream(const Stream&) = delete;
+  Stream& operator=(const Stream&) = delete;
+  ~Stream();
+
+  /// Writes `text`, which may stay in the buffer. False when what had to leave the buffer could not be written: that
+  /// part is lost and errno says why.
+  bool write(std::string_view text) {
+    if (text.size() > kSize - used_) return write_through(text);
+    std::memcpy(buffer_.get() + used_, text.data(), text.size());
+    used_ += text.size();
+    return true;
+  }
+
+  /// The next part of the file, which stands until the next call; empty at its end or when it cannot be read.
+  std::string_view read();
+
+  /// Writes what the buffer holds and closes the file. False when either fails; true when it was closed already.
+  bool close();
+
+ private:
+  explicit Stream(int descriptor);
+  bool write_through(std::string_view text);
+  bool flush();
+  bool write_all(std::string_view text);
+
+  static constexpr std::size_t kSize = 64 * 1024;
+
+  int descriptor_;
+  std::size_t used_ = 0;
+  std::unique_ptr<char[]> buffer_;
+};
+
+#endif
