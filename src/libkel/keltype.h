@@ -15,8 +15,8 @@ enum KelClass : std::uint16_t {
   KEL_CONTROL = 0x020,      // control characters that are not white space
   KEL_HEX_LETTER = 0x040,
   KEL_UNDERSCORE = 0x080,
-  KEL_BLANK = 0x100,  // the space character only
-  KEL_TAB = 0x200,    // the tab character only
+  KEL_BLANK = 0x100,      // the space character only
+  KEL_TAB = 0x200,        // the tab character only
   KEL_NAME_MARK = 0x400,  // apostrophe, hyphen and full stop
 
   KEL_LETTER = KEL_UPPER | KEL_LOWER,
@@ -27,7 +27,9 @@ enum KelClass : std::uint16_t {
 extern const std::array<std::uint16_t, 257> keltype;
 
 /// Whether the character `c` is in any of the classes of `mask`.
-inline bool kel_is(char c, std::uint16_t mask) { return (keltype[std::size_t{1} + static_cast<unsigned char>(c)] & mask) != 0; }
+inline bool kel_is(char c, std::uint16_t mask) {
+  return (keltype[std::size_t{1} + static_cast<unsigned char>(c)] & mask) != 0;
+}
 
 /// The same for a character from 0 to 255, or -1 for the end of file, which is in none. Nor is any other number.
 inline bool kel_is(int c, std::uint16_t mask) { return c >= 0 && c <= 255 && kel_is(static_cast<char>(c), mask); }

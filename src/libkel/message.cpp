@@ -66,9 +66,9 @@ int vq_syntax_error(int line, const char* name) {
   const char* format = vq_lookup_string("syntax_error");
   const char* shown_name = present(name) ? name : "<unknown error>";
   const char* message = vq_lookup_string(shown_name);
-  return show(filled(present(format) ? format : "Syntax error on line %d: %s",
-                     {line, present(message) ? message : shown_name})
-                  .c_str());
+  return show(
+      filled(present(format) ? format : "Syntax error on line %d: %s", {line, present(message) ? message : shown_name})
+          .c_str());
 }
 
 const char* system_errmsg() { return errno == 0 ? "" : std::strerror(errno); }

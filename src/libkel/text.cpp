@@ -49,7 +49,8 @@ Text::Shared* Text::share(std::string_view s) {
 }
 
 Text::Shared* Text::make(std::string_view s, std::uint32_t hash) {
-  auto* shared = reinterpret_cast<Shared*>(XtMalloc(static_cast<Cardinal>(offsetof(Shared, characters) + s.size() + 1)));
+  auto* shared =
+      reinterpret_cast<Shared*>(XtMalloc(static_cast<Cardinal>(offsetof(Shared, characters) + s.size() + 1)));
   shared->references = 0;
   shared->hash = hash;
   shared->size = s.size() & 0x7FFFFFFF;

@@ -35,7 +35,9 @@ class Text {
   operator const char*() const { return c_str(); }
   /// Null counts as empty.
   bool empty() const { return !shared_ || shared_->characters[0] == '\0'; }
-  std::string_view view() const { return shared_ ? std::string_view(shared_->characters, shared_->size) : std::string_view(); }
+  std::string_view view() const {
+    return shared_ ? std::string_view(shared_->characters, shared_->size) : std::string_view();
+  }
   /// Whether there is a per-cent sign in it, which printing treats specially.
   bool has_percent() const { return shared_ && shared_->has_percent; }
   std::uint32_t hash() const { return shared_ ? shared_->hash : 0; }
@@ -64,6 +66,6 @@ class Text {
 };
 
 /// `text`, or null where it is empty: what an optional value given as '' means.
-inline Text non_empty(Text text) { return text.empty() ? Text() : text; }
+inline Text non_empty(const Text& text) { return text.empty() ? Text() : text; }
 
 #endif

@@ -28,14 +28,11 @@ struct ProcedureKind {
 };
 
 constexpr ProcedureKind procedure_kinds[] = {
-    {&WidgetDef::defined_name,
-     declare<"extern char * @NAME@(char *) ;\n", "extern char * @NAME@() ;\n">},
+    {&WidgetDef::defined_name, declare<"extern char * @NAME@(char *) ;\n", "extern char * @NAME@() ;\n">},
     {&WidgetDef::realise,
-     declare<"extern Widget @NAME@(char *, WidgetClass, Widget, ArgList, Cardinal) ;\n",
-             "extern Widget @NAME@() ;\n">},
+     declare<"extern Widget @NAME@(char *, WidgetClass, Widget, ArgList, Cardinal) ;\n", "extern Widget @NAME@() ;\n">},
     {&WidgetDef::abstract,
-     declare<"extern Boolean @NAME@(XWidget_p, Widget, Boolean *, Boolean *) ;\n",
-             "extern Boolean @NAME@() ;\n">},
+     declare<"extern Boolean @NAME@(XWidget_p, Widget, Boolean *, Boolean *) ;\n", "extern Boolean @NAME@() ;\n">},
     {&WidgetDef::can_add_child,
      declare<"extern Boolean @NAME@(XWidget_p, WidgetClass) ;\n", "extern Boolean @NAME@() ;\n">},
     {&WidgetDef::appropriate_parent,

@@ -9,7 +9,8 @@ constexpr Template array_head = "Resource_t xr_@WIDGET@_resources[] = {\n";
 constexpr Template row =
     "\t{@NAME@, (XrmQuark) 0, @POPUP@@PAGE@, @VISIBLE@, @FREE_GET@, @FREE_SET@, @ACCESS@, @MFC@, @JAVA@, @COUNTER@},\n";
 constexpr Template array_end =
-    "\t{(char *) 0, (XrmQuark) 0, (Popup_p) 0, 0, False, vqc_free_default, vqc_free_default, 0, False, False, (char *) 0}\n"
+    "\t{(char *) 0, (XrmQuark) 0, (Popup_p) 0, 0, False, vqc_free_default, vqc_free_default, 0, False, False, (char *) "
+    "0}\n"
     "};\n\n";
 
 /// A reference into the popup table, up to and with the comma after it.

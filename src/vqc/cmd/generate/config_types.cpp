@@ -84,8 +84,7 @@ void put(Stream& out, const ProcedureFields& fields) {
     return;
   }
   static const Text none;
-  emit<"@PROCEDURE@,@QUOTED_PROCEDURE@">(out,
-                                         Or{converter.add_in_vq ? converter.proc_name : none, "(Boolean (*)()) 0"},
+  emit<"@PROCEDURE@,@QUOTED_PROCEDURE@">(out, Or{converter.add_in_vq ? converter.proc_name : none, "(Boolean (*)()) 0"},
                                          Quoted{converter.add_in_code ? converter.proc_name : none, "(char *) 0"});
 }
 
@@ -129,8 +128,7 @@ void write_converter_declarations(Run& run) {
     each_once(family.converters, run.verbose, heading, [&](const ConverterDef& converter, bool repeat) {
       visited = true;
       if (!declares(converter)) return;
-      write_around(run.out, around_block, repeat,
-                   [&] { emit<converter_declaration>(run.out, converter.proc_name); });
+      write_around(run.out, around_block, repeat, [&] { emit<converter_declaration>(run.out, converter.proc_name); });
     });
     charout(&run.out, "\n");
   });
@@ -142,12 +140,13 @@ void write_converters(Run& run) {
   emit<converters_title>(run.out);
   emit<converters_head>(run.out, vqc_get_converters_variable());
   each_family([&](Family& family) {
-    each_once(family.converters, run.verbose, Heading(run, family, nullptr), [&](const ConverterDef& each, bool repeat) {
-      write_around(run.out, around_row, repeat, [&] {
-        emit<converter_row>(run.out, each.name, each.name, ProcedureFields{each},
-                            PopupField{written_popup(each.dialog)});
-      });
-    });
+    each_once(family.converters, run.verbose, Heading(run, family, nullptr),
+              [&](const ConverterDef& each, bool repeat) {
+                write_around(run.out, around_row, repeat, [&] {
+                  emit<converter_row>(run.out, each.name, each.name, ProcedureFields{each},
+                                      PopupField{written_popup(each.dialog)});
+                });
+              });
   });
   emit<converters_end>(run.out);
 }

@@ -87,17 +87,28 @@ inline void put(Stream& out, const Quoted& value) {
   put(out, std::string_view("\""));
 }
 
+namespace emit_detail {
+
+template <Template source, std::size_t i>
+void put_literal(Stream& out) {
+  constexpr Piece piece = pieces<source>[i];
+  if constexpr (piece.size != 0) rawout(&out, std::string_view(source.text + piece.begin, piece.size));
+}
+
+template <Template source, std::size_t... i, class... Values>
+void put_all(Stream& out, std::index_sequence<i...> /*places*/, const Values&... values) {
+  put_literal<source, 0>(out);
+  ((put(out, values), put_literal<source, 2 * i + 2>(out)), ...);
+}
+
+}  // namespace emit_detail
+
 /// Emits a template with `values` in place of its names, in the order in which the names stand.
 template <Template source, class... Values>
 void emit(Stream& out, const Values&... values) {
-  constexpr auto& pieces = emit_detail::pieces<source>;
-  static_assert(pieces.size() == 2 * sizeof...(Values) + 1, "a value for each name");
-  static constexpr auto& text = source.text;
+  static_assert(source.count('@') == 2 * sizeof...(Values), "a value for each name");
   static_assert(source.count('%') == 0, "literal text is written as it stands");
-  const auto literal = [&](std::size_t i) { rawout(&out, std::string_view(text + pieces[i].begin, pieces[i].size)); };
-  std::size_t i = 0;
-  literal(i);
-  ((put(out, values), literal(i += 2)), ...);
+  emit_detail::put_all<source>(out, std::index_sequence_for<Values...>{}, values...);
 }
 
 #endif

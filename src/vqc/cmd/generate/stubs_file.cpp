@@ -21,8 +21,7 @@ struct StubKind {
 
 constexpr const char* kEmptyBody = "{\n\t/* FIXME */\n}\n\n";
 
-constexpr StubKind name_procedure{
-    "char *", "name", {"char *name"}, "{\n\t/* FIXME */\n\n\treturn (name) ;\n}\n\n"};
+constexpr StubKind name_procedure{"char *", "name", {"char *name"}, "{\n\t/* FIXME */\n\n\treturn (name) ;\n}\n\n"};
 constexpr StubKind create_procedure{
     "Widget ",
     "name, widget_class, parent, args, arg_count",
@@ -34,23 +33,20 @@ constexpr StubKind abstract_edit_procedure{
     {"XWidget_p xwidget", "Widget    abstract_child", "Boolean  *recurse", "Boolean  *editable"},
     "{\n\t/* FIXME */\n\n\t*recurse  = True ;\n\t*editable = True ;\n\n\treturn True ;\n}\n\n",
     1};
-constexpr StubKind child_test{
-    "Boolean ",
-    "parent_xwidget, child_class",
-    {"XWidget_p   parent_xwidget", "WidgetClass child_class"},
-    "{\n\t/* FIXME */\n\n\treturn False ;\n}\n\n"};
-constexpr StubKind parent_test{
-    "Boolean ",
-    "parent, child_class",
-    {"Widget      parent", "WidgetClass child_class"},
-    "{\n\t/* FIXME */\n\n\treturn True ;\n}\n\n"};
+constexpr StubKind child_test{"Boolean ",
+                              "parent_xwidget, child_class",
+                              {"XWidget_p   parent_xwidget", "WidgetClass child_class"},
+                              "{\n\t/* FIXME */\n\n\treturn False ;\n}\n\n"};
+constexpr StubKind parent_test{"Boolean ",
+                               "parent, child_class",
+                               {"Widget      parent", "WidgetClass child_class"},
+                               "{\n\t/* FIXME */\n\n\treturn True ;\n}\n\n"};
 constexpr StubKind family_initialisation{"void ", "shell", {"Widget shell"}, kEmptyBody};
 constexpr StubKind popup_create{"void ", "parent", {"Widget parent"}, kEmptyBody};
-constexpr StubKind popup_initialise{
-    "void ",
-    "source_text, current, resource_name",
-    {"Widget      source_text", "Widget      current", "char       *resource_name"},
-    kEmptyBody};
+constexpr StubKind popup_initialise{"void ",
+                                    "source_text, current, resource_name",
+                                    {"Widget      source_text", "Widget      current", "char       *resource_name"},
+                                    kEmptyBody};
 constexpr StubKind popup_update{"void ", "current", {"Widget current"}, kEmptyBody};
 
 void write_new_style_head(Stream& out, const StubKind& kind, const Text& name) {
@@ -115,10 +111,8 @@ void write_stub_functions(Run& run) {
   };
   Stubs init_stubs(family_initialisation);
   WidgetStubs widget_stubs[] = {
-      {&WidgetDef::defined_name, Stubs(name_procedure)},
-      {&WidgetDef::realise, Stubs(create_procedure)},
-      {&WidgetDef::abstract, Stubs(abstract_edit_procedure)},
-      {&WidgetDef::can_add_child, Stubs(child_test)},
+      {&WidgetDef::defined_name, Stubs(name_procedure)},      {&WidgetDef::realise, Stubs(create_procedure)},
+      {&WidgetDef::abstract, Stubs(abstract_edit_procedure)}, {&WidgetDef::can_add_child, Stubs(child_test)},
       {&WidgetDef::appropriate_parent, Stubs(parent_test)},
   };
   bool written = false;

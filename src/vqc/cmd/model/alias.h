@@ -18,7 +18,9 @@ inline ErrorCode aliaslist_add(const Text& name, Family* family) { return alias_
 inline ErrorCode aliaslist_delete(Family* family, const Text& name) { return alias_kind.remove(family, name); }
 inline Reference<AliasDef>* aliaslist_first(const Family* family) { return alias_kind.first(family); }
 inline Reference<AliasDef>* aliaslist_next() { return alias_kind.next(); }
-inline Reference<AliasDef>* aliaslist_ptr(const Family* family, const Text& name) { return alias_kind.ptr(family, name); }
+inline Reference<AliasDef>* aliaslist_ptr(const Family* family, const Text& name) {
+  return alias_kind.ptr(family, name);
+}
 inline int aliaslist_count(const Family* family) { return alias_kind.count(family); }
 /// Counted from 1; 0 when absent.
 inline int aliaslist_index(const Family* family, const Text& name) { return alias_kind.index(family, name); }

@@ -26,8 +26,9 @@ const Text& name_of(const Element& element) {
 
 /// A singly linked list of named elements, each name once. It links its elements; who fills it owns them.
 ///
-/// A long list that is searched has an index by name. A sorted list takes new elements at its end and brings them to their places when
-/// it is next walked: documents come in any order, and a walk to the place of each of 100,000 names would never end.
+/// A long list that is searched has an index by name. A sorted list takes new elements at its end and brings them to
+/// their places when it is next walked: documents come in any order, and a walk to the place of each of 100,000 names
+/// would never end.
 template <class Element, Order order>
 class NameList {
  public:

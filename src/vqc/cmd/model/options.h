@@ -34,16 +34,9 @@ inline NameOptions name_options;
 
 /// Where they stand, in that order.
 inline constexpr NameOption NameOptions::*all_name_options[] = {
-    &NameOptions::family_table,
-    &NameOptions::family_names,
-    &NameOptions::xwidgets,
-    &NameOptions::stop_list,
-    &NameOptions::popups,
-    &NameOptions::page_names,
-    &NameOptions::family_count,
-    &NameOptions::enumerations,
-    &NameOptions::converters,
-    &NameOptions::aliases,
+    &NameOptions::family_table, &NameOptions::family_names, &NameOptions::xwidgets,     &NameOptions::stop_list,
+    &NameOptions::popups,       &NameOptions::page_names,   &NameOptions::family_count, &NameOptions::enumerations,
+    &NameOptions::converters,   &NameOptions::aliases,
 };
 
 /// What the user's resource files say about the whole program. A batch run reads none, so that all are off.

@@ -67,9 +67,7 @@ class FamilyList
   Element* first(const Family* family) { return family ? Base::first(family->*member) : nullptr; }
   Element* ptr(const Family* family, const Text& name) { return family ? Base::ptr(family->*member, name) : nullptr; }
   int count(const Family* family) const { return family ? static_cast<int>((family->*member).size()) : 0; }
-  int index(const Family* family, const Text& name) const {
-    return family ? Base::position(family->*member, name) : 0;
-  }
+  int index(const Family* family, const Text& name) const { return family ? Base::position(family->*member, name) : 0; }
   ErrorCode move_up(Family* family, const Text& name) {
     return family ? Base::move_up(family->*member, name) : codes.no_owner;
   }

@@ -18,7 +18,9 @@ inline ErrorCode popuplist_add(const Text& name, Family* family) { return popup_
 inline ErrorCode popuplist_delete(Family* family, const Text& name) { return popup_kind.remove(family, name); }
 inline Reference<PopupDef>* popuplist_first(const Family* family) { return popup_kind.first(family); }
 inline Reference<PopupDef>* popuplist_next() { return popup_kind.next(); }
-inline Reference<PopupDef>* popuplist_ptr(const Family* family, const Text& name) { return popup_kind.ptr(family, name); }
+inline Reference<PopupDef>* popuplist_ptr(const Family* family, const Text& name) {
+  return popup_kind.ptr(family, name);
+}
 inline int popuplist_count(const Family* family) { return popup_kind.count(family); }
 /// Counted from 1; 0 when absent.
 inline int popuplist_index(const Family* family, const Text& name) { return popup_kind.index(family, name); }

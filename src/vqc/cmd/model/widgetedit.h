@@ -18,7 +18,9 @@ inline ErrorCode widgetlist_add(const Text& name, Family* family) { return widge
 inline ErrorCode widgetlist_delete(Family* family, const Text& name) { return widget_kind.remove(family, name); }
 inline Reference<WidgetDef>* widgetlist_first(const Family* family) { return widget_kind.first(family); }
 inline Reference<WidgetDef>* widgetlist_next() { return widget_kind.next(); }
-inline Reference<WidgetDef>* widgetlist_ptr(const Family* family, const Text& name) { return widget_kind.ptr(family, name); }
+inline Reference<WidgetDef>* widgetlist_ptr(const Family* family, const Text& name) {
+  return widget_kind.ptr(family, name);
+}
 inline int widgetlist_count(const Family* family) { return widget_kind.count(family); }
 /// Counted from 1; 0 when absent.
 inline int widgetlist_index(const Family* family, const Text& name) { return widget_kind.index(family, name); }

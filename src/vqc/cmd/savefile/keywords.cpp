@@ -102,7 +102,8 @@ const Keyword* find_keyword(std::string_view word) {
   const auto letter = static_cast<unsigned char>(word[0]);
   const Keyword* begin = keywords + first_with_letter[letter];
   const Keyword* end = keywords + first_with_letter[letter + std::size_t{1}];
-  const Keyword* found = std::lower_bound(begin, end, word, [](const Keyword& k, std::string_view w) { return k.word < w; });
+  const Keyword* found =
+      std::lower_bound(begin, end, word, [](const Keyword& k, std::string_view w) { return k.word < w; });
   return found != end && found->word == word ? found : nullptr;
 }
 

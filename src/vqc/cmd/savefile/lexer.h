@@ -14,7 +14,14 @@
 inline int lineno = 0;
 
 /// The kinds of token. They stand apart from the characters' codes, some of which are the same numbers.
-enum class SaveFileToken { keyword = 9, string = 12, integer = 13, identifier = 15, end_of_input = 65535, character = -1 };
+enum class SaveFileToken {
+  keyword = 9,
+  string = 12,
+  integer = 13,
+  identifier = 15,
+  end_of_input = 65535,
+  character = -1
+};
 
 /// Turns the characters of one document into tokens.
 class Lexer {

@@ -141,14 +141,12 @@ bool Reader::take_boolean(bool& flag) {
 }
 
 // assigned := "=" NAME
-bool Reader::assigned(Text& name) {
-  return expect('=') && take_name(name);
-}
+bool Reader::assigned(Text& name) { return expect('=') && take_name(name); }
 
 /// An empty value takes the place of none.
 bool Reader::assigned_optional(Text& value) {
   if (!assigned(value)) return false;
-  value = non_empty(std::move(value));
+  value = non_empty(value);
   return true;
 }
 

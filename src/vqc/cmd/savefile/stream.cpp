@@ -52,7 +52,7 @@ bool Stream::flush() {
   return write_all({buffer_.get(), used});
 }
 
-bool Stream::write_all(std::string_view text) {
+bool Stream::write_all(std::string_view text) const {
   while (!text.empty()) {
     const ssize_t written = ::write(descriptor_, text.data(), text.size());
     if (written < 0 && errno != EINTR) return false;

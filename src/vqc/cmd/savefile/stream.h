@@ -34,9 +34,9 @@ class Stream {
   explicit Stream(int descriptor);
   bool write_through(std::string_view text);
   bool flush();
-  bool write_all(std::string_view text);
+  bool write_all(std::string_view text) const;
 
-  static constexpr std::size_t kSize = 64 * 1024;
+  static constexpr std::size_t kSize = std::size_t{64} * 1024;
 
   int descriptor_;
   std::size_t used_ = 0;

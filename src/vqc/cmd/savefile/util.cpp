@@ -9,13 +9,6 @@
 
 namespace {
 
-int report_write_failure() {
-  error_show_1s("file_write_fail", system_errmsg());
-  return 0;
-}
-
-int write(Stream& stream, std::string_view text) { return stream.write(text) ? 1 : report_write_failure(); }
-
 /// `text` with each "%%" made one, as a formatted printer would print it.
 std::string with_single_percents(std::string_view text) {
   std::string result;
@@ -27,6 +20,11 @@ std::string with_single_percents(std::string_view text) {
 }
 
 }  // namespace
+
+int report_write_failure() {
+  error_show_1s("file_write_fail", system_errmsg());
+  return 0;
+}
 
 std::unique_ptr<Stream> openfile(const char* path, const char* mode) {
   std::unique_ptr<Stream> stream = path && mode ? Stream::open(path, mode) : nullptr;
@@ -43,12 +41,7 @@ int charout(Stream* stream, const char* text) {
 int charout(Stream* stream, std::string_view text) {
   if (!stream) return 0;
   const bool plain = text.empty() || std::memchr(text.data(), '%', text.size()) == nullptr;
-  return plain ? write(*stream, text) : write(*stream, with_single_percents(text));
-}
-
-int charout(Stream* stream, const Text& text) {
-  if (text.has_percent()) return charout(stream, text.view());
-  return stream ? write(*stream, text.view()) : 0;
+  return rawout(stream, plain ? text : with_single_percents(text));
 }
 
 int charout_1s(Stream* stream, const char* format, const char* argument) {
@@ -66,8 +59,6 @@ int strout(Stream* stream, const char* text) {
 int stringout(Stream* stream, const char* text) {
   return charout(stream, "\"") && charout(stream, text) && charout(stream, "\"");
 }
-
-int rawout(Stream* stream, std::string_view text) { return stream ? write(*stream, text) : report_write_failure(); }
 
 int boolout(Stream* stream, bool flag) { return rawout(stream, flag ? "True" : "False"); }
 
