@@ -1,0 +1,62 @@
+# The front door. Every target installs what it needs first; scripts/ and CMakePresets.json hold the details.
+
+PREFIX ?= /usr/local
+DESTDIR ?=
+FUZZ_SECONDS ?= 60
+
+RELEASE = build/release
+SOURCES = git ls-files '*.cpp' '*.h'
+
+.PHONY: all run test bench fuzz install format lint clean
+
+all:
+	@scripts/install-packages build
+	@scripts/configure release -DBUILD_TESTING=OFF
+	@cmake --build $(RELEASE)
+
+# Generates from the shipped example, compiles what comes out, and runs it.
+run: all
+	@scripts/install-packages run
+	@$(MAKE) --no-print-directory -C examples/runtime run VQCONFIG=$(CURDIR)/$(RELEASE)/vqconfig OUT=$(CURDIR)/build/example
+
+# Everything under the sanitizers, the program and the example as they are shipped, and each fuzzer for a moment.
+test:
+	@scripts/install-packages build run test
+	@scripts/configure asan
+	@cmake --build build/asan
+	@cmake --build build/asan --target all_verify_interface_header_sets
+	ctest --preset asan
+	@scripts/configure fuzz
+	@cmake --build build/fuzz --target fuzzers
+	ctest --preset fuzz -R '^fuzz_.*_run$$'
+	@scripts/configure release -DBUILD_TESTING=ON
+	@cmake --build $(RELEASE)
+	ctest --preset release
+
+bench:
+	@scripts/install-packages build bench
+	@scripts/configure release -DBUILD_TESTING=OFF
+	@cmake --build $(RELEASE) --target vqconfig bench_tools
+	python3 bench/bench.py --vqconfig $(RELEASE)/vqconfig --tools $(RELEASE)/bench
+
+fuzz:
+	@scripts/install-packages build test
+	@scripts/configure fuzz
+	@cmake --build build/fuzz --target fuzzers
+	FUZZ_SECONDS=$(FUZZ_SECONDS) cmake --build build/fuzz --target fuzz
+
+install: all
+	DESTDIR=$(DESTDIR) cmake --install $(RELEASE) --prefix $(PREFIX)
+
+format:
+	@scripts/install-packages lint
+	$(SOURCES) | xargs clang-format -i
+
+lint:
+	@scripts/install-packages build test lint
+	$(SOURCES) | xargs clang-format --dry-run -Werror
+	@scripts/configure asan
+	git ls-files 'src/*.cpp' | xargs -P 2 -n 1 clang-tidy --quiet -p build/asan
+
+clean:
+	rm -rf build
