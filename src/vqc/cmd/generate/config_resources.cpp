@@ -22,11 +22,11 @@ void put(Stream& out, PopupField field) {
   if (field.popup) {
     emit<"&(@POPUPS@[@INDEX@]),">(out, vqc_get_popups_variable(), field.popup->index);
   } else {
-    charout(&out, "(Popup_p) 0, ");
+    rawout(&out, "(Popup_p) 0, ");
   }
 }
 
-const char* free_word(FreeMode mode, const WidgetDef& widget) {
+std::string_view free_word(FreeMode mode, const WidgetDef& widget) {
   switch (mode) {
     case FreeMode::by_default:
       return widget.default_is_dont_free ? "vqc_dont_free" : "vqc_free_default";

@@ -73,7 +73,8 @@ struct Suffixed {
 };
 
 inline void put(Stream& out, const char* text) { charout(&out, text); }
-inline void put(Stream& out, std::string_view text) { charout(&out, text); }
+/// A text of the program's own: it holds no per-cent sign.
+inline void put(Stream& out, std::string_view text) { rawout(&out, text); }
 inline void put(Stream& out, const Text& text) { charout(&out, text); }
 inline void put(Stream& out, bool flag) { boolout(&out, flag); }
 inline void put(Stream& out, int number) { intout(&out, number); }
@@ -82,9 +83,9 @@ inline void put(Stream& out, const Verbatim& value) { ptrout(&out, value.text); 
 inline void put(Stream& out, const Suffixed& value) { ptrsfxout(&out, value.text, value.suffix); }
 inline void put(Stream& out, const Quoted& value) {
   if (!value.text) return put(out, value.fallback);
-  put(out, std::string_view("\""));
+  rawout(&out, "\"");
   put(out, value.text);
-  put(out, std::string_view("\""));
+  rawout(&out, "\"");
 }
 
 namespace emit_detail {

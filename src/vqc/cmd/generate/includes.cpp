@@ -1,6 +1,6 @@
 #include "vqc/cmd/generate/includes.h"
 
-#include <unistd.h>
+#include "vqc/cmd/generate/file_finder.h"
 
 namespace {
 
@@ -19,9 +19,6 @@ constexpr const char* kTitle = "Header files";
 
 using HeaderList = References<HeaderEntry, Order::appended>;
 
-/// Whether the header is a file that can be reached from the current directory.
-bool is_file(const HeaderEntry& header) { return access(header.name, F_OK) == 0; }
-
 /// Includes one header, unless it has no name. True when it was written.
 bool write_include(Run& run, HeaderEntry& header, Heading& heading) {
   done(header) = true;
@@ -31,13 +28,14 @@ bool write_include(Run& run, HeaderEntry& header, Heading& heading) {
   return true;
 }
 
-/// Includes the headers that are found through the compiler's search path. True when any was written.
-bool write_system_headers(Run& run, Family& family, const HeaderList& headers) {
+/// Includes the headers that are no files for the current directory, and so are found through the compiler's search
+/// path. True when any was written.
+bool write_system_headers(Run& run, Family& family, const HeaderList& headers, FileFinder& files) {
   Heading heading(run, family, kTitle);
   bool written = false;
   for (auto& reference : headers) {
     HeaderEntry& header = *reference.record;
-    if (!done(header) && !is_file(header)) written |= write_include(run, header, heading);
+    if (!done(header) && !files.exists(header.name)) written |= write_include(run, header, heading);
   }
   return written;
 }
@@ -61,8 +59,9 @@ template <class Pool>
 void write_includes(Run& run, Pool& pool, HeaderList Family::*headers) {
   emit<prelude>(run.out, kProgramName);
   clear_done(pool);
+  FileFinder files;
   bool written = false;
-  each_family([&](Family& family) { written |= write_system_headers(run, family, family.*headers); });
+  each_family([&](Family& family) { written |= write_system_headers(run, family, family.*headers, files); });
   each_family([&](Family& family) { written |= write_own_headers(run, family, family.*headers); });
   if (written) charout(&run.out, "\n");
 }

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "libkel/text.h"
+#include "vqc/cmd/model/sort_by_name.h"
 
 enum class Order { sorted, appended };
 
@@ -159,19 +160,18 @@ class NameList {
   /// Sorts what was added out of order and merges it with what stands in order already.
   void settle() const {
     if (!unsettled_after_) return;
-    std::vector<Element*> late;
-    for (Element* each = unsettled_after_->next; each; each = each->next) late.push_back(each);
-    std::sort(late.begin(), late.end(), [](const Element* a, const Element* b) { return before(*a, *b); });
+    std::vector<Named<Element>> late;
+    for (Element* each = unsettled_after_->next; each; each = each->next) late.push_back({0, name_of(*each), each});
+    sort_by_name(late);
     unsettled_after_->next = nullptr;
-    tail_ = nullptr;
     Element** link = &head_;
-    for (Element* element : late) {
-      while (*link && before(**link, *element)) link = &(*link)->next;
+    for (const auto& [key, name, element] : late) {
+      while (*link && std::strcmp(name_of(**link), name) < 0) link = &(*link)->next;
       element->next = *link;
       *link = element;
       link = &element->next;
     }
-    tail_ = unsettled_after_->next ? late.back() : unsettled_after_;
+    tail_ = unsettled_after_->next ? late.back().element : unsettled_after_;
     unsettled_after_ = nullptr;
   }
 

@@ -1,16 +1,55 @@
 #include "vqc/cmd/savefile/lexer.h"
 
-#include <cstring>
+#include <algorithm>
+#include <cstdint>
 #include <utility>
 
 #include "libkel/keltype.h"
 
 namespace {
 
-constexpr std::string_view kSingles = "=,;()*:{}";
+/// What a character begins where a token may begin.
+enum class Start : std::uint8_t { invalid, end, space, line_comment, slash, string, minus, digit, word, single };
+
+constexpr Start start_of(char c) {
+  if (kel_is(c, KEL_SPACE)) return Start::space;
+  if (kel_is(c, KEL_LETTER | KEL_UNDERSCORE)) return Start::word;
+  if (kel_is(c, KEL_DIGIT)) return Start::digit;
+  switch (c) {
+    case '!':
+      return Start::line_comment;
+    case '/':
+      return Start::slash;
+    case '\'':
+      return Start::string;
+    case '-':
+      return Start::minus;
+    default:
+      return std::string_view("=,;()*:{}").find(c) == std::string_view::npos ? Start::invalid : Start::single;
+  }
+}
+
+constexpr bool ends_word(char c) { return !kel_is(c, KEL_IDENTIFIER) && c != '.'; }
+
+constexpr bool ends_plain_string(char c) { return c == '\'' || c == '\\' || c == '\n'; }
+
+/// A function of characters as a table: these are asked for every character of a document.
+template <auto function>
+constexpr auto table = [] {
+  std::array<decltype(function('\0')), 256> values{};
+  for (std::size_t c = 0; c < values.size(); ++c) values[c] = function(static_cast<char>(c));
+  return values;
+}();
+
+/// The first character from `from` for which `test` holds, or `to`.
+template <bool (*test)(char)>
+const char* find(const char* from, const char* to) {
+  while (from < to && !table<test>[static_cast<unsigned char>(*from)]) ++from;
+  return from;
+}
 
 /// What a backslash makes of the character after it.
-char escaped(int c) {
+constexpr char escaped(char c) {
   switch (c) {
     case 'b':
       return '\b';
@@ -23,11 +62,9 @@ char escaped(int c) {
     case 't':
       return '\t';
     default:
-      return static_cast<char>(c);
+      return c;
   }
 }
-
-bool ends_word(char c) { return !kel_is(c, KEL_IDENTIFIER) && c != '.'; }
 
 }  // namespace
 
@@ -59,37 +96,39 @@ int Lexer::next_ch() {
 }
 
 int Lexer::next_token() {
-  text_size_ = 0;
-  if (!skip_to_token()) {
-    const int c = current();
-    if (c == '\'') return read_string();
-    if (c == '-') return read_minus();
-    if (kel_is(c, KEL_DIGIT)) return read_number(false);
-    if (kel_is(c, KEL_LETTER | KEL_UNDERSCORE)) return read_word();
-  }
-  return read_character();
-}
-
-/// Skips white space and comments. True when a "/" that begins no comment was skipped: whatever follows it, even
-/// white space or a letter, is a token of its own.
-bool Lexer::skip_to_token() {
+  text_ = {};
   for (;;) {
-    skip_space();
     const int c = current();
-    if (c == '!') {
-      skip_line();
-    } else if (c == '/') {
-      next_ch();
-      if (current() != '*') return true;
-      skip_comment();
-    } else {
-      return false;
+    switch (c == kEnd ? Start::end : table<start_of>[static_cast<std::size_t>(c)]) {
+      case Start::space:
+        skip_space();
+        break;
+      case Start::line_comment:
+        skip_line();
+        break;
+      case Start::slash:
+        next_ch();
+        if (current() != '*') return read_character();  // whatever follows, even white space, is a token of its own
+        skip_comment();
+        break;
+      case Start::string:
+        return read_string();
+      case Start::word:
+        return read_word();
+      case Start::digit:
+        return read_number(false);
+      case Start::minus:
+        return read_minus();
+      default:
+        return read_character();
     }
   }
 }
 
 void Lexer::skip_space() {
-  while (kel_is(current(), KEL_SPACE)) next_ch();
+  do {
+    for (; next_ < end_ && kel_is(*next_, KEL_SPACE); ++next_) lineno += *next_ == '\n';
+  } while (next_ == end_ && fill());
 }
 
 void Lexer::skip_line() {
@@ -106,27 +145,44 @@ void Lexer::skip_comment() {
   }
 }
 
+/// Takes the characters up to `to` as the token's text where they stand, if there is more in the buffer after them.
+/// False for a token that has to be put together from pieces, or cut.
+bool Lexer::take_whole(const char* to) {
+  const auto size = static_cast<std::size_t>(to - next_);
+  if (to == end_ || size > kLongest) return false;
+  text_ = {next_, size};
+  next_ = to;
+  return true;
+}
+
 /// Keeps characters up to the first that `stop` holds for, or the end of the document.
-template <class Stop>
-void Lexer::keep_until(Stop stop) {
+template <bool (*stop)(char)>
+void Lexer::keep_until() {
   do {
     const char* from = next_;
-    while (next_ < end_ && !stop(*next_)) ++next_;
+    next_ = find<stop>(next_, end_);
     keep(from, next_);
   } while (next_ == end_ && fill());
 }
 
 void Lexer::keep(const char* from, const char* to) {
-  const std::size_t size = std::min(static_cast<std::size_t>(to - from), kLongest - text_size_);
-  if (size != 0) std::memcpy(text_.data() + text_size_, from, size);
-  text_size_ += size;
+  const std::size_t size = std::min(static_cast<std::size_t>(to - from), kLongest - text_.size());
+  std::copy_n(from, size, kept_.data() + text_.size());
+  text_ = {kept_.data(), text_.size() + size};
 }
 
 int Lexer::read_string() {
   kind_ = SaveFileToken::string;
-  next_ch();
+  ++next_;
+  const char* to = find<ends_plain_string>(next_, end_);
+  if (to == end_ || *to != '\'' || !take_whole(to)) return read_string_in_pieces();
+  ++next_;
+  return 1;
+}
+
+int Lexer::read_string_in_pieces() {
   for (;;) {
-    keep_until([](char c) { return c == '\'' || c == '\\' || c == '\n'; });
+    keep_until<ends_plain_string>();
     const int c = current();
     if (c == '\\') {
       read_escape();
@@ -142,7 +198,7 @@ void Lexer::read_escape() {
   next_ch();
   int c = current();
   if (c == kEnd) return;
-  char result = escaped(c);
+  char result = escaped(static_cast<char>(c));
   if (kel_is(c, KEL_DIGIT)) {
     unsigned code = 0;
     for (; kel_is(c, KEL_DIGIT); c = current()) {
@@ -157,8 +213,8 @@ void Lexer::read_escape() {
 }
 
 int Lexer::read_word() {
-  keep_until(ends_word);
-  const Keyword* keyword = find_keyword(text());
+  if (!take_whole(find<ends_word>(next_, end_))) keep_until<ends_word>();
+  const Keyword* keyword = find_keyword(text_);
   kind_ = keyword ? SaveFileToken::keyword : SaveFileToken::identifier;
   if (keyword) keyword_ = keyword->kw;
   return 1;
@@ -185,7 +241,11 @@ int Lexer::read_minus() {
 
 int Lexer::read_character() {
   character_ = current();
-  kind_ = character_ == kEnd ? SaveFileToken::end_of_input : SaveFileToken::character;
+  if (character_ == kEnd) {
+    kind_ = SaveFileToken::end_of_input;
+    return 1;
+  }
+  kind_ = SaveFileToken::character;
   next_ch();
-  return kind_ == SaveFileToken::end_of_input || kSingles.find(static_cast<char>(character_)) != std::string_view::npos;
+  return table<start_of>[static_cast<std::size_t>(character_)] == Start::single ? 1 : 0;
 }

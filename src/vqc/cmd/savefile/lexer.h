@@ -45,7 +45,7 @@ class Lexer {
   Kw keyword() const { return keyword_; }
   int integer() const { return integer_; }
   /// The text of a string or identifier, until the next token is read.
-  std::string_view text() const { return {text_.data(), text_size_}; }
+  std::string_view text() const { return text_; }
 
  private:
   static constexpr int kEnd = -1;
@@ -56,11 +56,12 @@ class Lexer {
   void skip_space();
   void skip_line();
   void skip_comment();
-  bool skip_to_token();
-  template <class Stop>
-  void keep_until(Stop stop);
+  bool take_whole(const char* to);
+  template <bool (*stop)(char)>
+  void keep_until();
   void keep(const char* from, const char* to);
   int read_string();
+  int read_string_in_pieces();
   void read_escape();
   int read_word();
   int read_number(bool negative);
@@ -74,8 +75,8 @@ class Lexer {
   int character_ = 0;
   Kw keyword_{};
   int integer_ = 0;
-  std::size_t text_size_ = 0;
-  std::array<char, kLongest> text_;
+  std::string_view text_;  // in the stream's buffer or in `kept_`
+  std::array<char, kLongest> kept_;
 };
 
 #endif

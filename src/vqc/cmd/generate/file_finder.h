@@ -1,0 +1,28 @@
+#ifndef VQC_CMD_GENERATE_FILE_FINDER_H
+#define VQC_CMD_GENERATE_FILE_FINDER_H
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+
+/// Tells which paths are those of files, for as long as one generation takes. Asking the system for each of very many
+/// headers costs more than writing them; most can be ruled out because their folder does not list them.
+class FileFinder {
+ public:
+  /// Whether something of that name can be reached.
+  bool exists(const char* path);
+
+ private:
+  struct Folder {
+    bool listed = false;                    // otherwise every name has to be asked for
+    std::unordered_set<std::string> names;  // in lower case, which some file systems do not tell from upper case
+  };
+
+  const Folder& folder(std::string_view path);
+
+  int asked_ = 0;
+  std::unordered_map<std::string, Folder> folders_;
+};
+
+#endif
