@@ -15,10 +15,8 @@ constexpr Template class_record =
     "\t&@NAME@, \"@NAME@\", @INCLUDE@, \n"
     "\t@FAMILY_INDEX@, @DEFINED_NAME@, (int (*)()) 0, (int (*)()) 0,\n"
     "\t@REALISE@, @ABSTRACT@, (int (*)()) 0, (int (*)()) 0, (int (*)()) 0, (int (*)()) 0,\n"
-    "\t@CAN_ADD_CHILD@, @APPROPRIATE_PARENT@, (int (*)()) 0, (int (*)()) 0, (int (*)()) 0, (Dialog_p) 0, (Dialog_p) "
-    "0,\n"
-    "\t@DISABLEGOTO@, @DISABLEFGSWAP@, @CAN_CREATE@, @CAN_MANAGE@, @CAN_EDIT_ABSTRACT@, @GENERATE_INITIALISE@,"
-    " False, False, 0, \n"
+    "\t@CAN_ADD_CHILD@, @APPROPRIATE_PARENT@, (int (*)()) 0, (int (*)()) 0, (int (*)()) 0, (Dialog_p) 0, (Dialog_p) 0,\n"
+    "\t@DISABLEGOTO@, @DISABLEFGSWAP@, @CAN_CREATE@, @CAN_MANAGE@, @CAN_EDIT_ABSTRACT@, @GENERATE_INITIALISE@, False, False, 0, \n"
     "\t{0, (unsigned char *) @LARGE_BITS@, @LARGE_WIDTH@, @LARGE_HEIGHT@,\n"
     "\t (unsigned char *) @SMALL_BITS@, @SMALL_WIDTH@, @SMALL_HEIGHT@, @PIXMAP_RESOURCE@, 0, 0, 0, 0, False},\n"
     "\t(Widget) 0, @RESOURCES@, @WIDGET_DOC@, @WIDGET_TAG@, @DIALOGUE_DOC@, @DIALOGUE_TAG@, False, 0};\n";

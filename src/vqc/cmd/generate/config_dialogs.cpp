@@ -73,6 +73,14 @@ const PopupDef* written_popup(const Text& name) {
   return popup && done(*popup) ? popup : nullptr;
 }
 
+void put(Stream& out, const PopupReference& reference) {
+  if (reference.popup) {
+    emit<"&(@POPUPS@[@INDEX@])">(out, vqc_get_popups_variable(), reference.popup->index);
+  } else {
+    rawout(&out, "(Popup_p) 0");
+  }
+}
+
 /// Repeats of pages are a comment for the reader, and so are written with the comments.
 void write_page_names(Run& run) {
   clear_done_and_index(page_pool);

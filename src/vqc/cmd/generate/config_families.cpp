@@ -52,8 +52,7 @@ constexpr Template table_head = "XFamily_t @FAMILY_TABLE@[] = {\n";
 constexpr Template table_row =
     "\t{ \"@FAMILY@\", @WIDGETS@, @HEADERS@, @QUOTED_INIT@, @INIT@, @VQ@, @CODE@, False, @PRE_SHELL@},\n";
 constexpr Template table_end =
-    "\t{ (char *) 0, (XWidgetClass_p *) 0, (XFamilyHeader_p) 0, (char *) 0, (void (*)()) 0, False, False, False, False "
-    "}\n"
+    "\t{ (char *) 0, (XWidgetClass_p *) 0, (XFamilyHeader_p) 0, (char *) 0, (void (*)()) 0, False, False, False, False }\n"
     "} ;\n\n";
 
 bool fits_identifier(char c) { return kel_is(c, KEL_LETTER | KEL_UNDERSCORE); }

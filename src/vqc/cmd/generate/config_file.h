@@ -16,6 +16,11 @@ void write_popups(Run& run);
 void write_page_names(Run& run);
 /// The popup of that name, if it stands in the table; else null.
 const PopupDef* written_popup(const Text& name);
+/// A reference to a popup in the table, for templates.
+struct PopupReference {
+  const PopupDef* popup;
+};
+void put(Stream& out, const PopupReference& reference);
 /// The place of the page of that name in its table, or -1.
 int written_page(const Text& name);
 

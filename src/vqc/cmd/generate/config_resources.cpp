@@ -7,24 +7,10 @@ namespace {
 
 constexpr Template array_head = "Resource_t xr_@WIDGET@_resources[] = {\n";
 constexpr Template row =
-    "\t{@NAME@, (XrmQuark) 0, @POPUP@@PAGE@, @VISIBLE@, @FREE_GET@, @FREE_SET@, @ACCESS@, @MFC@, @JAVA@, @COUNTER@},\n";
+    "\t{@NAME@, (XrmQuark) 0, @POPUP@@COMMA@@PAGE@, @VISIBLE@, @FREE_GET@, @FREE_SET@, @ACCESS@, @MFC@, @JAVA@, @COUNTER@},\n";
 constexpr Template array_end =
-    "\t{(char *) 0, (XrmQuark) 0, (Popup_p) 0, 0, False, vqc_free_default, vqc_free_default, 0, False, False, (char *) "
-    "0}\n"
+    "\t{(char *) 0, (XrmQuark) 0, (Popup_p) 0, 0, False, vqc_free_default, vqc_free_default, 0, False, False, (char *) 0}\n"
     "};\n\n";
-
-/// A reference into the popup table, up to and with the comma after it.
-struct PopupField {
-  const PopupDef* popup;
-};
-
-void put(Stream& out, PopupField field) {
-  if (field.popup) {
-    emit<"&(@POPUPS@[@INDEX@]),">(out, vqc_get_popups_variable(), field.popup->index);
-  } else {
-    rawout(&out, "(Popup_p) 0, ");
-  }
-}
 
 std::string_view free_word(FreeMode mode, const WidgetDef& widget) {
   switch (mode) {
@@ -39,9 +25,11 @@ std::string_view free_word(FreeMode mode, const WidgetDef& widget) {
 
 void write_resource(Run& run, const WidgetDef& widget, const ResourceDef& resource) {
   if (!resource.name) return;
-  emit<row>(run.out, resource.name, PopupField{written_popup(resource.popup)}, written_page(resource.page),
-            resource.visible, free_word(resource.free_get, widget), free_word(resource.free_set, widget),
-            resource.access, resource.mfc_compatible, resource.java_compatible, Or{resource.counter, "(char *) 0"});
+  const PopupDef* popup = written_popup(resource.popup);
+  const std::string_view comma = popup ? "," : ", ";
+  emit<row>(run.out, resource.name, PopupReference{popup}, comma, written_page(resource.page), resource.visible,
+            free_word(resource.free_get, widget), free_word(resource.free_set, widget), resource.access,
+            resource.mfc_compatible, resource.java_compatible, Or{resource.counter, "(char *) 0"});
 }
 
 void write_array(Run& run, const WidgetDef& widget) {

@@ -88,18 +88,6 @@ void put(Stream& out, const ProcedureFields& fields) {
                                          Quoted{converter.add_in_code ? converter.proc_name : none, "(char *) 0"});
 }
 
-struct PopupField {
-  const PopupDef* popup;
-};
-
-void put(Stream& out, PopupField field) {
-  if (field.popup) {
-    emit<"&(@POPUPS@[@INDEX@])">(out, vqc_get_popups_variable(), field.popup->index);
-  } else {
-    charout(&out, "(Popup_p) 0");
-  }
-}
-
 }  // namespace
 
 void write_enumerations(Run& run) {
@@ -144,7 +132,7 @@ void write_converters(Run& run) {
               [&](const ConverterDef& each, bool repeat) {
                 write_around(run.out, around_row, repeat, [&] {
                   emit<converter_row>(run.out, each.name, each.name, ProcedureFields{each},
-                                      PopupField{written_popup(each.dialog)});
+                                      PopupReference{written_popup(each.dialog)});
                 });
               });
   });
