@@ -33,8 +33,8 @@ void write_config_file(Run& run) {
 }
 
 void write_stop_list(Run& run) {
-  if (stop_list) {
-    emit<stop_list_array>(run.out, vqc_get_stop_list_variable(), Verbatim{stop_list});
+  if (excluded_classes) {
+    emit<stop_list_array>(run.out, vqc_get_stop_list_variable(), Verbatim{excluded_classes});
   } else {
     emit<no_stop_list>(run.out, vqc_get_stop_list_variable());
   }

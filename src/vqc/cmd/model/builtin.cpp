@@ -59,7 +59,7 @@ void predefine_popups(Family* family) {
   };
   for (const PredefinedPopup& predefined : popups) {
     popuplist_add(predefined.name, family);
-    PopupDef* popup = popup_ptr(predefined.name);
+    PopupDef* popup = popup_pool.list.find(predefined.name);
     if (!popup) continue;
     register_builtin_name(popup->name, BUILTIN_POPUP);
     unregister_builtin_name(popup->dialog_init, BUILTIN_POPUP_INIT);

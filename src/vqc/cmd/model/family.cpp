@@ -20,7 +20,7 @@ ErrorCode family_add(const Text& name) {
   if (name.empty()) return family_pool.codes.no_owner;
   const ErrorCode result = family_pool.add(name);
   if (result != 0) return result;
-  Family* family = family_ptr(name);
+  Family* family = family_pool.list.find(name);
   predefine_pages(family);
   predefine_popups(family);
   return 0;

@@ -125,6 +125,24 @@ class NameList {
     if (Element* previous = before_element(element)) move_down(previous);
   }
 
+  /// Brings what was added out of order to its place: sorts it and merges it with what stands in order already.
+  void settle() const {
+    if (!unsettled_after_) return;
+    std::vector<Named<Element>> late;
+    for (Element* each = unsettled_after_->next; each; each = each->next) late.push_back({0, name_of(*each), each});
+    sort_by_name(late);
+    unsettled_after_->next = nullptr;
+    Element** link = &head_;
+    for (const auto& [key, name, element] : late) {
+      while (*link && std::strcmp(name_of(**link), name) < 0) link = &(*link)->next;
+      element->next = *link;
+      *link = element;
+      link = &element->next;
+    }
+    tail_ = unsettled_after_->next ? late.back().element : unsettled_after_;
+    unsettled_after_ = nullptr;
+  }
+
  private:
   struct Hash {
     using is_transparent = void;
@@ -155,24 +173,6 @@ class NameList {
     index_ = std::make_unique<Index>();
     index_->reserve(size_);
     for (Element* each = head_; each; each = each->next) index_->insert(each);
-  }
-
-  /// Sorts what was added out of order and merges it with what stands in order already.
-  void settle() const {
-    if (!unsettled_after_) return;
-    std::vector<Named<Element>> late;
-    for (Element* each = unsettled_after_->next; each; each = each->next) late.push_back({0, name_of(*each), each});
-    sort_by_name(late);
-    unsettled_after_->next = nullptr;
-    Element** link = &head_;
-    for (const auto& [key, name, element] : late) {
-      while (*link && std::strcmp(name_of(**link), name) < 0) link = &(*link)->next;
-      element->next = *link;
-      *link = element;
-      link = &element->next;
-    }
-    tail_ = unsettled_after_->next ? late.back().element : unsettled_after_;
-    unsettled_after_ = nullptr;
   }
 
   mutable Element* head_ = nullptr;

@@ -34,11 +34,15 @@ class OrderedList {
   void (*on_current)(Element*) = nullptr;
 
   /// The first element, or null; the cursor moves there.
-  Element* first(const List& list) { return cursor_ = list.head(); }
+  Element* first(const List& list) { return point_into(list, list.head()); }
   /// The element after the cursor, or null at the end, where the cursor stays.
-  Element* next() { return cursor_ = cursor_ ? cursor_->next : nullptr; }
+  Element* next() {
+    if (!cursor_) return nullptr;
+    walked_->settle();
+    return cursor_ = cursor_->next;
+  }
   /// The element of that name, or null; the cursor moves there.
-  Element* ptr(const List& list, const Text& name) { return cursor_ = list.find(name); }
+  Element* ptr(const List& list, const Text& name) { return point_into(list, list.find(name)); }
 
   /// The place of that name in the list, counted from 1; 0 when it is absent.
   static int position(const List& list, const Text& name) {
@@ -104,11 +108,17 @@ class OrderedList {
   void zero() { cursor_ = nullptr; }
 
  private:
+  Element* point_into(const List& list, Element* element) {
+    walked_ = &list;
+    return cursor_ = element;
+  }
+
   void forget(const Element* element) {
     if (current_ == element) set_current(nullptr);
     if (cursor_ == element) cursor_ = nullptr;
   }
 
+  const List* walked_ = nullptr;  // the list that the cursor is in
   Element* cursor_ = nullptr;
   Element* current_ = nullptr;
 };

@@ -4,8 +4,8 @@
 #include "libkel/text.h"
 
 /// The widget classes to leave out: comma-separated class names, or null.
-inline Text stop_list;
+inline Text excluded_classes;
 
-inline void set_stop_list(const Text& text) { stop_list = text; }
+inline void set_stop_list(const Text& text) { excluded_classes = text; }
 
 #endif

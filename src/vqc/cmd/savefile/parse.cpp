@@ -205,7 +205,7 @@ bool Reader::header() {
   }
   if (!lexer_.is(Kw::stop_list)) return true;
   lexer_.next_token();
-  return assigned_optional(stop_list);
+  return assigned_optional(excluded_classes);
 }
 
 // Items.
@@ -504,7 +504,9 @@ int parseit(Text* path, int fresh) {
   Reader reader(std::move(stream));
   if (fresh) clear_document();
   if (!reader.header()) {
-    if (fresh) *path = nullptr;
+    if (!fresh) return 0;
+    clear_document();  // of what the header said before it went wrong
+    *path = nullptr;
     return 0;
   }
   reader.items();

@@ -54,9 +54,9 @@ void write_header(Stream* out) {
   for (const HeaderKey& key : header_keys) {
     if (*key.value) write_value(out, "", key.word, *key.value);
   }
-  if (stop_list.empty()) return;
+  if (excluded_classes.empty()) return;
   charout(out, "stop_list = '");
-  ptrout(out, stop_list);
+  ptrout(out, excluded_classes);
   charout(out, "'\n");
 }
 
