@@ -5,6 +5,7 @@ DESTDIR ?=
 FUZZ_SECONDS ?= 60
 
 RELEASE = build/release
+JOBS = --parallel $(shell nproc)
 SOURCES = git ls-files '*.cpp' '*.h'
 
 .PHONY: all run test bench fuzz install format lint clean
@@ -25,13 +26,13 @@ test:
 	@scripts/configure asan
 	@cmake --build build/asan
 	@cmake --build build/asan --target all_verify_interface_header_sets
-	ctest --preset asan
+	ctest --preset asan $(JOBS)
 	@scripts/configure fuzz
 	@cmake --build build/fuzz --target fuzzers
 	ctest --preset fuzz -R '^fuzz_.*_run$$'
 	@scripts/configure release -DBUILD_TESTING=ON
 	@cmake --build $(RELEASE)
-	ctest --preset release
+	ctest --preset release $(JOBS)
 
 bench:
 	@scripts/install-packages build bench

@@ -8,13 +8,17 @@ if(VQC_SANITIZE)
   add_compile_options(-fsanitize=${VQC_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${VQC_SANITIZE})
 endif()
+option(VQC_FUZZ "Build the fuzz targets for libFuzzer, and everything so that it can see which code runs" OFF)
+if(VQC_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
 option(VQC_COVERAGE "Count which lines run" OFF)
 if(VQC_COVERAGE)
   add_compile_options(--coverage)
   add_link_options(--coverage)
 endif()
 
-# vqc_layer(NAME DIR folder SOURCES files... [BUILDS_ON layers...] [USES libraries...])
+# vqc_layer(NAME DIR folder SOURCES files... HEADERS files... [BUILDS_ON layers...] [USES libraries...])
 #
 # One layer of the program as a static library of its own: it can call what it builds on and nothing else, since
 # nothing else is linked with it. Each of its headers must compile alone.

@@ -1,7 +1,8 @@
 #ifndef LIBKEL_MESSAGE_H
 #define LIBKEL_MESSAGE_H
 
-/// Where messages go. A batch run has none, and nothing is shown; the editor sets it once its window exists.
+/// Where messages go; neither function may be null. A batch run has no sink, and nothing is shown; the editor sets it
+/// once its window exists.
 struct MessageSink {
   /// The text of the message resource `name`; null or "" when there is none. The resource database owns it.
   const char* (*text_of)(const char* name);

@@ -24,7 +24,6 @@ struct Text::Table {
     using is_transparent = void;
     std::size_t operator()(const Shared* shared) const { return spread(shared->hash); }
     std::size_t operator()(const Wanted& wanted) const { return spread(wanted.hash); }
-    static std::size_t spread(std::uint32_t hash) { return hash * std::size_t{0x9E3779B97F4A7C15}; }
   };
   struct Equal {
     using is_transparent = void;

@@ -1,6 +1,7 @@
 #ifndef LIBKEL_TEXT_H
 #define LIBKEL_TEXT_H
 
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
@@ -40,7 +41,8 @@ class Text {
   }
   /// Whether there is a per-cent sign in it, which printing treats specially.
   bool has_percent() const { return shared_ && shared_->has_percent; }
-  std::uint32_t hash() const { return shared_ ? shared_->hash : 0; }
+  /// Spread over all bits, as hash tables like it.
+  std::size_t hash() const { return shared_ ? spread(shared_->hash) : 0; }
 
   friend bool operator==(const Text& a, const Text& b) { return a.shared_ == b.shared_; }
   friend bool operator==(const Text& a, const char* b) {
@@ -57,6 +59,7 @@ class Text {
   };
   struct Table;
 
+  static constexpr std::size_t spread(std::uint32_t hash) { return hash * std::size_t{0x9E3779B97F4A7C15}; }
   static Table& table();
   static Shared* share(std::string_view s);
   static Shared* make(std::string_view s, std::uint32_t hash);

@@ -55,26 +55,26 @@ constexpr Template table_end =
     "\t{ (char *) 0, (XWidgetClass_p *) 0, (XFamilyHeader_p) 0, (char *) 0, (void (*)()) 0, False, False, False, False }\n"
     "} ;\n\n";
 
-bool fits_identifier(char c) { return kel_is(c, KEL_LETTER | KEL_UNDERSCORE); }
+bool is_kept(char c) { return kel_is(c, KEL_LETTER | KEL_UNDERSCORE); }
 
-/// What the identifiers of a family begin with: its name, or so much of it as fits into an identifier and the family's
-/// number among those that take part.
+/// What the identifiers of a family begin with: its name if that is letters and underscores only, else what comes
+/// before the first other character (a digit too) and the family's number among those that take part.
 std::string identifier_base(const Family& family, int index) {
   const std::string_view name = family.name.view();
   std::size_t size = 0;
-  while (size < name.size() && fits_identifier(name[size])) ++size;
+  while (size < name.size() && is_kept(name[size])) ++size;
   std::string base(name.substr(0, size));
   return size == name.size() ? base : base + "_" + std::to_string(index);
 }
 
 void write_headers_block(Run& run, const Family& family, const std::string& base) {
-  emit<headers_head>(run.out, family.name, base.c_str());
+  emit<headers_head>(run.out, family.name, base);
   for (const auto& header : family.family_headers) emit<header_row>(run.out, header.record->name);
   emit<headers_end>(run.out);
 }
 
 void write_widgets_block(Run& run, const Family& family, const std::string& base) {
-  emit<widgets_head>(run.out, family.name, base.c_str());
+  emit<widgets_head>(run.out, family.name, base);
   for (const auto& widget : family.widgets) emit<widget_row>(run.out, widget.record->name);
   emit<widgets_end>(run.out);
 }
@@ -88,7 +88,7 @@ void write_blocks(Run& run, const Family& family, const std::string& base) {
 void write_table_row(Run& run, const Family& family, const std::string& base) {
   const std::string widgets = family.widgets.empty() ? "(XWidgetClass_p *) 0" : base + "_widgets";
   const std::string headers = family.family_headers.empty() ? "(XFamilyHeader_p) 0" : base + "_headers";
-  emit<table_row>(run.out, family.name, widgets.c_str(), headers.c_str(), Quoted{family.family_init, "(char *) 0"},
+  emit<table_row>(run.out, family.name, widgets, headers, Quoted{family.family_init, "(char *) 0"},
                   Or{family.family_init, "(void (*)()) 0"}, family.generate_family_init_vq,
                   family.generate_family_init_code, family.generate_family_init_pre_shell);
 }

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -75,7 +76,9 @@ struct Suffixed {
 inline void put(Stream& out, const char* text) { charout(&out, text); }
 /// A text of the program's own: it holds no per-cent sign.
 inline void put(Stream& out, std::string_view text) { rawout(&out, text); }
+inline void put(Stream& out, const std::string& text) { charout(&out, std::string_view(text)); }
 inline void put(Stream& out, const Text& text) { charout(&out, text); }
+inline void put(Stream& out, const void* pointer) = delete;
 inline void put(Stream& out, bool flag) { boolout(&out, flag); }
 inline void put(Stream& out, int number) { intout(&out, number); }
 inline void put(Stream& out, const Or& value) { value.text ? put(out, value.text) : put(out, value.fallback); }

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int kWorthListing = 64;  // so many questions cost about as much as listing a folder
+constexpr int kWorthListing = 64;  // so many questions about one folder cost about as much as listing it
 
 char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
@@ -25,21 +25,19 @@ std::string lower_case(std::string_view name) {
 
 bool FileFinder::exists(const char* path) {
   const std::string_view leaf = leafnm(path);
-  if (asked_ >= kWorthListing && !leaf.empty()) {
-    const Folder& in = folder({path, static_cast<std::size_t>(leaf.data() - path)});
-    if (in.listed && !in.names.contains(lower_case(leaf))) return false;
-  }
-  ++asked_;
+  const std::string in(path, static_cast<std::size_t>(leaf.data() - path));
+  Folder& folder = folders_[in];
+  if (++folder.asked == kWorthListing) list(folder, in.empty() ? "." : in.c_str());
+  if (folder.listed && !leaf.empty() && !folder.names.contains(lower_case(leaf))) return false;
   return access(path, F_OK) == 0;
 }
 
-const FileFinder::Folder& FileFinder::folder(std::string_view path) {
-  const auto [entry, is_new] = folders_.try_emplace(std::string(path));
-  Folder& result = entry->second;
-  if (!is_new) return result;
-  const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(path.empty() ? "." : entry->first.c_str()), closedir);
-  result.listed = stream || errno == ENOENT || errno == ENOTDIR;
-  if (!stream) return result;
-  while (const dirent* file = readdir(stream.get())) result.names.insert(lower_case(file->d_name));
-  return result;
+/// A folder that is not there lists nothing; one that cannot be read to its end counts as not listed.
+void FileFinder::list(Folder& folder, const char* path) {
+  const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(path), closedir);
+  folder.listed = stream || errno == ENOENT || errno == ENOTDIR;
+  if (!stream) return;
+  errno = 0;
+  while (const dirent* file = readdir(stream.get())) folder.names.insert(lower_case(file->d_name));
+  folder.listed = errno == 0;
 }

@@ -2,7 +2,6 @@
 #define VQC_CMD_GENERATE_FILE_FINDER_H
 
 #include <string>
-#include <string_view>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -15,13 +14,13 @@ class FileFinder {
 
  private:
   struct Folder {
+    int asked = 0;                          // names so far
     bool listed = false;                    // otherwise every name has to be asked for
     std::unordered_set<std::string> names;  // in lower case, which some file systems do not tell from upper case
   };
 
-  const Folder& folder(std::string_view path);
+  static void list(Folder& folder, const char* path);
 
-  int asked_ = 0;
   std::unordered_map<std::string, Folder> folders_;
 };
 

@@ -17,7 +17,7 @@ class NameSet {
 
  private:
   struct Hash {
-    std::size_t operator()(const Text& name) const { return name.hash() * std::size_t{0x9E3779B97F4A7C15}; }
+    std::size_t operator()(const Text& name) const { return name.hash(); }
   };
   absl::flat_hash_set<Text, Hash> names_;
 };

@@ -20,9 +20,9 @@ const char* vqc_stub_orvo_comment(const char* name);
 
 /// The cache owns copies of its names.
 void vqc_clear_stub_cache();
-void vqc_add_stub_cache(const char* name);
+void vqc_add_stub_cache(const Text& name);
 /// Whether a stub of that name is there already.
-bool vqc_check_stub_space(const char* name);
+bool vqc_check_stub_space(const Text& name);
 
 /// A writer of part of the prelude.
 using PreludeWriter = void (*)(Run& run);

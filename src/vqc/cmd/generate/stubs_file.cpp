@@ -54,7 +54,7 @@ void write_new_style_head(Stream& out, const StubKind& kind, const Text& name) {
   const std::string further(static_cast<std::size_t>(kind.further_in), ' ');
   emit<"@RETURNS@@NAME@(@FIRST_PARAMETER@">(out, kind.returns, name, kind.parameters[0]);
   for (const char* const* parameter = kind.parameters + 1; *parameter; ++parameter) {
-    emit<",\n@INDENT@@FURTHER@@PARAMETER@">(out, indent.c_str(), further.c_str(), *parameter);
+    emit<",\n@INDENT@@FURTHER@@PARAMETER@">(out, indent, further, *parameter);
   }
   charout(&out, ")\n");
 }

@@ -21,7 +21,8 @@ inline ErrorCode family_move_down(const Text& name) { return family_pool.move_do
 /// Leaves no family, no current family and no cursor. The pools keep what no family counted as its own.
 void family_delete_all();
 
-/// Leaves nothing of the document: no family, no record, no option, no file name, no stop list.
+/// Leaves no family, no record, no option, no name of a generated file and no stop list. The document's own name stays,
+/// and what is removed sets `dirty`.
 void clear_document();
 
 #endif

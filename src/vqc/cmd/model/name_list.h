@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
-#include <iterator>
 #include <memory>
 #include <vector>
 
@@ -25,7 +24,7 @@ const Text& name_of(const Element& element) {
   }
 }
 
-/// A singly linked list of named elements, each name once. It links its elements; who fills it owns them.
+/// A linked list of named elements, each name once. It links its elements; who fills it owns them.
 ///
 /// A long list that is searched has an index by name. A sorted list takes new elements at its end and brings them to
 /// their places when it is next walked: documents come in any order, and a walk to the place of each of 100,000 names
@@ -35,12 +34,6 @@ class NameList {
  public:
   class Iterator {
    public:
-    using iterator_category = std::forward_iterator_tag;
-    using value_type = Element;
-    using difference_type = std::ptrdiff_t;
-    using pointer = Element*;
-    using reference = Element&;
-
     explicit Iterator(Element* element = nullptr) : element_(element) {}
     Element& operator*() const { return *element_; }
     Element* operator->() const { return element_; }
@@ -89,9 +82,8 @@ class NameList {
     if (order == Order::sorted && !unsettled_after_ && tail_ && (rearranged_ || before(*element, *tail_))) {
       unsettled_after_ = tail_;
     }
-    element->next = nullptr;
-    (tail_ ? tail_->next : head_) = element;
-    tail_ = element;
+    join(tail_, element);
+    join(element, nullptr);
     ++size_;
     if (index_) index_->insert(element);
   }
@@ -99,24 +91,21 @@ class NameList {
   /// Unlinks an element of this list.
   void unlink(Element* element) {
     settle();
-    Element* previous = before_element(element);
-    (previous ? previous->next : head_) = element->next;
-    if (tail_ == element) tail_ = previous;
+    join(before_element(element), element->next);
     --size_;
     if (index_) index_->erase(element);
+    if (size_ == 0) rearranged_ = false;
   }
 
   /// Swaps an element with the one after it; the last element stays.
   void move_down(Element* element) {
     settle();
-    rearranged_ = true;
     Element* follower = element->next;
     if (!follower) return;
-    Element* previous = before_element(element);
-    (previous ? previous->next : head_) = follower;
-    element->next = follower->next;
-    follower->next = element;
-    if (tail_ == follower) tail_ = element;
+    rearranged_ = true;
+    join(before_element(element), follower);
+    join(element, follower->next);
+    join(follower, element);
   }
 
   /// Swaps an element with the one before it; the first element stays.
@@ -131,24 +120,23 @@ class NameList {
     std::vector<Named<Element>> late;
     for (Element* each = unsettled_after_->next; each; each = each->next) late.push_back({0, name_of(*each), each});
     sort_by_name(late);
-    unsettled_after_->next = nullptr;
-    Element** link = &head_;
+    join(unsettled_after_, nullptr);
+    Element* previous = nullptr;
     for (const auto& [key, name, element] : late) {
-      while (*link && std::strcmp(name_of(**link), name) < 0) link = &(*link)->next;
-      element->next = *link;
-      *link = element;
-      link = &element->next;
+      Element* next = previous ? previous->next : head_;
+      for (; next && std::strcmp(name_of(*next), name) < 0; next = next->next) previous = next;
+      join(previous, element);
+      join(element, next);
+      previous = element;
     }
-    tail_ = unsettled_after_->next ? late.back().element : unsettled_after_;
     unsettled_after_ = nullptr;
   }
 
  private:
   struct Hash {
     using is_transparent = void;
-    static std::size_t spread(const Text& name) { return name.hash() * std::size_t{0x9E3779B97F4A7C15}; }
-    std::size_t operator()(const Text& name) const { return spread(name); }
-    std::size_t operator()(const Element* element) const { return spread(name_of(*element)); }
+    std::size_t operator()(const Text& name) const { return name.hash(); }
+    std::size_t operator()(const Element* element) const { return name_of(*element).hash(); }
   };
   struct Equal {
     using is_transparent = void;
@@ -161,7 +149,19 @@ class NameList {
 
   static bool before(const Element& a, const Element& b) { return std::strcmp(name_of(a), name_of(b)) < 0; }
 
+  static constexpr bool doubly_linked = requires(Element element) { element.previous; };
+
+  /// Makes two elements neighbours; null stands for what is before the first and after the last.
+  void join(Element* element, Element* next) const {
+    (element ? element->next : head_) = next;
+    if (!next) tail_ = element;
+    if constexpr (doubly_linked) {
+      if (next) next->previous = element;
+    }
+  }
+
   Element* before_element(const Element* element) const {
+    if constexpr (doubly_linked) return element->previous;
     if (element == head_) return nullptr;
     Element* previous = head_;
     while (previous->next != element) previous = previous->next;

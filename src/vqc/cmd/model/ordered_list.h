@@ -30,7 +30,8 @@ class OrderedList {
   static constexpr Order order = list_order;
   static constexpr Codes codes = list_codes;
 
-  /// Told of each change of the current element (null for none), and before a current element is freed.
+  /// Called with the current element (null for none) whenever one is set, also the same again, and with null before a
+  /// current element is freed: by then its owner, if that goes too, is in no list any more. It must not delete.
   void (*on_current)(Element*) = nullptr;
 
   /// The first element, or null; the cursor moves there.
@@ -60,9 +61,11 @@ class OrderedList {
     if (on_current) on_current(element);
   }
 
-  /// Adds what `make` gives (an element of that name, or null when memory is short) unless the name is there.
+  /// Adds what `make` gives (an element of that name, or null when memory is short) unless the name is there. A null
+  /// name is none.
   template <class Make>
   ErrorCode add(List& list, const Text& name, Make make) {
+    if (!name) return codes.absent;
     if (list.find_before_adding(name)) return codes.duplicate;
     Element* element = make();
     if (!element) return kOutOfMemory;
@@ -92,12 +95,14 @@ class OrderedList {
   }
 
   ErrorCode move_up(List& list, const Text& name) {
+    static_assert(codes.cannot_move != 0, "lists of this kind are not for moving in");
     Element* element = list.find(name);
     if (!element) return codes.cannot_move;
     list.move_up(element);
     return 0;
   }
   ErrorCode move_down(List& list, const Text& name) {
+    static_assert(codes.cannot_move != 0, "lists of this kind are not for moving in");
     Element* element = list.find(name);
     if (!element) return codes.cannot_move;
     list.move_down(element);

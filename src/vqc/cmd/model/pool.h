@@ -4,7 +4,8 @@
 #include "vqc/cmd/model/ordered_list.h"
 #include "vqc/cmd/model/records.h"
 
-/// A kind of list of which there is one: all records of a kind.
+/// A kind of list of which there is one: all records of a kind. `first`, `next` and `ptr` move its cursor. A record
+/// that a family still refers to must not be removed.
 template <class Record, Order order, Codes codes>
 class Pool : public OrderedList<Record, order, codes> {
   using Base = OrderedList<Record, order, codes>;
@@ -33,7 +34,8 @@ class Pool : public OrderedList<Record, order, codes> {
 };
 
 /// A kind of list of which every family has one: its references to the records of a pool. Naming a record that does
-/// not exist creates it. A record that counts its uses goes with the last of them.
+/// not exist creates it. A record that counts its uses goes with the last of them. A null family has an empty list,
+/// to which nothing can be added. `first`, `next` and `ptr` move the kind's cursor.
 template <auto& pool, auto member, Order order, Codes codes>
 class FamilyList
     : public OrderedList<Reference<typename std::remove_reference_t<decltype(pool)>::Element>, order, codes> {
@@ -81,7 +83,7 @@ class FamilyList
   static Element* new_reference(const Text& name) {
     pool.add(name);
     Record* record = pool.list.find(name);
-    auto* reference = record ? new (std::nothrow) Element{nullptr, record} : nullptr;
+    auto* reference = record ? new (std::nothrow) Element{nullptr, nullptr, record} : nullptr;
     if constexpr (counted) {
       if (reference) ++record->uses;
     }

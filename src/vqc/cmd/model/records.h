@@ -7,7 +7,8 @@
 #include "vqc/cmd/model/name_list.h"
 
 // The records of a document. A member's initial value is its value in a new record. Pools hold the records
-// themselves; families refer to them. Members that are named like words of the document hold those words' values.
+// themselves; families refer to them. What can be deleted from anywhere in a long list also knows what stands before
+// it. Members that are named like words of the document hold those words' values.
 
 /// How a resource's value is freed after it has been got or set.
 enum class FreeMode : std::uint8_t { by_default, free, dont_free };
@@ -34,6 +35,7 @@ struct WidgetDef {
   ~WidgetDef();
 
   WidgetDef* next = nullptr;
+  WidgetDef* previous = nullptr;
   Text name;
   int uses = 0;            // by families
   int index = 0;           // scratch for the generators
@@ -75,6 +77,7 @@ struct EnumDef {
   ~EnumDef();
 
   EnumDef* next = nullptr;
+  EnumDef* previous = nullptr;
   Text name;
   int uses = 0;
   int index = 0;
@@ -85,6 +88,7 @@ struct EnumDef {
 
 struct AliasDef {
   AliasDef* next = nullptr;
+  AliasDef* previous = nullptr;
   Text name;
   int uses = 0;
   int index = 0;
@@ -94,6 +98,7 @@ struct AliasDef {
 
 struct ConverterDef {
   ConverterDef* next = nullptr;
+  ConverterDef* previous = nullptr;
   Text name;
   int uses = 0;
   int index = 0;
@@ -107,6 +112,7 @@ struct ConverterDef {
 /// A dialog that edits resources. Its name is also its create procedure.
 struct PopupDef {
   PopupDef* next = nullptr;
+  PopupDef* previous = nullptr;
   Text name;
   int index = 0;  // scratch: its place in the generated table
   bool used = false;
@@ -117,6 +123,7 @@ struct PopupDef {
 /// A page of the resource panel.
 struct PageDef {
   PageDef* next = nullptr;
+  PageDef* previous = nullptr;
   Text name;
   int index = 0;
   bool used = false;
@@ -125,6 +132,7 @@ struct PageDef {
 /// A header file to include.
 struct HeaderEntry {
   HeaderEntry* next = nullptr;
+  HeaderEntry* previous = nullptr;
   Text name;
   int uses = 0;
   bool used = false;
@@ -135,6 +143,7 @@ template <class RecordType>
 struct Reference {
   using Record = RecordType;
   Reference* next = nullptr;
+  Reference* previous = nullptr;
   Record* record = nullptr;
 };
 
@@ -154,6 +163,7 @@ struct Family : FamilyInit {
   ~Family();
 
   Family* next = nullptr;
+  Family* previous = nullptr;
   Text name;
   bool generate_selected = true;
   References<WidgetDef, Order::appended> widgets;

@@ -71,11 +71,13 @@ class Reader {
   // Items.
   bool item();
   template <auto& pool>
-  bool pool_item();
-  bool page();
+  auto* named();
+  template <auto& pool>
+  bool bare_record();
   bool alias();
   bool popup();
   bool converter();
+  static void rewrite_popup(const PopupDef& described);
   bool enumeration();
   bool enumentry(EnumDef& owner);
   bool widget();
@@ -156,7 +158,7 @@ bool Reader::assigned(bool& flag) { return expect('=') && take_boolean(flag); }
 // Blocks.
 
 // block := "{" { body } "}"
-// The body is called at a keyword, and with the token still there if it is not one of its own.
+// `body` is called with a keyword current. It reads what the keyword begins, or reports it as misplaced.
 template <class Body>
 bool Reader::block(Body body) {
   if (!expect('{')) return false;
@@ -222,13 +224,13 @@ bool Reader::item() {
   static constexpr Item kItems[] = {
       {Kw::widget, &Reader::widget},
       {Kw::enumeration, &Reader::enumeration},
-      {Kw::header, &Reader::pool_item<code_header_pool>},
-      {Kw::cheader, &Reader::pool_item<config_header_pool>},
-      {Kw::family_header, &Reader::pool_item<family_header_pool>},
+      {Kw::header, &Reader::bare_record<code_header_pool>},
+      {Kw::cheader, &Reader::bare_record<config_header_pool>},
+      {Kw::family_header, &Reader::bare_record<family_header_pool>},
       {Kw::alias, &Reader::alias},
       {Kw::converter, &Reader::converter},
       {Kw::popup, &Reader::popup},
-      {Kw::page, &Reader::page},
+      {Kw::page, &Reader::bare_record<page_pool>},
       {Kw::family, &Reader::family},
   };
   for (const Item& each : kItems) {
@@ -239,70 +241,63 @@ bool Reader::item() {
   return error(lexer_.is(SaveFileToken::keyword) ? "se_unexpected_keyword" : "se_reserved");
 }
 
-// header := ("header" | "cheader" | "family_header") NAME
+/// The record of the pool that the current NAME names, made if there is none. Null when there is no name.
 template <auto& pool>
-bool Reader::pool_item() {
+auto* Reader::named() {
   Text name;
-  if (!take_name(name)) return false;
-  pool.add(name);
-  return true;
+  if (take_name(name)) pool.add(name);
+  return name ? pool.ptr(name) : nullptr;
 }
 
-// page := "page" NAME
-bool Reader::page() {
-  Text name;
-  if (!take_name(name)) return false;
-  page_add(name);
-  return page_ptr(name) != nullptr;
+// header := ("header" | "cheader" | "family_header") NAME
+// page   := "page" NAME
+template <auto& pool>
+bool Reader::bare_record() {
+  return named<pool>() != nullptr;
 }
 
 // alias := "alias" NAME "{" { field } "}"
 bool Reader::alias() {
-  Text name;
-  if (!take_name(name)) return false;
-  alias_add(name);
-  return record_block(alias_fields, *alias_ptr(name));
+  AliasDef* alias = named<alias_pool>();
+  return alias && record_block(alias_fields, *alias);
 }
 
 // popup := "popup" NAME "{" { field } "}"
 bool Reader::popup() {
-  Text name;
-  if (!take_name(name)) return false;
-  popup_add(name);
-  return record_block(popup_fields, *popup_ptr(name));
+  PopupDef* popup = named<popup_pool>();
+  return popup && record_block(popup_fields, *popup);
 }
 
 // converter := "converter" NAME "{" { field | older } "}"
 // older     := ("dialog_create" | "dialog_init" | "dialog_update") "=" NAME
 bool Reader::converter() {
-  Text name;
-  if (!take_name(name)) return false;
-  converter_add(name);
-  ConverterDef& converter = *converter_ptr(name);
+  ConverterDef* converter = named<converter_pool>();
   PopupDef described;  // by the older fields
-  const bool whole = block([&] {
-    if (find_field(popup_fields)) return field(popup_fields, described);
-    if (!lexer_.is(Kw::dialog_create)) return field(converter_fields, converter);
-    lexer_.next_token();
-    if (!assigned_optional(described.name)) return false;
-    converter.dialog = described.name;
-    return true;
-  });
-  if (!whole || !described.name) return whole;
+  const bool whole = converter && block([&] {
+                       if (find_field(popup_fields)) return field(popup_fields, described);
+                       if (!lexer_.is(Kw::dialog_create)) return field(converter_fields, *converter);
+                       lexer_.next_token();
+                       if (!assigned_optional(described.name)) return false;
+                       converter->dialog = described.name;
+                       return true;
+                     });
+  if (whole && described.name) rewrite_popup(described);
+  return whole;
+}
+
+void Reader::rewrite_popup(const PopupDef& described) {
   popup_add(described.name);
-  PopupDef& popup = *popup_ptr(described.name);
-  popup.dialog_init = described.dialog_init;
-  popup.dialog_update = described.dialog_update;
-  return true;
+  PopupDef* popup = popup_ptr(described.name);
+  if (!popup) return;
+  popup->dialog_init = described.dialog_init;
+  popup->dialog_update = described.dialog_update;
 }
 
 // enumeration := "enumeration" NAME "{" { field | enumentry } "}"
 bool Reader::enumeration() {
-  Text name;
-  if (!take_name(name)) return false;
-  enum_add(name);
-  EnumDef& enumeration = *enum_ptr(name);
-  return block([&] { return lexer_.is(Kw::enumentry) ? enumentry(enumeration) : field(enum_fields, enumeration); });
+  EnumDef* enumeration = named<enum_pool>();
+  return enumeration &&
+         block([&] { return lexer_.is(Kw::enumentry) ? enumentry(*enumeration) : field(enum_fields, *enumeration); });
 }
 
 // enumentry := "enumentry" NAME "{" { field } "}"
@@ -311,20 +306,18 @@ bool Reader::enumentry(EnumDef& owner) {
   Text name;
   if (!take_name(name)) return false;
   enumentry_add(name, &owner);
-  return record_block(enum_entry_fields, *enumentry_ptr(&owner, name));
+  EnumEntry* entry = enumentry_ptr(&owner, name);
+  return entry && record_block(enum_entry_fields, *entry);
 }
 
 // widget := "widget" NAME "{" { field | resource_definitions | resource_popups } "}"
 bool Reader::widget() {
-  Text name;
-  if (!take_name(name)) return false;
-  widget_add(name);
-  WidgetDef& widget = *widget_ptr(name);
-  return block([&] {
-    if (lexer_.is(Kw::resource_definitions)) return resource_definitions(widget);
-    if (lexer_.is(Kw::resource_popups)) return resource_popups(widget);
-    return field(widget_fields, widget);
-  });
+  WidgetDef* widget = named<widget_pool>();
+  return widget && block([&] {
+           if (lexer_.is(Kw::resource_definitions)) return resource_definitions(*widget);
+           if (lexer_.is(Kw::resource_popups)) return resource_popups(*widget);
+           return field(widget_fields, *widget);
+         });
 }
 
 // family := "family" NAME "{" { family_field } "}"
@@ -350,7 +343,7 @@ bool Reader::family_field(Family& family) {
   return family_list(family);
 }
 
-// list := "widget" | "enumeration" | "header" | "cheader" | "family_header" | "alias" | "converter" | "popup" | "page"
+// list := "widget" | "enumeration" | "header" | "cheader" | "family_header" | "alias" | "popup" | "page"
 bool Reader::family_list(Family& family) {
   struct List {
     Kw word;
@@ -485,6 +478,7 @@ bool Reader::resource_popups(WidgetDef& widget) {
   do {
     if (!lexer_.is(SaveFileToken::string)) return error("se_string");
     ResourceDef* resource = named_resource(widget);
+    if (!resource) return error("se_bad_resource");
     if (!try_take(',')) return true;
     if (!lexer_.is(SaveFileToken::string)) return error("se_string");
     take_optional_string(resource->popup);

@@ -2,7 +2,6 @@
 #define VQC_CMD_SAVEFILE_STREAM_H
 
 #include <cstddef>
-#include <cstring>
 #include <memory>
 #include <string_view>
 
@@ -19,8 +18,7 @@ class Stream {
   /// part is lost and errno says why.
   bool write(std::string_view text) {
     if (text.size() > kSize - used_) return write_through(text);
-    std::memcpy(buffer_.get() + used_, text.data(), text.size());
-    used_ += text.size();
+    used_ += text.copy(buffer_.get() + used_, text.size());
     return true;
   }
 
