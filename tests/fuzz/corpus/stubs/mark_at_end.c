@@ -1,0 +1,2 @@
+x
+/* END of vqconfig Prelude */

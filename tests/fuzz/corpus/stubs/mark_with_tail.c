@@ -1,0 +1,2 @@
+/* END of vqconfig Prelude */ and more
+int x;

@@ -1,0 +1,2 @@
+/* END of vqconfig Prelude */
+int x;

@@ -1,0 +1,10 @@
+/*
+** vqconfig generated stub: foo
+*/
+
+void foo(Widget w)
+{
+	/* FIXME */
+}
+
+int x;

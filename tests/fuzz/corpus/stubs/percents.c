@@ -1,0 +1,3 @@
+/* END of vqconfig Prelude */
+printf("%d%%\n", x);
+** vqconfig generated stub: %d%%

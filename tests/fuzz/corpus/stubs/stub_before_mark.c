@@ -1,0 +1,3 @@
+** vqconfig generated stub: early
+/* END of vqconfig Prelude */
+int x;
