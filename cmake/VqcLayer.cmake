@@ -5,7 +5,8 @@ target_compile_options(vqc_compile_options INTERFACE -Wall -Wextra -Wpedantic -W
 # Sanitizers and coverage reach every object, so that they are options of the whole build.
 set(VQC_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize= takes them")
 if(VQC_SANITIZE)
-  add_compile_options(-fsanitize=${VQC_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_compile_options(-fsanitize=${VQC_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer
+                      $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)  # GCC sees ghosts in instrumented code
   add_link_options(-fsanitize=${VQC_SANITIZE})
 endif()
 option(VQC_FUZZ "Build the fuzz targets for libFuzzer, and everything so that it can see which code runs" OFF)
