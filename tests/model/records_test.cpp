@@ -34,7 +34,6 @@ TEST_F(NewRecord, OfAWidgetHasNoTextsAndNoResources) {
     EXPECT_EQ(nullptr, (widget.*text).c_str());
   }
   EXPECT_TRUE(widget.resource_definitions.empty());
-  EXPECT_EQ(0, widget.index);
   EXPECT_FALSE(widget.generated);
   EXPECT_EQ(0, widget.uses);
 }
@@ -61,7 +60,6 @@ TEST_F(NewRecord, OfAnEnumerationHasNoTypeAndNoEntries) {
   EXPECT_STREQ("E", enumeration.name);
   EXPECT_EQ(nullptr, enumeration.type_name.c_str());
   EXPECT_TRUE(enumeration.entries.empty());
-  EXPECT_EQ(0, enumeration.index);
   EXPECT_FALSE(enumeration.used);
 }
 
@@ -79,7 +77,6 @@ TEST_F(NewRecord, OfAnAliasNamesNoType) {
   const AliasDef& alias = *alias_ptr("A");
   EXPECT_STREQ("A", alias.name);
   EXPECT_EQ(nullptr, alias.to_name.c_str());
-  EXPECT_EQ(0, alias.index);
   EXPECT_FALSE(alias.used);
 }
 
@@ -91,7 +88,6 @@ TEST_F(NewRecord, OfAConverterIsAddedNowhere) {
   EXPECT_EQ(nullptr, converter.dialog.c_str());
   EXPECT_FALSE(converter.add_in_vq);
   EXPECT_FALSE(converter.add_in_code);
-  EXPECT_EQ(0, converter.index);
   EXPECT_FALSE(converter.used);
 }
 

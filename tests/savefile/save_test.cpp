@@ -187,7 +187,6 @@ TEST_F(WriteWidget, HasAllFieldsInTheirOrder) {
 
 TEST_F(WriteWidget, HasNoScratchAndNoCompatibility) {
   WidgetDef& widget = *new_widget("W");
-  widget.index = 7;
   widget.generated = true;
   ResourceDef& resource = *new_resource(&widget, "r");
   resource.mfc_compatible = resource.java_compatible = true;

@@ -10,19 +10,10 @@
 #include <vector>
 
 #include "libkel/text.h"
+#include "vqc/cmd/model/name_of.h"
 #include "vqc/cmd/model/sort_by_name.h"
 
 enum class Order { sorted, appended };
-
-/// The name by which an element is found: its own, or that of the record it refers to.
-template <class Element>
-const Text& name_of(const Element& element) {
-  if constexpr (requires { element.record; }) {
-    return element.record->name;
-  } else {
-    return element.name;
-  }
-}
 
 /// A linked list of named elements, each name once. It links its elements; who fills it owns them.
 ///
@@ -118,11 +109,12 @@ class NameList {
   void settle() const {
     if (!unsettled_after_) return;
     std::vector<Named<Element>> late;
-    for (Element* each = unsettled_after_->next; each; each = each->next) late.push_back({0, name_of(*each), each});
+    for (Element* each = unsettled_after_->next; each; each = each->next) late.push_back({0, each});
     sort_by_name(late);
     join(unsettled_after_, nullptr);
     Element* previous = nullptr;
-    for (const auto& [key, name, element] : late) {
+    for (const auto& [key, element] : late) {
+      const char* name = name_of(*element);
       Element* next = previous ? previous->next : head_;
       for (; next && std::strcmp(name_of(*next), name) < 0; next = next->next) previous = next;
       join(previous, element);

@@ -38,7 +38,6 @@ struct WidgetDef {
   WidgetDef* previous = nullptr;
   Text name;
   int uses = 0;            // by families
-  int index = 0;           // scratch for the generators
   bool generated = false;  // scratch: the current section has written it
   Text include_filename;
   Text defined_name;
@@ -80,7 +79,6 @@ struct EnumDef {
   EnumDef* previous = nullptr;
   Text name;
   int uses = 0;
-  int index = 0;
   bool used = false;  // scratch: the current section has written it; so below
   Text type_name;     // "typename" in the document
   NameList<EnumEntry, Order::appended> entries;
@@ -90,10 +88,9 @@ struct AliasDef {
   AliasDef* next = nullptr;
   AliasDef* previous = nullptr;
   Text name;
-  int uses = 0;
-  int index = 0;
-  bool used = false;
   Text to_name;
+  int uses = 0;
+  bool used = false;
 };
 
 struct ConverterDef {
@@ -101,7 +98,6 @@ struct ConverterDef {
   ConverterDef* previous = nullptr;
   Text name;
   int uses = 0;
-  int index = 0;
   bool used = false;
   bool add_in_vq = false;
   bool add_in_code = false;

@@ -7,21 +7,24 @@
 #include <cstring>
 #include <vector>
 
+#include "vqc/cmd/model/name_of.h"
+
 /// Something to be sorted by its name. The key is the sort's own.
 template <class Element>
 struct Named {
   std::uint64_t key;
-  const char* name;
   Element* element;
+
+  const char* name() const { return name_of(*element); }
 };
 
 /// How many characters all names begin with alike.
 template <class Element>
 std::size_t common_prefix(const std::vector<Named<Element>>& all) {
-  std::size_t size = std::strlen(all.front().name);
+  const char* first = all.front().name();
+  std::size_t size = std::strlen(first);
   for (const auto& each : all) {
-    const char* first = all.front().name;
-    size = static_cast<std::size_t>(std::mismatch(first, first + size, each.name).first - first);
+    size = static_cast<std::size_t>(std::mismatch(first, first + size, each.name()).first - first);
   }
   return size;
 }
@@ -41,9 +44,9 @@ template <class Element>
 void sort_by_name(std::vector<Named<Element>>& all) {
   if (all.empty()) return;
   const std::size_t prefix = common_prefix(all);
-  for (auto& each : all) each.key = sort_key(each.name + prefix);
+  for (auto& each : all) each.key = sort_key(each.name() + prefix);
   std::sort(all.begin(), all.end(), [](const Named<Element>& a, const Named<Element>& b) {
-    return a.key != b.key ? a.key < b.key : std::strcmp(a.name, b.name) < 0;
+    return a.key != b.key ? a.key < b.key : std::strcmp(a.name(), b.name()) < 0;
   });
 }
 
