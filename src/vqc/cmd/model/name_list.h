@@ -144,11 +144,11 @@ class NameList {
   static constexpr bool doubly_linked = requires(Element element) { element.previous; };
 
   /// Makes two elements neighbours; null stands for what is before the first and after the last.
-  void join(Element* element, Element* next) const {
-    (element ? element->next : head_) = next;
-    if (!next) tail_ = element;
+  void join(Element* left, Element* right) const {
+    (left ? left->next : head_) = right;
+    if (!right) tail_ = left;
     if constexpr (doubly_linked) {
-      if (next) next->previous = element;
+      if (right) right->previous = left;
     }
   }
 
