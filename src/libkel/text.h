@@ -11,14 +11,14 @@
 ///
 /// Equal strings share one copy of their characters, which lives as long as any Text holds it: a document names the
 /// same pages, popups and resources over and over. So copying is cheap, comparing compares addresses, a Text may be
-/// assigned its own characters, and every text knows its hash. The characters come from the toolkit's allocator.
+/// assigned its own characters, and hashing hashes addresses too. The characters come from the toolkit's allocator.
 class Text {
  public:
   Text() = default;
   /// A copy of `s`; null gives null.
   Text(const char* s) : shared_(s ? share(s) : nullptr) {}
   /// A copy of `s` up to its first NUL.
-  explicit Text(std::string_view s) : shared_(share(s.substr(0, s.find('\0')))) {}
+  explicit Text(std::string_view s) : shared_(share(s)) {}
   Text(const Text& other) : shared_(other.shared_) {
     if (shared_) ++shared_->references;
   }
@@ -36,13 +36,11 @@ class Text {
   operator const char*() const { return c_str(); }
   /// Null counts as empty.
   bool empty() const { return !shared_ || shared_->characters[0] == '\0'; }
-  std::string_view view() const {
-    return shared_ ? std::string_view(shared_->characters, shared_->size) : std::string_view();
-  }
+  std::string_view view() const { return shared_ ? shared_->view() : std::string_view(); }
   /// Whether there is a per-cent sign in it, which printing treats specially.
   bool has_percent() const { return shared_ && shared_->has_percent; }
-  /// Spread over all bits, as hash tables like it.
-  std::size_t hash() const { return shared_ ? spread(shared_->hash) : 0; }
+  /// Spread over all bits, as hash tables like it. Equal texts are one in memory: its address tells them from others.
+  std::size_t hash() const { return reinterpret_cast<std::uintptr_t>(shared_) * std::size_t{0x9E3779B97F4A7C15} >> 7; }
 
   friend bool operator==(const Text& a, const Text& b) { return a.shared_ == b.shared_; }
   friend bool operator==(const Text& a, const char* b) {
@@ -51,18 +49,19 @@ class Text {
 
  private:
   struct Shared {
+    static std::size_t memory_for(std::size_t size);
+    std::string_view view() const { return {characters, size}; }
+
     std::uint32_t references;
-    std::uint32_t hash;
     std::uint32_t size : 31;
     std::uint32_t has_percent : 1;
     char characters[1];  // as many as the text has, and a NUL
   };
-  struct Table;
+  class Table;
 
-  static constexpr std::size_t spread(std::uint32_t hash) { return hash * std::size_t{0x9E3779B97F4A7C15}; }
   static Table& table();
   static Shared* share(std::string_view s);
-  static Shared* make(std::string_view s, std::uint32_t hash);
+  static Shared* make(std::string_view s);
   static void release(Shared* shared);
 
   Shared* shared_ = nullptr;

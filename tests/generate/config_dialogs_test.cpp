@@ -25,7 +25,7 @@ TEST_F(StopListText, IsWrittenAsItStands) {
 }
 
 TEST_F(StopListText, IsSetWhenItIsEmpty) {
-  set_stop_list("");
+  stop_list_set("");
   EXPECT_EQ("char vq_config_stop_list[] = \"\";\n\n", written_by(write_stop_list));
 }
 

@@ -172,7 +172,7 @@ TEST_F(ClearDocument, LeavesNoNames) {
   set_config_file("config.c");
   set_code_file("code.c");
   set_stubs_file("stubs.c");
-  set_stop_list("XmFrame");
+  stop_list_set("XmFrame");
   clear_document();
   for (auto option : all_name_options) EXPECT_EQ(nullptr, (name_options.*option).document.c_str());
   EXPECT_EQ(nullptr, config_generate_name());

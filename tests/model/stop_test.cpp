@@ -11,22 +11,22 @@ class StopListTest : public ModelTest {};
 TEST_F(StopListTest, IsNullAtFirst) { EXPECT_EQ(nullptr, excluded_classes.c_str()); }
 
 TEST_F(StopListTest, IsSetAsAWhole) {
-  set_stop_list("XmFrame,XmLabel");
-  set_stop_list("XmForm");
+  stop_list_set("XmFrame,XmLabel");
+  stop_list_set("XmForm");
   EXPECT_STREQ("XmForm", excluded_classes);
 }
 
 TEST_F(StopListTest, GoesBackToNull) {
-  set_stop_list("XmFrame");
-  set_stop_list(nullptr);
+  stop_list_set("XmFrame");
+  stop_list_set(nullptr);
   EXPECT_EQ(nullptr, excluded_classes.c_str());
 }
 
 TEST_F(StopListTest, MayBeGivenItsOwnValue) {
-  set_stop_list("XmFrame,XmLabel");
-  set_stop_list(excluded_classes);
+  stop_list_set("XmFrame,XmLabel");
+  stop_list_set(excluded_classes);
   EXPECT_STREQ("XmFrame,XmLabel", excluded_classes);
-  set_stop_list(excluded_classes.c_str());
+  stop_list_set(excluded_classes.c_str());
   EXPECT_STREQ("XmFrame,XmLabel", excluded_classes);
 }
 

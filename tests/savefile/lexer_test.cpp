@@ -176,6 +176,8 @@ TEST_F(LexerTest, AnUnterminatedStringIsAString) {
   EXPECT_EQ((Tokens{"word a", "string b c\n"}), tokens_of("a 'b c\n"));
   EXPECT_EQ(Tokens{"string "}, tokens_of("'"));
   EXPECT_EQ(Tokens{"string it's"}, tokens_of(R"('it\'s)"));
+  EXPECT_EQ(Tokens{"string a"}, tokens_of(R"('a\)"));
+  EXPECT_EQ(Tokens{"string aA"}, tokens_of(R"('a\65)"));
 }
 
 TEST_F(LexerTest, StringsKeep2047Characters) {

@@ -71,7 +71,7 @@ TEST_F(ParseIt, AFreshDocumentReplacesTheModel) {
   alias_add("A");
   page_add("own");
   set_code_file("code.c");
-  set_stop_list("XmFrame");
+  stop_list_set("XmFrame");
   vqc_set_aliases_variable("mine");
   EXPECT_EQ(1, read_document("VQconfig header 'a.h'"));
   EXPECT_EQ(0, family_count());
@@ -103,7 +103,7 @@ TEST_F(ParseIt, AddingMarksTheDocumentChangedOnlyByWhatIsNew) {
 TEST_F(ParseIt, AnAddedHeaderReplacesWhatItGives) {
   set_code_file("old_code.c");
   set_config_file("old_config.c");
-  set_stop_list("XmFrame");
+  stop_list_set("XmFrame");
   merge_document("VQconfig code_name='new_code.c' stop_list='XmForm'");
   EXPECT_STREQ("new_code.c", code_generate_name());
   EXPECT_STREQ("old_config.c", config_generate_name());

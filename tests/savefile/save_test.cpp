@@ -81,7 +81,7 @@ TEST_F(WriteHeader, HasAllNamesInTheirOrder) {
   vqc_set_enumerations_variable("enums");
   vqc_set_converters_variable("convs");
   vqc_set_aliases_variable("aliases_");
-  set_stop_list("XmFrame,XmLabel");
+  stop_list_set("XmFrame,XmLabel");
   EXPECT_EQ(
       "VQconfig\n"
       "code_name='code.c'\n"
@@ -120,12 +120,12 @@ TEST_F(WriteHeader, LeavesOutWhatTheResourcesSay) {
 }
 
 TEST_F(WriteHeader, LeavesOutAnEmptyStopList) {
-  set_stop_list("");
+  stop_list_set("");
   EXPECT_EQ("VQconfig\n", written_document());
 }
 
 TEST_F(WriteHeader, HasTheStopListAsItStands) {
-  set_stop_list("100%%,it's");
+  stop_list_set("100%%,it's");
   EXPECT_EQ("VQconfig\nstop_list = '100%%,it's'\n", written_document());
 }
 

@@ -45,6 +45,18 @@ TEST_F(StreamTest, ReadsFilesAboutAsLongAsItsBuffer) {
   }
 }
 
+TEST_F(StreamTest, PutsNulsBehindEachPart) {
+  for (std::size_t size : {std::size_t{0}, std::size_t{5}, kBuffer, kBuffer + 1}) {
+    write_file(path, std::string(size, 'x'));
+    auto stream = Stream::open(path.c_str(), "r");
+    std::string_view part;
+    do {
+      part = stream->read();
+      EXPECT_EQ(std::string(Stream::kNulsBehind, '\0'), std::string(part.data() + part.size(), Stream::kNulsBehind));
+    } while (!part.empty());
+  }
+}
+
 TEST_F(StreamTest, ReadsBytesAsTheyAre) {
   const std::string bytes("\0\xff\r\n\x80\x1a", 6);
   write_file(path, bytes);

@@ -7,7 +7,9 @@
 
 inline ErrorCode enumentry_add(const Text& name, EnumDef* owner) {
   if (!owner) return enum_entry_kind.codes.no_owner;
-  return enum_entry_kind.add(owner->entries, name, [&] { return new (std::nothrow) EnumEntry{nullptr, name, {}, {}}; });
+  return enum_entry_kind.add(owner->entries, name, [&] {
+    return new (std::nothrow) EnumEntry{{}, nullptr, name, {}, {}};
+  });
 }
 inline ErrorCode enumentry_delete(EnumDef* owner, const Text& name) {
   return owner ? enum_entry_kind.remove(owner->entries, name) : enum_entry_kind.codes.no_owner;

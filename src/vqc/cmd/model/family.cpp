@@ -55,5 +55,5 @@ void clear_document() {
   family_header_pool.clear();
   config_header_pool.clear();
   clear_options();
-  set_stop_list(nullptr);
+  stop_list_set(nullptr);
 }

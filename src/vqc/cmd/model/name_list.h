@@ -62,17 +62,15 @@ class NameList {
     return element;
   }
 
-  /// The same, but quick to find nothing where a name comes in its order.
-  Element* find_before_adding(const Text& name) const {
+  /// Whether a name sorts behind all others, and so cannot be there. Asking is cheap; most names come in their order.
+  bool sorts_last(const Text& name) const {
     const bool in_order = order == Order::sorted && tail_ && !unsettled_after_ && !rearranged_;
-    return in_order && std::strcmp(name_of(*tail_), name) < 0 ? nullptr : find(name);
+    return in_order && std::strcmp(name_of(*tail_), name) < 0;
   }
 
-  /// Links an element whose name the list does not hold yet.
-  void link(Element* element) {
-    if (order == Order::sorted && !unsettled_after_ && tail_ && (rearranged_ || before(*element, *tail_))) {
-      unsettled_after_ = tail_;
-    }
+  /// Links an element whose name the list does not hold yet. `last` says that it sorts behind all others.
+  void link(Element* element, bool last) {
+    if (order == Order::sorted && !unsettled_after_ && !last) unsettled_after_ = tail_;
     join(tail_, element);
     join(element, nullptr);
     ++size_;
@@ -109,8 +107,9 @@ class NameList {
   void settle() const {
     if (!unsettled_after_) return;
     std::vector<Named<Element>> late;
+    late.reserve(size_);
     for (Element* each = unsettled_after_->next; each; each = each->next) late.push_back({0, each});
-    sort_by_name(late);
+    sort_by_name<Element>(late);
     join(unsettled_after_, nullptr);
     Element* previous = nullptr;
     for (const auto& [key, element] : late) {
@@ -138,8 +137,6 @@ class NameList {
   using Index = absl::flat_hash_set<Element*, Hash, Equal>;
 
   static constexpr unsigned kSearched = 8;  // up to here a search is as quick as an index
-
-  static bool before(const Element& a, const Element& b) { return std::strcmp(name_of(a), name_of(b)) < 0; }
 
   static constexpr bool doubly_linked = requires(Element element) { element.previous; };
 

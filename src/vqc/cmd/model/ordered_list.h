@@ -66,10 +66,11 @@ class OrderedList {
   template <class Make>
   ErrorCode add(List& list, const Text& name, Make make) {
     if (!name) return codes.absent;
-    if (list.find_before_adding(name)) return codes.duplicate;
+    const bool last = list.sorts_last(name);
+    if (!last && list.find(name)) return codes.duplicate;
     Element* element = make();
     if (!element) return kOutOfMemory;
-    list.link(element);
+    list.link(element, last);
     dirty = true;
     return 0;
   }

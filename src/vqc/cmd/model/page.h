@@ -10,6 +10,8 @@ inline ErrorCode page_delete(const Text& name) { return page_pool.remove(name); 
 inline PageDef* page_first() { return page_pool.first(); }
 inline PageDef* page_next() { return page_pool.next(); }
 inline PageDef* page_ptr(const Text& name) { return page_pool.ptr(name); }
+inline void page_setcurrent(PageDef* page) { page_pool.set_current(page); }
+inline PageDef* page_getcurrent() { return page_pool.current(); }
 inline int page_count() { return page_pool.count(); }
 
 // The pages that a family uses.

@@ -81,9 +81,9 @@ class FamilyList
   static constexpr bool counted = requires(Record record) { record.uses; };
 
   static Element* new_reference(const Text& name) {
-    pool.add(name);
     Record* record = pool.list.find(name);
-    auto* reference = record ? new (std::nothrow) Element{nullptr, nullptr, record} : nullptr;
+    if (!record && pool.add(name) == 0) record = pool.list.find(name);
+    auto* reference = record ? new (std::nothrow) Element{{}, nullptr, nullptr, record} : nullptr;
     if constexpr (counted) {
       if (reference) ++record->uses;
     }

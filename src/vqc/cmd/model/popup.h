@@ -10,6 +10,8 @@ inline ErrorCode popup_delete(const Text& name) { return popup_pool.remove(name)
 inline PopupDef* popup_first() { return popup_pool.first(); }
 inline PopupDef* popup_next() { return popup_pool.next(); }
 inline PopupDef* popup_ptr(const Text& name) { return popup_pool.ptr(name); }
+inline void popup_setcurrent(PopupDef* popup) { popup_pool.set_current(popup); }
+inline PopupDef* popup_getcurrent() { return popup_pool.current(); }
 inline int popup_count() { return popup_pool.count(); }
 
 // The popups that a family uses.

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "libkel/text.h"
+#include "vqc/cmd/model/in_blocks.h"
 #include "vqc/cmd/model/name_list.h"
 
 // The records of a document. A member's initial value is its value in a new record. Pools hold the records
@@ -17,7 +18,7 @@ enum class FreeMode : std::uint8_t { by_default, free, dont_free };
 enum Access : int { ACCESS_NOT_GIVEN = -1, ACCESS_CREATE = 1, ACCESS_GET = 2, ACCESS_SET = 4 };
 
 /// One resource of one widget class, which owns it.
-struct ResourceDef {
+struct ResourceDef : InBlocks {
   ResourceDef* next = nullptr;
   Text name;
   Text popup;
@@ -27,11 +28,12 @@ struct ResourceDef {
   bool visible = true;
   FreeMode free_get = FreeMode::by_default;
   FreeMode free_set = FreeMode::by_default;
-  bool mfc_compatible = false;   // never saved
-  bool java_compatible = false;  // never saved
+  // Never saved. They share a byte, without which each of very many resources would take eight more.
+  bool mfc_compatible : 1 = false;
+  bool java_compatible : 1 = false;
 };
 
-struct WidgetDef {
+struct WidgetDef : InBlocks {
   ~WidgetDef();
 
   WidgetDef* next = nullptr;
@@ -65,14 +67,14 @@ struct WidgetDef {
 };
 
 /// One value of one enumeration, which owns it.
-struct EnumEntry {
+struct EnumEntry : InBlocks {
   EnumEntry* next = nullptr;
   Text name;
   Text code_symbol;
   Text resfile_symbol;
 };
 
-struct EnumDef {
+struct EnumDef : InBlocks {
   ~EnumDef();
 
   EnumDef* next = nullptr;
@@ -84,7 +86,7 @@ struct EnumDef {
   NameList<EnumEntry, Order::appended> entries;
 };
 
-struct AliasDef {
+struct AliasDef : InBlocks {
   AliasDef* next = nullptr;
   AliasDef* previous = nullptr;
   Text name;
@@ -93,7 +95,7 @@ struct AliasDef {
   bool used = false;
 };
 
-struct ConverterDef {
+struct ConverterDef : InBlocks {
   ConverterDef* next = nullptr;
   ConverterDef* previous = nullptr;
   Text name;
@@ -106,7 +108,7 @@ struct ConverterDef {
 };
 
 /// A dialog that edits resources. Its name is also its create procedure.
-struct PopupDef {
+struct PopupDef : InBlocks {
   PopupDef* next = nullptr;
   PopupDef* previous = nullptr;
   Text name;
@@ -117,7 +119,7 @@ struct PopupDef {
 };
 
 /// A page of the resource panel.
-struct PageDef {
+struct PageDef : InBlocks {
   PageDef* next = nullptr;
   PageDef* previous = nullptr;
   Text name;
@@ -126,7 +128,7 @@ struct PageDef {
 };
 
 /// A header file to include.
-struct HeaderEntry {
+struct HeaderEntry : InBlocks {
   HeaderEntry* next = nullptr;
   HeaderEntry* previous = nullptr;
   Text name;
@@ -136,7 +138,7 @@ struct HeaderEntry {
 
 /// A family's use of a record. It owns nothing but itself.
 template <class RecordType>
-struct Reference {
+struct Reference : InBlocks {
   using Record = RecordType;
   Reference* next = nullptr;
   Reference* previous = nullptr;
@@ -147,7 +149,7 @@ template <class Record, Order order>
 using References = NameList<Reference<Record>, order>;
 
 /// The initialisation procedure of a family and what is generated for it.
-struct FamilyInit {
+struct FamilyInit : InBlocks {
   Text family_init;  // unlike other texts it may be empty without being null
   bool generate_family_init_vq = false;
   bool generate_family_init_code = false;

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <vector>
+#include <span>
 
 #include "vqc/cmd/model/name_of.h"
 
@@ -18,13 +18,13 @@ struct Named {
   const char* name() const { return name_of(*element); }
 };
 
-/// How many characters all names begin with alike.
+/// How many characters all names have in common from `from`, where each has one or its end.
 template <class Element>
-std::size_t common_prefix(const std::vector<Named<Element>>& all) {
-  const char* first = all.front().name();
+std::size_t common_prefix(std::span<const Named<Element>> all, std::size_t from) {
+  const char* first = all.front().name() + from;
   std::size_t size = std::strlen(first);
   for (const auto& each : all) {
-    size = static_cast<std::size_t>(std::mismatch(first, first + size, each.name()).first - first);
+    size = static_cast<std::size_t>(std::mismatch(first, first + size, each.name() + from).first - first);
   }
   return size;
 }
@@ -39,15 +39,20 @@ inline std::uint64_t sort_key(const char* name) {
   return key;
 }
 
-/// Sorts by the bytes of the names. Most pairs of names differ soon after what all have in common, and so in a number.
+/// Sorts by the bytes of the names, which differ, from `from` on: by eight characters as a number, and then what these
+/// leave together by what follows. Comparing numbers is quick, while the names themselves lie all over the memory.
 template <class Element>
-void sort_by_name(std::vector<Named<Element>>& all) {
-  if (all.empty()) return;
-  const std::size_t prefix = common_prefix(all);
-  for (auto& each : all) each.key = sort_key(each.name() + prefix);
-  std::sort(all.begin(), all.end(), [](const Named<Element>& a, const Named<Element>& b) {
-    return a.key != b.key ? a.key < b.key : std::strcmp(a.name(), b.name()) < 0;
-  });
+void sort_by_name(std::span<Named<Element>> all, std::size_t from = 0) {
+  if (all.size() < 2) return;
+  from += common_prefix<Element>(all, from);
+  for (auto& each : all) each.key = sort_key(each.name() + from);
+  std::ranges::sort(all, {}, &Named<Element>::key);
+  while (!all.empty()) {
+    const auto next = std::ranges::find_if(all, [&](const auto& each) { return each.key != all.front().key; });
+    const auto alike = static_cast<std::size_t>(next - all.begin());
+    sort_by_name(all.first(alike), from + 8);
+    all = all.subspan(alike);
+  }
 }
 
 #endif

@@ -6,6 +6,13 @@
 /// The widget classes to leave out: comma-separated class names, or null.
 inline Text excluded_classes;
 
-inline void set_stop_list(const Text& text) { excluded_classes = text; }
+/// Called when they have been set; null for nobody.
+inline void (*on_stop_list)() = nullptr;
+
+inline void stop_list_set(const Text& classes) {
+  excluded_classes = classes;
+  if (on_stop_list) on_stop_list();
+}
+inline void stop_list_free() { stop_list_set(nullptr); }
 
 #endif

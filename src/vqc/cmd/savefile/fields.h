@@ -1,6 +1,7 @@
 #ifndef VQC_CMD_SAVEFILE_FIELDS_H
 #define VQC_CMD_SAVEFILE_FIELDS_H
 
+#include <string_view>
 #include <variant>
 
 #include "libkel/text.h"
@@ -75,6 +76,6 @@ inline constexpr Field<FamilyInit> family_init_flags[] = {
 };
 
 /// The words for FreeMode, by its number.
-inline constexpr const char* free_mode_words[] = {"VQC_FREE_DEFAULT", "VQC_FREE", "VQC_DONT_FREE"};
+inline constexpr std::string_view free_mode_words[] = {"VQC_FREE_DEFAULT", "VQC_FREE", "VQC_DONT_FREE"};
 
 #endif

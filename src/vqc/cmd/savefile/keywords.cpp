@@ -1,6 +1,5 @@
 #include "vqc/cmd/savefile/keywords.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -76,17 +75,26 @@ constexpr Keyword keywords[] = {
     {"widget_doc", Kw::widget_doc},
     {"widget_tag", Kw::widget_tag},
 };
-static_assert(std::ranges::is_sorted(keywords, {}, &Keyword::word), "looked up by halves");
 
-/// Where the keywords of each first letter begin: most words of a document are no keywords, and few letters have many.
-constexpr auto first_with_letter = [] {
-  std::array<std::uint8_t, 257> first{};
-  std::size_t k = 0;
-  for (std::size_t letter = 0; letter < first.size(); ++letter) {
-    while (k < std::size(keywords) && static_cast<unsigned char>(keywords[k].word[0]) < letter) ++k;
-    first[letter] = static_cast<std::uint8_t>(k);
+constexpr std::size_t kSlots = 256;
+
+/// Where to look for `word`, which is not empty. The factors are chosen so that nearly every keyword has a slot of its
+/// own, and so that the words of which a document has most (True, VQC_FREE and so on) come to slots without a keyword.
+constexpr std::size_t slot_of(std::string_view word) {
+  const auto code = [&](std::size_t i) -> std::size_t { return static_cast<unsigned char>(word[i]); };
+  const std::size_t size = word.size();
+  return (17 * size + code(0) + 11 * code(size / 2) + 13 * code(size - 1)) % kSlots;
+}
+
+/// A hash table of the keywords. One whose slot is taken has the next that is free.
+constexpr auto slots = [] {
+  std::array<const Keyword*, kSlots> table{};
+  for (const Keyword& keyword : keywords) {
+    std::size_t slot = slot_of(keyword.word);
+    while (table[slot]) slot = (slot + 1) % kSlots;
+    table[slot] = &keyword;
   }
-  return first;
+  return table;
 }();
 
 constexpr auto text_of = [] {
@@ -99,12 +107,9 @@ constexpr auto text_of = [] {
 
 const Keyword* find_keyword(std::string_view word) {
   if (word.empty()) return nullptr;
-  const auto letter = static_cast<unsigned char>(word[0]);
-  const Keyword* begin = keywords + first_with_letter[letter];
-  const Keyword* end = keywords + first_with_letter[letter + std::size_t{1}];
-  const Keyword* found =
-      std::lower_bound(begin, end, word, [](const Keyword& k, std::string_view w) { return k.word < w; });
-  return found != end && found->word == word ? found : nullptr;
+  std::size_t slot = slot_of(word);
+  while (slots[slot] && slots[slot]->word != word) slot = (slot + 1) % kSlots;
+  return slots[slot];
 }
 
 const char* keyword_text(Kw kw) { return text_of[static_cast<std::size_t>(kw)]; }

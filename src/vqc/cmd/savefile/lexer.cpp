@@ -2,20 +2,26 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <experimental/simd>
 #include <utility>
 
 #include "libkel/keltype.h"
 
 namespace {
 
+using Characters = std::experimental::native_simd<char>;  // as many as the processor compares at once
+static_assert(Characters::size() <= Stream::kNulsBehind);
+
 /// What a character begins where a token may begin.
-enum class Start : std::uint8_t { invalid, end, space, line_comment, slash, string, minus, digit, word, single };
+enum class Start : std::uint8_t { invalid, nul, space, line_comment, slash, string, minus, digit, word, single };
 
 constexpr Start start_of(char c) {
   if (kel_is(c, KEL_SPACE)) return Start::space;
   if (kel_is(c, KEL_LETTER | KEL_UNDERSCORE)) return Start::word;
   if (kel_is(c, KEL_DIGIT)) return Start::digit;
   switch (c) {
+    case '\0':
+      return Start::nul;
     case '!':
       return Start::line_comment;
     case '/':
@@ -29,9 +35,16 @@ constexpr Start start_of(char c) {
   }
 }
 
-constexpr bool ends_word(char c) { return !kel_is(c, KEL_IDENTIFIER) && c != '.'; }
+// What ends a run of characters, asked of many characters at once. Both hold for the NUL behind each part of the file,
+// so that a search needs no other end.
 
-constexpr bool ends_plain_string(char c) { return c == '\'' || c == '\\' || c == '\n'; }
+constexpr auto ends_word = [](const auto& c) {
+  constexpr char kLowerCase = 'a' - 'A';  // the bit by which it differs from upper case
+  const auto is_within = [](const auto& some, char low, char high) { return some >= low && some <= high; };
+  return !(is_within(c | kLowerCase, 'a', 'z') || is_within(c, '0', '9') || c == '_' || c == '.');
+};
+
+constexpr auto ends_plain_string = [](const auto& c) { return c == '\'' || c == '\\' || c == '\n' || c == '\0'; };
 
 /// A function of characters as a table: these are asked for every character of a document.
 template <auto function>
@@ -41,11 +54,13 @@ constexpr auto table = [] {
   return values;
 }();
 
-/// The first character from `from` for which `test` holds, or `to`.
-template <bool (*test)(char)>
-const char* find(const char* from, const char* to) {
-  while (from < to && !table<test>[static_cast<unsigned char>(*from)]) ++from;
-  return from;
+/// The first character from `from` for which `test` holds.
+template <class Test>
+const char* find(const char* from, Test test) {
+  for (;; from += Characters::size()) {
+    const auto found = test(Characters(from, std::experimental::element_aligned));
+    if (any_of(found)) return from + find_first_set(found);
+  }
 }
 
 /// What a backslash makes of the character after it.
@@ -84,7 +99,7 @@ bool Lexer::fill() {
 
 void Lexer::close() {
   stream_.reset();
-  next_ = end_ = nullptr;
+  next_ = end_ = kNothing.data();
 }
 
 int Lexer::next_ch() {
@@ -98,8 +113,11 @@ int Lexer::next_ch() {
 int Lexer::next_token() {
   text_ = {};
   for (;;) {
-    const int c = current();
-    switch (c == kEnd ? Start::end : table<start_of>[static_cast<std::size_t>(c)]) {
+    while (*next_ == ' ') ++next_;  // what mostly stands between tokens
+    switch (table<start_of>[static_cast<unsigned char>(*next_)]) {
+      case Start::nul:
+        if (next_ != end_ || !fill()) return read_character();
+        break;
       case Start::space:
         skip_space();
         break;
@@ -107,9 +125,7 @@ int Lexer::next_token() {
         skip_line();
         break;
       case Start::slash:
-        next_ch();
-        if (current() != '*') return read_character();  // whatever follows, even white space, is a token of its own
-        skip_comment();
+        if (!skip_comment()) return read_character();  // whatever follows, even white space, is a token of its own
         break;
       case Start::string:
         return read_string();
@@ -119,6 +135,8 @@ int Lexer::next_token() {
         return read_number(false);
       case Start::minus:
         return read_minus();
+      case Start::single:
+        return take_character();
       default:
         return read_character();
     }
@@ -126,23 +144,25 @@ int Lexer::next_token() {
 }
 
 void Lexer::skip_space() {
-  do {
-    for (; next_ < end_ && kel_is(*next_, KEL_SPACE); ++next_) lineno += *next_ == '\n';
-  } while (next_ == end_ && fill());
+  for (; kel_is(*next_, KEL_SPACE); ++next_) lineno += *next_ == '\n';
 }
 
 void Lexer::skip_line() {
   while (current() != '\n' && next_ch()) continue;
 }
 
-void Lexer::skip_comment() {
+/// False for a slash that begins no comment, which is skipped alone.
+bool Lexer::skip_comment() {
+  next_ch();
+  if (current() != '*') return false;
   next_ch();
   for (int previous = 0; current() != kEnd;) {
     const int c = current();
     next_ch();
-    if (previous == '*' && c == '/') return;
+    if (previous == '*' && c == '/') break;
     previous = c;
   }
+  return true;
 }
 
 /// Takes the characters up to `to` as the token's text where they stand, if there is more in the buffer after them.
@@ -156,11 +176,11 @@ bool Lexer::take_whole(const char* to) {
 }
 
 /// Keeps characters up to the first that `stop` holds for, or the end of the document.
-template <bool (*stop)(char)>
-void Lexer::keep_until() {
+template <class Test>
+void Lexer::keep_until(Test stop) {
   do {
     const char* from = next_;
-    next_ = find<stop>(next_, end_);
+    next_ = find(next_, stop);
     keep(from, next_);
   } while (next_ == end_ && fill());
 }
@@ -174,24 +194,26 @@ void Lexer::keep(const char* from, const char* to) {
 int Lexer::read_string() {
   kind_ = SaveFileToken::string;
   ++next_;
-  const char* to = find<ends_plain_string>(next_, end_);
-  if (to == end_ || *to != '\'' || !take_whole(to)) return read_string_in_pieces();
+  const char* to = find(next_, ends_plain_string);
+  if (*to != '\'' || !take_whole(to)) return read_string_in_pieces();
   ++next_;
   return 1;
 }
 
 int Lexer::read_string_in_pieces() {
   for (;;) {
-    keep_until<ends_plain_string>();
+    keep_until(ends_plain_string);
     const int c = current();
     if (c == '\\') {
       read_escape();
       continue;
     }
-    if (c == '\n') keep(next_, next_ + 1);
+    if (c == '\n' || c == '\0') keep(next_, next_ + 1);
     next_ch();
-    if (c != '\n') return 1;
+    if (c == '\'' || c == kEnd) break;
   }
+  text_ = text_.substr(0, text_.find('\0'));
+  return 1;
 }
 
 void Lexer::read_escape() {
@@ -213,7 +235,7 @@ void Lexer::read_escape() {
 }
 
 int Lexer::read_word() {
-  if (!take_whole(find<ends_word>(next_, end_))) keep_until<ends_word>();
+  if (!take_whole(find(next_, ends_word))) keep_until(ends_word);
   const Keyword* keyword = find_keyword(text_);
   kind_ = keyword ? SaveFileToken::keyword : SaveFileToken::identifier;
   if (keyword) keyword_ = keyword->kw;
@@ -240,12 +262,12 @@ int Lexer::read_minus() {
 }
 
 int Lexer::read_character() {
-  character_ = current();
-  if (character_ == kEnd) {
+  const int c = current();
+  if (c == kEnd) {
     kind_ = SaveFileToken::end_of_input;
     return 1;
   }
-  kind_ = SaveFileToken::character;
-  next_ch();
-  return table<start_of>[static_cast<std::size_t>(character_)] == Start::single ? 1 : 0;
+  lineno += c == '\n';
+  take_character();
+  return table<start_of>[static_cast<std::size_t>(c)] == Start::single ? 1 : 0;
 }

@@ -44,33 +44,41 @@ class Lexer {
   bool is(SaveFileToken kind) const { return kind_ == kind; }
   Kw keyword() const { return keyword_; }
   int integer() const { return integer_; }
-  /// The text of a string or identifier, until the next token is read.
+  /// The text of a string or identifier up to its first NUL, until the next token is read.
   std::string_view text() const { return text_; }
 
  private:
   static constexpr int kEnd = -1;
   static constexpr std::size_t kLongest = 2047;  // characters kept of a token
 
-  int current() { return next_ < end_ || fill() ? static_cast<unsigned char>(*next_) : kEnd; }
-  bool fill();
-  void skip_space();
-  void skip_line();
-  void skip_comment();
+  int current() { return next_ != end_ || fill() ? static_cast<unsigned char>(*next_) : kEnd; }
   bool take_whole(const char* to);
-  template <bool (*stop)(char)>
-  void keep_until();
   void keep(const char* from, const char* to);
   int read_string();
-  int read_string_in_pieces();
-  void read_escape();
   int read_word();
-  int read_number(bool negative);
-  int read_minus();
-  int read_character();
+  int take_character() {
+    kind_ = SaveFileToken::character;
+    character_ = static_cast<unsigned char>(*next_++);
+    return 1;
+  }
+
+  // What is rarer stays out of next_token, which is the quicker for being small.
+  [[gnu::noinline]] bool fill();
+  [[gnu::noinline]] void skip_space();
+  [[gnu::noinline]] void skip_line();
+  [[gnu::noinline]] bool skip_comment();
+  template <class Test>
+  [[gnu::noinline]] void keep_until(Test stop);
+  [[gnu::noinline]] int read_string_in_pieces();
+  [[gnu::noinline]] int read_number(bool negative);
+  [[gnu::noinline]] int read_minus();
+  [[gnu::noinline]] int read_character();
+  void read_escape();
 
   std::unique_ptr<Stream> stream_;
-  const char* next_ = nullptr;  // the current character, unless it is `end_`
-  const char* end_ = nullptr;
+  static constexpr std::array<char, Stream::kNulsBehind> kNothing{};
+  const char* next_ = kNothing.data();  // the current character, unless it is `end_`
+  const char* end_ = kNothing.data();   // NULs follow
   SaveFileToken kind_ = SaveFileToken::end_of_input;
   int character_ = 0;
   Kw keyword_{};

@@ -24,9 +24,8 @@
 
 namespace {
 
-/// Whether `text`, up to its first NUL, is `word` but for the case of its letters.
+/// Whether `text` is `word` but for the case of its letters.
 bool same_word(std::string_view text, std::string_view word) {
-  text = text.substr(0, text.find('\0'));
   return text.size() == word.size() && strncasecmp(text.data(), word.data(), word.size()) == 0;
 }
 
@@ -207,7 +206,10 @@ bool Reader::header() {
   }
   if (!lexer_.is(Kw::stop_list)) return true;
   lexer_.next_token();
-  return assigned_optional(excluded_classes);
+  Text classes;
+  if (!assigned_optional(classes)) return false;
+  stop_list_set(classes);
+  return true;
 }
 
 // Items.

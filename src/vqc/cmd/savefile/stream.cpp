@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 
 namespace {
@@ -18,7 +19,7 @@ std::unique_ptr<Stream> Stream::open(const char* path, const char* mode) {
   return std::unique_ptr<Stream>(descriptor == kNotOpen ? nullptr : new Stream(descriptor));
 }
 
-Stream::Stream(int descriptor) : descriptor_(descriptor), buffer_(new char[kSize]) {}
+Stream::Stream(int descriptor) : descriptor_(descriptor), buffer_(new char[kSize + kNulsBehind]) {}
 
 Stream::~Stream() { close(); }
 
@@ -27,7 +28,9 @@ std::string_view Stream::read() {
   do {
     got = ::read(descriptor_, buffer_.get(), kSize);
   } while (got < 0 && errno == EINTR);
-  return {buffer_.get(), got > 0 ? static_cast<std::size_t>(got) : 0};
+  const std::size_t size = got > 0 ? static_cast<std::size_t>(got) : 0;
+  std::fill_n(buffer_.get() + size, kNulsBehind, '\0');
+  return {buffer_.get(), size};
 }
 
 bool Stream::close() {

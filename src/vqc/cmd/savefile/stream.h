@@ -22,11 +22,14 @@ class Stream {
     return true;
   }
 
-  /// The next part of the file, which stands until the next call; empty at its end or when it cannot be read.
+  /// The next part of the file, which stands until the next call; empty at its end or when it cannot be read. NULs
+  /// follow it, so that who looks for the end of something need not look for that of the part as well.
   std::string_view read();
 
   /// Writes what the buffer holds and closes the file. False when either fails; true when it was closed already.
   bool close();
+
+  static constexpr std::size_t kNulsBehind = 64;  // as many as are looked at in one go
 
  private:
   explicit Stream(int descriptor);

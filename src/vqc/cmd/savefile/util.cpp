@@ -60,8 +60,6 @@ int stringout(Stream* stream, const char* text) {
   return charout(stream, "\"") && charout(stream, text) && charout(stream, "\"");
 }
 
-int boolout(Stream* stream, bool flag) { return rawout(stream, flag ? "True" : "False"); }
-
 int boolout_bc(Stream* stream, bool flag, const char* keyword, bool default_flag) {
   if (flag == default_flag) return 0;
   charout_1s(stream, "\t%s=", keyword);
@@ -71,6 +69,7 @@ int boolout_bc(Stream* stream, bool flag, const char* keyword, bool default_flag
 }
 
 int intout(Stream* stream, int value) {
+  if (value >= 0 && value <= 9) return rawout(stream, {&"0123456789"[value], 1});  // as most numbers are
   std::array<char, 16> digits;
   const auto end = std::to_chars(digits.begin(), digits.end(), value).ptr;
   return rawout(stream, {digits.begin(), end});

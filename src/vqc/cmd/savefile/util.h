@@ -32,7 +32,7 @@ int strout(Stream* stream, const char* text);
 int stringout(Stream* stream, const char* text);
 
 /// Prints "True" or "False".
-int boolout(Stream* stream, bool flag);
+inline int boolout(Stream* stream, bool flag);
 
 /// Prints the line of a flag that differs from its default, and returns 1 then, 0 otherwise.
 int boolout_bc(Stream* stream, bool flag, const char* keyword, bool default_flag);
@@ -55,6 +55,9 @@ int report_write_failure();
 inline int rawout(Stream* stream, std::string_view text) {
   return stream && stream->write(text) ? 1 : report_write_failure();
 }
+
+/// Two branches, each of which writes a text whose size the compiler knows.
+inline int boolout(Stream* stream, bool flag) { return flag ? rawout(stream, "True") : rawout(stream, "False"); }
 
 inline int charout(Stream* stream, const Text& text) {
   return text.has_percent() || !stream ? charout(stream, text.view()) : rawout(stream, text.view());
