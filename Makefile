@@ -15,10 +15,11 @@ all:
 	@scripts/configure release -DBUILD_TESTING=OFF
 	@cmake --build $(RELEASE)
 
-# Generates from the shipped example, compiles what comes out, and runs it.
+# Generates from the shipped example, compiles what comes out, and runs it; then opens the example in the editor.
 run: all
 	@scripts/install-packages run
 	@$(MAKE) --no-print-directory -C examples/runtime run VQCONFIG=$(CURDIR)/$(RELEASE)/vqconfig OUT=$(CURDIR)/build/example
+	@scripts/edit $(RELEASE)/vqconfig examples/Athena.vqc
 
 # Everything under the sanitizers, the program and the example as they are shipped, and each fuzzer for a moment.
 test:
@@ -35,10 +36,11 @@ test:
 	ctest --preset release $(JOBS)
 
 bench:
-	@scripts/install-packages build bench
+	@scripts/install-packages build run bench
 	@scripts/configure release -DBUILD_TESTING=OFF
 	@cmake --build $(RELEASE) --target vqconfig bench_tools
 	python3 bench/bench.py --vqconfig $(RELEASE)/vqconfig --tools $(RELEASE)/bench
+	xvfb-run -a python3 bench/bench_editor.py --tools $(RELEASE)
 
 fuzz:
 	@scripts/install-packages build test

@@ -2,21 +2,27 @@
 
 #include <cerrno>
 #include <cstring>
-#include <initializer_list>
-#include <string>
-#include <variant>
 
 namespace {
 
-using Argument = std::variant<const char*, int>;
-
 bool present(const char* text) { return text && *text; }
 
-/// `format` with its %s and %d replaced in order. The format comes from a resource file, so that anything else in it
-/// stands for itself, and a placeholder without an argument vanishes.
-std::string filled(const char* format, std::initializer_list<Argument> arguments) {
+int show(const char* text) {
+  if (!message_sink || !text) return 0;
+  message_sink->show(text);
+  return 1;
+}
+
+int show_filled(const char* name, std::initializer_list<MessageArgument> arguments) {
+  const char* format = vq_lookup_string(name);
+  return present(format) ? show(filled(format, arguments).c_str()) : show(name);
+}
+
+}  // namespace
+
+std::string filled(const char* format, std::initializer_list<MessageArgument> arguments) {
   std::string result;
-  const Argument* argument = arguments.begin();
+  const MessageArgument* argument = arguments.begin();
   for (const char* p = format; *p; ++p) {
     const bool placeholder = *p == '%' && (p[1] == 's' || p[1] == 'd');
     if (!placeholder) {
@@ -35,19 +41,6 @@ std::string filled(const char* format, std::initializer_list<Argument> arguments
   }
   return result;
 }
-
-int show(const char* text) {
-  if (!message_sink || !text) return 0;
-  message_sink->show(text);
-  return 1;
-}
-
-int show_filled(const char* name, std::initializer_list<Argument> arguments) {
-  const char* format = vq_lookup_string(name);
-  return present(format) ? show(filled(format, arguments).c_str()) : show(name);
-}
-
-}  // namespace
 
 const char* vq_lookup_string(const char* name) {
   return present(name) && message_sink ? message_sink->text_of(name) : nullptr;

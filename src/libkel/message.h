@@ -1,6 +1,10 @@
 #ifndef LIBKEL_MESSAGE_H
 #define LIBKEL_MESSAGE_H
 
+#include <initializer_list>
+#include <string>
+#include <variant>
+
 /// Where messages go; neither function may be null. A batch run has no sink, and nothing is shown; the editor sets it
 /// once its window exists.
 struct MessageSink {
@@ -14,6 +18,13 @@ inline const MessageSink* message_sink = nullptr;
 /// The text of the message resource `name`. Null when `name` is null or empty or there is no sink; "" when the
 /// resource is missing. The result belongs to the resource database.
 const char* vq_lookup_string(const char* name);
+
+/// What fills a place in a message: a text for %s (null counts as ""), a number for %d.
+using MessageArgument = std::variant<const char*, int>;
+
+/// `format` with its %s and %d replaced in order. The format comes from a resource file, so that anything else in it
+/// stands for itself, and a place without an argument vanishes.
+std::string filled(const char* format, std::initializer_list<MessageArgument> arguments);
 
 /// Each of these shows a message and returns 1, or returns 0 when there is no sink. A message whose text is missing is
 /// shown as its bare name, without its arguments. Null arguments count as "".

@@ -1,0 +1,126 @@
+// Measures what a user of the editor waits for. Needs a display.
+//
+//   editor start [DOCUMENT]           ends when the main window has been mapped and painted
+//   editor act DOCUMENT FAMILY        prints the CPU milliseconds of single actions, one "action milliseconds" a line;
+//                                     the document has a family of that name
+//
+// The program's own callbacks are called, as the buttons call them, and all events that follow are served.
+
+#include <X11/Intrinsic.h>
+#include <Xm/List.h>
+#include <Xm/SelectioB.h>
+#include <Xm/TextF.h>
+
+#include <cstdio>
+#include <cstring>
+#include <ctime>
+#include <string>
+
+#include "libkel/installation.h"
+#include "vqc/cmd/application/command_line.h"
+#include "vqc/cmd/application/session.h"
+#include "vqc/cmd/editors/dialogs/family_dialog.h"
+
+namespace {
+
+XtAppContext context() { return XtWidgetToApplicationContext(family_dialog[FAMILY_SHELL]); }
+
+/// Serves events until the server has answered all and none is left.
+void settle() {
+  for (int quiet = 0; quiet < 2; ++quiet) {
+    XSync(display, False);
+    while (XtAppPending(context())) {
+      XtAppProcessEvent(context(), XtIMAll);
+      quiet = 0;
+    }
+  }
+}
+
+void wait_until_mapped() {
+  for (bool mapped = false; !mapped;) {
+    XEvent event;
+    XtAppNextEvent(context(), &event);
+    mapped = event.type == MapNotify && event.xmap.window == XtWindow(family_dialog[FAMILY_SHELL]);
+    XtDispatchEvent(&event);
+  }
+  settle();
+}
+
+double milliseconds() {
+  timespec now;
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+  return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+}
+
+template <class Action>
+void measure(const char* name, Action action) {
+  const double before = milliseconds();
+  action();
+  settle();
+  std::printf("%s %.3f\n", name, milliseconds() - before);
+}
+
+Widget named(const std::string& name) {
+  return XtNameToWidget(family_dialog[FAMILY_SHELL], const_cast<char*>(("*" + name).c_str()));
+}
+
+Widget list_of(const char* box) { return XtNameToWidget(named(box), const_cast<char*>("*ItemsList")); }
+
+void press(Widget button) { XtCallCallbacks(button, XmNactivateCallback, nullptr); }
+
+void press_in(const char* box, const char* button) {
+  XmPushButtonCallbackStruct call{XmCR_ACTIVATE, nullptr, 1};
+  XtCallCallbacks(XtNameToWidget(named(box), const_cast<char*>(button)), XmNactivateCallback, &call);
+}
+
+void name_in(const char* box, const char* name) {
+  XmTextFieldSetString(XtNameToWidget(named(box), const_cast<char*>("Text")), const_cast<char*>(name));
+}
+
+void act(const char* family) {
+  name_in("family_selection", family);
+  measure("open_family_dialog", [] { press_in("family_selection", "OK"); });
+  Widget families = list_of("family_selection");
+  measure("choose_another_family", [families] { XmListSelectPos(families, 1, True); });
+  XmString item = XmStringCreateLocalized(const_cast<char*>(family));
+  measure("choose_large_family", [&] { XmListSelectItem(families, item, True); });
+  XmStringFree(item);
+  name_in("widgetlist_selection", "benchWidgetClass");
+  measure("add_widget", [] { press_in("widgetlist_selection", "Apply"); });
+  Widget widgets = list_of("widgetlist_selection");
+  XmListSelectPos(widgets, 0, False);
+  measure("move_widget", [] { press(named("widgetlist_uparrow")); });
+  measure("choose_widget", [widgets] { XmListSelectPos(widgets, 1, True); });
+  measure("open_widget_editor", [] { press_in("widgetlist_selection", "OK"); });
+  Widget resource = named("we_resource_t");
+  measure("type_resource_name", [resource] {
+    for (const char* letter : {"X", "t", "N", "b", "e", "n", "c", "h"}) {
+      XmTextFieldInsert(resource, XmTextFieldGetInsertionPosition(resource), const_cast<char*>(letter));
+      settle();
+    }
+  });
+  measure("add_resource", [] { press(named("we_resource_upd_b")); });
+  measure("delete_widget", [] { press_in("widgetlist_selection", "Cancel"); });
+}
+
+int stop(const char* message) {
+  std::fprintf(stderr, "%s\n", message);
+  return 2;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 2) return stop("usage: editor start [DOCUMENT] | editor act DOCUMENT FAMILY");
+  const std::string mode = argv[1];
+  argv[1] = argv[0];
+  const char* family = mode == "act" && argc == 4 ? argv[3] : nullptr;
+  int words = argc - 1 - (family ? 1 : 0);
+  use_installation();
+  if (const char* obstacle = open_display(&words, argv + 1)) return stop(obstacle);
+  parse_command_line(words, argv + 1);
+  interactive = true;
+  if (!start_session(words, argv + 1)) return stop("no main window");
+  wait_until_mapped();
+  if (family) act(family);
+}

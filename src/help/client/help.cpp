@@ -1,0 +1,112 @@
+#include "help/client/help.h"
+
+#include <X11/Xatom.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+#include "libkel/text.h"
+
+namespace {
+
+constexpr const char* kQuit = "*** QUIT HELP SYSTEM";
+
+Atom help_win = None;   // on the client's window: the viewer's window
+Atom help_dest = None;  // on the viewer's window: the request
+
+Text last_request;
+bool starting = false;  // a viewer has been launched that has not announced itself
+
+HelpStartedCallback started_callback = nullptr;
+void* started_data = nullptr;
+
+// A send may find that the viewer's window has gone.
+bool error_seen = false;
+Display* display_of_send = nullptr;
+XErrorHandler previous_handler = nullptr;
+
+int note_bad_window(Display* display, XErrorEvent* error) {
+  if (display == display_of_send && error->error_code == BadWindow) {
+    error_seen = true;
+    return 0;
+  }
+  return previous_handler ? previous_handler(display, error) : 0;
+}
+
+/// Whether the request has reached the window.
+bool help_send(Display* display, Window viewer, const Text& request) {
+  previous_handler = XSetErrorHandler(note_bad_window);
+  display_of_send = display;
+  error_seen = false;
+  const std::string_view text = request.view();
+  XChangeProperty(display, viewer, help_dest, XA_STRING, 8, PropModeReplace,
+                  reinterpret_cast<const unsigned char*>(text.data()), static_cast<int>(text.size()) + 1);
+  XFlush(display);
+  XSync(display, False);
+  XSetErrorHandler(previous_handler);
+  return !error_seen;
+}
+
+/// The window that a viewer has announced; None when there has been no viewer.
+Window viewer_window(Widget w) {
+  Atom type = None;
+  int format = 0;
+  unsigned long count = 0;
+  unsigned long rest = 0;
+  unsigned char* data = nullptr;
+  const int status = XGetWindowProperty(XtDisplay(w), XtWindow(w), help_win, 0, 1, False, XA_WINDOW, &type, &format,
+                                        &count, &rest, &data);
+  Window viewer = None;
+  if (status == Success && type == XA_WINDOW && format == 32 && count == 1) std::memcpy(&viewer, data, sizeof viewer);
+  if (data) XFree(data);
+  return viewer;
+}
+
+void viewer_announced(Widget w, XtPointer, XEvent* event, Boolean*) {
+  if (event->type != PropertyNotify || event->xproperty.atom != help_win) return;
+  if (event->xproperty.state == PropertyDelete) return;
+  starting = false;
+  VQHelp(w, last_request);
+  if (started_callback) started_callback(started_data);
+}
+
+/// Launches a viewer in the background.
+int start_viewer(Widget w) {
+  XtAddEventHandler(w, PropertyChangeMask, False, viewer_announced, nullptr);
+  starting = true;
+  const std::string command =
+      "[ -x \"$VQROOT/bin/vqhelp\" ] || exit 1\n\"$VQROOT/bin/vqhelp\" -wid " + std::to_string(XtWindow(w)) + " &";
+  if (std::system(command.c_str()) == 0) return 0;
+  starting = false;
+  return -1;
+}
+
+}  // namespace
+
+void VQHelpGetAtoms(Widget w) {
+  if (help_win == None) help_win = XInternAtom(XtDisplay(w), "VQHELP_WIN", False);
+  if (help_dest == None) help_dest = XInternAtom(XtDisplay(w), "VQHELP_DEST", False);
+}
+
+int VQHelp(Widget w, const char* request) {
+  if (!w) return -1;
+  if (!XtIsWidget(w)) w = XtParent(w);
+  if (!XtIsRealized(w)) return -1;
+  VQHelpGetAtoms(w);
+  last_request = request;
+  if (starting) return 0;
+  const Window viewer = viewer_window(w);
+  if (viewer != None && help_send(XtDisplay(w), viewer, last_request)) return 1;
+  if (std::strcmp(request, kQuit) == 0) return 1;  // nobody is there to quit
+  return start_viewer(w);
+}
+
+int QuitHelpViewer(Widget w) { return VQHelp(w, kQuit); }
+
+void VQHelpAddStartedCallback(HelpStartedCallback function, void* client_data) {
+  started_callback = function;
+  started_data = client_data;
+}
+
+void VQHelpRemoveStartedCallback() { started_callback = nullptr; }

@@ -1,0 +1,15 @@
+#ifndef VQC_CMD_APPLICATION_RESOURCES_H
+#define VQC_CMD_APPLICATION_RESOURCES_H
+
+#include <X11/Intrinsic.h>
+
+#include "libkel/text.h"
+
+/// Reads what the user's resource files say about the whole program, once, when the main window exists.
+void vqc_init_resources(Widget shell);
+
+/// The help file of a topic, in the user's language if there is one; a null topic stands for the contents. Null when
+/// there is none.
+Text vqc_HelpPath(Display* display, const char* topic);
+
+#endif

@@ -1,0 +1,108 @@
+#include "vqc/cmd/application/session.h"
+
+#include <Xm/Xm.h>
+
+#include <cstdlib>
+#include <string>
+
+#include "libkel/installation.h"
+#include "libkel/message.h"
+#include "vqc/cmd/application/batch.h"
+#include "vqc/cmd/application/exit.h"
+#include "vqc/cmd/application/help.h"
+#include "vqc/cmd/application/resources.h"
+#include "vqc/cmd/editors/aliaslist.h"
+#include "vqc/cmd/editors/convlist.h"
+#include "vqc/cmd/editors/dialogs/family_dialog.h"
+#include "vqc/cmd/editors/enumlist.h"
+#include "vqc/cmd/editors/error.h"
+#include "vqc/cmd/editors/familydlg.h"
+#include "vqc/cmd/editors/file_commands.h"
+#include "vqc/cmd/editors/gendlg.h"
+#include "vqc/cmd/editors/kit/cursor.h"
+#include "vqc/cmd/editors/kit/session_hooks.h"
+#include "vqc/cmd/editors/pagelist.h"
+#include "vqc/cmd/editors/popuplist.h"
+#include "vqc/cmd/editors/stop.h"
+#include "vqc/cmd/editors/title.h"
+#include "vqc/cmd/editors/widgetlist.h"
+#include "vqc/cmd/model/document.h"
+#include "vqc/cmd/model/options.h"
+#include "vqc/cmd/model/stop.h"
+#include "vqc/cmd/savefile/document_hooks.h"
+#include "vqc/cmd/savefile/parse.h"
+
+extern "C" void XmRegisterConverters();
+
+namespace {
+
+XtAppContext context = nullptr;
+
+/// Lets the lower layers speak to the editors, and the editors to the program. A batch run does without.
+void install_hooks() {
+  message_sink = &error_box;
+  document_hooks = {.titled = vqc_set_title, .saved = document_saved};
+  family_choice = &toggled_families;
+  on_stop_list = show_stop_list;
+  family_pool.on_current = current_family_changed;
+  widget_kind.on_current = current_widget_changed;
+  enum_kind.on_current = current_enum_changed;
+  alias_kind.on_current = current_alias_changed;
+  converter_kind.on_current = current_converter_changed;
+  page_pool.on_current = current_page_changed;
+  popup_pool.on_current = current_popup_changed;
+  session_hooks = {.end = ExitVQConfig, .help = show_help};
+}
+
+void register_converters() {
+  XmRegisterConverters();
+  XtAppAddConverter(context, XtRString, XmRUnitType, XmCvtStringToUnitType, nullptr, 0);
+}
+
+void set_icon(Widget shell) {
+  std::string file = installed("share/icons/hicolor/48x48/apps/vqconfig.xpm");
+  Screen* screen = XtScreen(shell);
+  const Pixmap icon = XmGetPixmap(screen, file.data(), BlackPixelOfScreen(screen), WhitePixelOfScreen(screen));
+  if (icon != XmUNSPECIFIED_PIXMAP) XtVaSetValues(shell, XmNiconPixmap, icon, nullptr);
+}
+
+/// Loads the document that the command line names.
+void load_first_document(Widget shell) {
+  if (!batch_save) return;
+  const BusyCursor busy(shell);
+  save_file = batch_save_file;
+  const bool opened = parseit(&save_file, 1) != 0;
+  dirty = false;
+  if (opened) show_document();
+}
+
+}  // namespace
+
+const char* open_display(int* argc, char** argv) {
+  XtSetLanguageProc(nullptr, nullptr, nullptr);
+  XtToolkitInitialize();
+  context = XtCreateApplicationContext();
+  if (!context) return "cannot initialise application context";
+  display = XtOpenDisplay(context, nullptr, argv[0], "VQconfig", nullptr, 0, argc, argv);
+  return display ? nullptr : "cannot open display";
+}
+
+bool start_session(int argc, char** argv) {
+  register_converters();
+  family_dialog = create_family_dialog(display, argv[0], argc, argv);
+  if (!family_dialog) return false;
+  Widget shell = family_dialog[FAMILY_SHELL];
+  install_hooks();
+  vqc_set_title(nullptr);
+  vqc_init_resources(shell);
+  if (!vqc_generate_options()) XtUnmanageChild(family_dialog[FAMILY_OPTIONS_CASCADE]);
+  set_icon(shell);
+  XtRealizeWidget(shell);
+  load_first_document(shell);
+  return true;
+}
+
+void serve_user() {
+  XtAppMainLoop(context);
+  std::exit(0);
+}

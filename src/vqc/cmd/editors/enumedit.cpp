@@ -1,0 +1,97 @@
+#include "vqc/cmd/editors/enumedit.h"
+
+#include "vqc/cmd/editors/dialogs/enumedit_dialog.h"
+#include "vqc/cmd/editors/dialogs/family_dialog.h"
+#include "vqc/cmd/editors/kit/cursor.h"
+#include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/title.h"
+#include "vqc/cmd/model/enumentry.h"
+#include "vqc/cmd/model/enumlist.h"
+
+namespace {
+
+EnumDef* current_enum() {
+  const Reference<EnumDef>* element = enumlist_getcurrent();
+  return element ? element->record : nullptr;
+}
+
+void show_symbols(const EnumEntry& entry) {
+  settextf(enumedit_dialog[ENUMEDIT_CODE_SYMBOL], entry.code_symbol);
+  settextf(enumedit_dialog[ENUMEDIT_RESFILE_SYMBOL], entry.resfile_symbol);
+}
+
+void store_symbols(const Text& name) {
+  EnumEntry* entry = enumentry_ptr(current_enum(), name);
+  gettextf(enumedit_dialog[ENUMEDIT_CODE_SYMBOL], &entry->code_symbol);
+  gettextf(enumedit_dialog[ENUMEDIT_RESFILE_SYMBOL], &entry->resfile_symbol);
+}
+
+void show_entry(const Text& name) {
+  const EnumEntry* entry = enumentry_ptr(current_enum(), name);
+  if (!entry) return;
+  settextf(enumedit_dialog[ENUMEDIT_TYPE], current_enum()->type_name);
+  show_symbols(*entry);
+}
+
+ErrorCode delete_entry(const Text& name) {
+  show_symbols({});
+  return enumentry_delete(current_enum(), name);
+}
+
+std::vector<Text> entry_names() {
+  std::vector<Text> names;
+  for (const EnumEntry& entry : current_enum()->entries) names.push_back(entry.name);
+  return names;
+}
+
+}  // namespace
+
+ListEditor enumentry_editor{
+    .dialog = enumedit_dialog,
+    .box_slot = ENUMEDIT_BOX,
+    .names = {.has = [](const Text& name) { return enumentry_ptr(current_enum(), name) != nullptr; },
+              .add = [](const Text& name) { return enumentry_add(name, current_enum()); },
+              .remove = delete_entry,
+              .position = [](const Text& name) { return enumentry_index(current_enum(), name); },
+              .move_up = [](const Text& name, bool) { return enumentry_move_up(current_enum(), name); },
+              .move_down = [](const Text& name, bool) { return enumentry_move_down(current_enum(), name); },
+              .names = entry_names},
+    .added = store_symbols,
+    .accepted = store_symbols,
+    .selected = show_entry,
+    .delete_clears_name = true,
+};
+
+void enumedit_show() {
+  if (!enumedit_dialog) {
+    enumedit_dialog = create_enumedit_dialog(family_dialog[FAMILY_SHELL]);
+    if (!enumedit_dialog) return;
+    enumedit_setenum(enumlist_getcurrent());
+  }
+  show_dialog(enumedit_dialog[ENUMEDIT_BOX]);
+}
+
+void enumedit_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(enumedit_dialog[ENUMEDIT_BOX]); }
+
+/// An enumeration without entries is shown as none at all.
+void enumedit_setenum(const Reference<EnumDef>* element) {
+  if (!enumedit_dialog) return;
+  const EnumDef* shown = element && enumentry_count(element->record) > 0 ? element->record : nullptr;
+  vq_set_title(enumedit_dialog[ENUMEDIT_SHELL], "enum_title", shown ? shown->name.c_str() : nullptr);
+  settextf(enumedit_dialog[ENUMEDIT_TYPE], shown ? shown->type_name.c_str() : nullptr);
+  show_symbols({});
+  if (shown) {
+    refill(enumentry_editor, true);
+  } else {
+    list_show(enumentry_editor.list(), {});
+    enumentry_editor.clear_name();
+  }
+}
+
+void enumentry_do_update(Widget w, XtPointer, XtPointer call) {
+  EnumDef* enumeration = current_enum();
+  if (!enumeration) return;
+  dirty = true;
+  gettextf(enumedit_dialog[ENUMEDIT_TYPE], &enumeration->type_name);
+  with_name(w, call, enumentry_editor, accept_name);
+}

@@ -1,0 +1,25 @@
+#ifndef VQC_CMD_EDITORS_ENUMEDIT_H
+#define VQC_CMD_EDITORS_ENUMEDIT_H
+
+#include "vqc/cmd/editors/kit/list_editor.h"
+
+// The enumeration editor: the type and the entries of the family's current enumeration.
+
+/// Shows the dialog, made when it is first needed.
+void enumedit_show();
+void enumedit_do_hide(Widget w, XtPointer, XtPointer);
+
+/// Fills the dialog, if there is one, from an enumeration; null empties it.
+void enumedit_setenum(const Reference<EnumDef>* element);
+
+extern ListEditor enumentry_editor;
+inline constexpr XtCallbackProc enumentry_do_add = do_add<enumentry_editor>;
+inline constexpr XtCallbackProc enumentry_do_delete = do_delete<enumentry_editor>;
+inline constexpr XtCallbackProc enumentry_do_display = do_select<enumentry_editor>;
+inline constexpr XtCallbackProc enumentry_do_up = do_up<enumentry_editor>;
+inline constexpr XtCallbackProc enumentry_do_down = do_down<enumentry_editor>;
+
+/// Stores the type of the enumeration, even if no entry is named, and then the named entry.
+void enumentry_do_update(Widget w, XtPointer, XtPointer call);
+
+#endif

@@ -1,0 +1,33 @@
+#include "vqc/cmd/editors/familydlg.h"
+
+#include "vqc/cmd/editors/entity.h"
+
+ListEditor family_editor{
+    .dialog = family_dialog,
+    .box_slot = FAMILY_SELECTION,
+    .names = {.has = [](const Text& name) { return family_ptr(name) != nullptr; },
+              .add = family_add,
+              .remove = family_delete,
+              .position = [](const Text& name) { return family_pool.position(family_pool.list, name); },
+              .move_up = [](const Text& name, bool) { return family_move_up(name); },
+              .move_down = [](const Text& name, bool) { return family_move_down(name); },
+              .names = names_in_pool<family_pool>},
+    .added =
+        [](const Text& name) {
+          if (!family_getcurrent()) family_setcurrent(family_ptr(name));
+        },
+    .accepted =
+        [](const Text& name) {
+          family_setcurrent(family_ptr(name));
+          entity_show();
+        },
+    .selected = [](const Text& name) { family_setcurrent(family_ptr(name)); },
+    .delete_clears_name = true,
+};
+
+void family_display() { list_show(family_editor.list(), family_editor.names.names()); }
+
+void current_family_changed(Family* family) {
+  if (!family) family_editor.clear_name();
+  entity_setfamily(family);
+}

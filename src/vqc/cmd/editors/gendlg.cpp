@@ -1,0 +1,78 @@
+#include "vqc/cmd/editors/gendlg.h"
+
+#include <Xm/FileSB.h>
+#include <Xm/ToggleB.h>
+
+#include <vector>
+
+#include "vqc/cmd/editors/dialogs/family_dialog.h"
+#include "vqc/cmd/editors/dialogs/gen_dialog.h"
+#include "vqc/cmd/editors/kit/compound.h"
+#include "vqc/cmd/editors/kit/cursor.h"
+#include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/file_box.h"
+#include "vqc/cmd/model/kinds.h"
+#include "vqc/cmd/model/options.h"
+
+namespace {
+
+FileKind pending_kind = CONFIG_FILE;
+std::vector<Widget> family_toggles;
+
+bool toggled(int place) {
+  const auto index = static_cast<std::size_t>(place);
+  return index < family_toggles.size() && gettoggle(family_toggles[index]);
+}
+
+Widget family_toggle(Widget parent, const Family& family) {
+  const CompoundString label(family.name);
+  return XtVaCreateWidget("toggleb", xmToggleButtonWidgetClass, parent, XmNlabelString, static_cast<XmString>(label),
+                          XmNset, family.generate_selected ? XmSET : XmUNSET, nullptr);
+}
+
+void rebuild_toggles(Widget container) {
+  XtUnmanageChild(container);
+  for (Widget toggle : family_toggles) XtDestroyWidget(toggle);
+  family_toggles.clear();
+  for (const Family& family : family_pool.list) family_toggles.push_back(family_toggle(container, family));
+  XtManageChildren(family_toggles.data(), static_cast<Cardinal>(family_toggles.size()));
+  XtManageChild(container);
+}
+
+void gen_popup(Widget w, FileKind kind, const char* name, const char* title) {
+  const BusyCursor busy(w);
+  if (!gen_dialog) gen_dialog = create_gen_dialog(family_dialog[FAMILY_SHELL]);
+  if (!gen_dialog) return;
+  pending_kind = kind;
+  Widget box = gen_dialog[GEN_FSB];
+  title_file_box(box, title);
+  XtVaSetValues(box, XmNpattern, static_cast<XmString>(CompoundString("*.c")), nullptr);
+  XmFileSelectionDoSearch(box, nullptr);
+  if (name) settext(XmFileSelectionBoxGetChild(box, XmDIALOG_TEXT), name);
+  rebuild_toggles(gen_dialog[GEN_TOGGLES]);
+  show_dialog(box);
+}
+
+}  // namespace
+
+const FamilyChoice toggled_families = {toggled};
+
+void gencon_do_popup(Widget w, XtPointer, XtPointer) {
+  gen_popup(w, CONFIG_FILE, config_generate_name(), "generate_config_title");
+}
+
+void gencode_do_popup(Widget w, XtPointer, XtPointer) {
+  gen_popup(w, CODE_FILE, code_generate_name(), "generate_code_title");
+}
+
+void genstubs_do_popup(Widget w, XtPointer, XtPointer) {
+  gen_popup(w, STUBS_FILE, stubs_generate_name(), "generate_stubs_title");
+}
+
+void gen_do_generate(Widget w, XtPointer, XtPointer call) {
+  const BusyCursor busy(w);
+  generate(chosen_path(call), true, pending_kind);
+  hide_dialog(gen_dialog[GEN_FSB]);
+}
+
+void gen_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(gen_dialog[GEN_FSB]); }

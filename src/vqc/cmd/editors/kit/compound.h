@@ -1,0 +1,32 @@
+#ifndef VQC_CMD_EDITORS_KIT_COMPOUND_H
+#define VQC_CMD_EDITORS_KIT_COMPOUND_H
+
+#include <Xm/Xm.h>
+
+#include <utility>
+
+#include "libkel/text.h"
+
+/// A compound string of one's own.
+class CompoundString {
+ public:
+  explicit CompoundString(const char* text) : string_(XmStringCreateLocalized(const_cast<char*>(text ? text : ""))) {}
+  CompoundString(CompoundString&& other) noexcept : string_(std::exchange(other.string_, nullptr)) {}
+  CompoundString(const CompoundString&) = delete;
+  CompoundString& operator=(CompoundString) = delete;
+  ~CompoundString() { XmStringFree(string_); }
+
+  /// Null when it could not be made.
+  operator XmString() const { return string_; }
+
+ private:
+  XmString string_;
+};
+
+/// A compound string of several lines.
+XmString compound_lines(const char* text);
+
+/// The plain text of a compound string, lines and all; null when there is none.
+Text text_of(XmString string);
+
+#endif

@@ -1,0 +1,168 @@
+#include "vqc/cmd/editors/kit/dialog.h"
+
+#include <Xm/DialogS.h>
+#include <Xm/FileSB.h>
+#include <Xm/Form.h>
+#include <Xm/MenuShell.h>
+#include <Xm/MessageB.h>
+#include <Xm/Protocols.h>
+#include <Xm/RowColumn.h>
+#include <Xm/SelectioB.h>
+
+#include <algorithm>
+#include <cstring>
+#include <vector>
+
+namespace {
+
+Arg argument(const char* name, XtArgVal value) { return Arg{const_cast<char*>(name), value}; }
+
+/// The widgets of a dialog while it is built.
+class Builder {
+ public:
+  Builder(Widget parent, std::span<const WidgetRow> rows) : parent_(parent), rows_(rows), made_(rows.size()) {}
+
+  bool make_all() {
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+      const WidgetRow& row = rows_[i];
+      made_[i] = row.create(named(row.parent), const_cast<char*>(row.name), nullptr, 0);
+      if (made_[i]) {
+        add_callbacks(made_[i], row);
+      } else if (row.create != unwanted) {
+        return false;
+      }
+    }
+    return true;
+  }
+
+  void set_links(std::span<const WidgetLink> links) {
+    for (const auto& [widget, resource, value] : links) {
+      XtVaSetValues(named(widget), resource, value ? named(value) : nullptr, nullptr);
+    }
+  }
+
+  /// Inner widgets first, so that each is laid out once, with all that it holds.
+  void manage_all() {
+    for (std::size_t i = rows_.size(); i-- > 0;) {
+      if (made_[i] && !pops_up(made_[i])) XtManageChild(made_[i]);
+    }
+  }
+
+  void fill(Widget* record) const {
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+      if (rows_[i].slot != NO_SLOT) record[rows_[i].slot] = made_[i];
+    }
+  }
+
+ private:
+  Widget named(const char* name) const {
+    if (!name) return parent_;
+    auto same_name = [name](const WidgetRow& row) { return std::strcmp(row.name, name) == 0; };
+    return made_[static_cast<std::size_t>(std::ranges::find_if(rows_, same_name) - rows_.begin())];
+  }
+
+  static void add_callbacks(Widget widget, const WidgetRow& row) {
+    for (const auto& [list, procedure, data] : row.callbacks) {
+      if (!list) return;
+      if (list == CLOSED) {
+        on_close(widget, procedure);
+      } else {
+        XtAddCallback(widget, list, procedure, const_cast<void*>(data));
+      }
+    }
+  }
+
+  /// Shells, what a dialog shell holds, and menus appear when they are asked for.
+  static bool pops_up(Widget widget) {
+    return XtIsShell(widget) || XmIsDialogShell(XtParent(widget)) ||
+           XtIsSubclass(XtParent(widget), xmMenuShellWidgetClass);
+  }
+
+  Widget parent_;
+  std::span<const WidgetRow> rows_;
+  std::vector<Widget> made_;
+};
+
+Widget shell_of(Widget contents) {
+  while (!XtIsShell(contents)) contents = XtParent(contents);
+  return contents;
+}
+
+}  // namespace
+
+Widget found(Widget parent, char* name, ArgList, Cardinal) { return XtNameToWidget(parent, name); }
+
+Widget unwanted(Widget parent, char* name, ArgList, Cardinal) {
+  if (Widget child = XtNameToWidget(parent, name)) XtUnmanageChild(child);
+  return nullptr;
+}
+
+Widget create_form(Widget parent, char* name, ArgList, Cardinal) {
+  Arg stays_open[] = {argument(XmNautoUnmanage, False)};
+  return XmCreateForm(parent, name, stays_open, XtNumber(stays_open));
+}
+
+Widget create_editor_box(Widget parent, char* name, ArgList, Cardinal) {
+  Arg stays_open[] = {argument(XmNautoUnmanage, False), argument(XmNmustMatch, False)};
+  Widget box = XmCreateSelectionBox(parent, name, stays_open, XtNumber(stays_open));
+  XtManageChild(XmSelectionBoxGetChild(box, XmDIALOG_APPLY_BUTTON));
+  return box;
+}
+
+Widget create_file_box(Widget parent, char* name, ArgList, Cardinal) {
+  Arg stays_open[] = {argument(XmNautoUnmanage, False), argument(XmNmustMatch, False)};
+  return XmCreateFileSelectionBox(parent, name, stays_open, XtNumber(stays_open));
+}
+
+Widget create_modal_file_box(Widget parent, char* name, ArgList, Cardinal) {
+  Widget box = create_file_box(parent, name, nullptr, 0);
+  XtVaSetValues(box, XmNdialogStyle, XmDIALOG_FULL_APPLICATION_MODAL, nullptr);
+  return box;
+}
+
+Widget create_question_box(Widget parent, char* name, ArgList, Cardinal) {
+  Arg modal[] = {argument(XmNdialogStyle, XmDIALOG_FULL_APPLICATION_MODAL), argument(XmNdialogType, XmDIALOG_QUESTION)};
+  return XmCreateMessageBox(parent, name, modal, XtNumber(modal));
+}
+
+Widget create_plain_box(Widget parent, char* name, ArgList, Cardinal) {
+  Arg plain[] = {argument(XmNautoUnmanage, False), argument(XmNdialogType, XmDIALOG_TEMPLATE)};
+  return XmCreateMessageBox(parent, name, plain, XtNumber(plain));
+}
+
+Widget create_radio_menu(Widget parent, char* name, ArgList, Cardinal) {
+  Arg radio[] = {argument(XmNradioBehavior, True)};
+  return XmCreatePulldownMenu(parent, name, radio, XtNumber(radio));
+}
+
+void on_close(Widget shell, XtCallbackProc procedure) {
+  XtVaSetValues(shell, XmNdeleteResponse, XmDO_NOTHING, nullptr);
+  XmAddWMProtocolCallback(shell, XInternAtom(XtDisplay(shell), const_cast<char*>("WM_DELETE_WINDOW"), False), procedure,
+                          nullptr);
+}
+
+Widget* build_dialog(Widget parent, std::span<const WidgetRow> rows, int slots, std::span<const WidgetLink> links) {
+  Builder builder(parent, rows);
+  if (!builder.make_all()) return nullptr;
+  builder.manage_all();
+  builder.set_links(links);  // an option menu takes its button's size from items that are managed
+  auto* record = new Widget[static_cast<std::size_t>(slots)]{};
+  builder.fill(record);
+  return record;
+}
+
+void delete_dialog(Widget* record) {
+  if (!record) return;
+  if (record[0]) XtDestroyWidget(record[0]);
+  delete[] record;
+}
+
+void show_dialog(Widget contents) {
+  XtManageChild(contents);
+  Widget shell = shell_of(contents);
+  if (XtIsRealized(shell)) XMapRaised(XtDisplay(shell), XtWindow(shell));
+}
+
+void hide_dialog(Widget contents) {
+  if (contents) XtUnmanageChild(contents);
+}

@@ -1,0 +1,77 @@
+#ifndef VQC_CMD_EDITORS_KIT_DIALOG_H
+#define VQC_CMD_EDITORS_KIT_DIALOG_H
+
+#include <Xm/Xm.h>
+
+#include <span>
+
+// Dialogs are tables of widgets, and one builder makes all of them. The tables give the tree, the names and the
+// callbacks; labels, colours, fonts and layout are looked up by name in the resource file.
+
+/// Makes a widget. All of Motif's own creators look like this.
+using Creator = Widget (*)(Widget parent, char* name, ArgList arguments, Cardinal count);
+
+/// What is called when something happens to a widget, with what it is told as its client data.
+struct CallbackRow {
+  const char* list = nullptr;  // the callback resource, or CLOSED
+  XtCallbackProc procedure = nullptr;
+  const void* data = nullptr;
+};
+
+/// Stands for the window manager's request to close a shell, as on_close() has it.
+inline constexpr char CLOSED[] = "closed";
+
+inline constexpr int NO_SLOT = -1;
+
+/// One widget of a dialog.
+struct WidgetRow {
+  const char* name;
+  Creator create;
+  const char* parent;  // the name of a row above; null for the dialog's own parent
+  int slot = NO_SLOT;  // its place in the dialog's record, if it has one
+  CallbackRow callbacks[4] = {};
+};
+
+/// A resource of one widget whose value is another.
+struct WidgetLink {
+  const char* widget;
+  const char* resource;
+  const char* value;  // null for none
+};
+
+/// Finds a child that its parent has made for itself, and sees that it is managed.
+Widget found(Widget parent, char* name, ArgList, Cardinal);
+/// Finds such a child and unmanages it. Null, so that nothing else is done with it.
+Widget unwanted(Widget parent, char* name, ArgList, Cardinal);
+/// A form that stays where it is whatever is pressed in it.
+Widget create_form(Widget parent, char* name, ArgList, Cardinal);
+/// A selection box with all of its buttons that stays open whatever is pressed.
+Widget create_editor_box(Widget parent, char* name, ArgList, Cardinal);
+/// A file selection box that stays open until its callbacks close it.
+Widget create_file_box(Widget parent, char* name, ArgList, Cardinal);
+/// The same, and the user has to finish with it first.
+Widget create_modal_file_box(Widget parent, char* name, ArgList, Cardinal);
+/// A message box that the user has to answer first.
+Widget create_question_box(Widget parent, char* name, ArgList, Cardinal);
+
+/// A message box with nothing in it but what is put there.
+Widget create_plain_box(Widget parent, char* name, ArgList, Cardinal);
+/// A pulldown menu of toggles of which one is set.
+Widget create_radio_menu(Widget parent, char* name, ArgList, Cardinal);
+
+/// Lets `procedure` answer the window manager's request to close a shell, which does nothing else then.
+void on_close(Widget shell, XtCallbackProc procedure);
+
+/// Makes the widgets of a dialog in the order of their rows, and manages all but what pops up. Returns the dialog's
+/// record: `slots` widgets, which delete_dialog() frees; null when one could not be made.
+Widget* build_dialog(Widget parent, std::span<const WidgetRow> rows, int slots, std::span<const WidgetLink> links = {});
+
+/// Destroys the shell in the record's first slot and frees the record. Null is allowed.
+void delete_dialog(Widget* record);
+
+/// Pops up the dialog whose shell has the child `contents`, in front of others.
+void show_dialog(Widget contents);
+/// Pops it down. Null is allowed.
+void hide_dialog(Widget contents);
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef VQC_CMD_EDITORS_KIT_FIELDS_H
+#define VQC_CMD_EDITORS_KIT_FIELDS_H
+
+#include <Xm/Xm.h>
+
+#include "libkel/text.h"
+
+/// Writes a text into a text field or text widget; null counts as "". 0 when there is no widget, else 1.
+int settext(Widget w, const char* text);
+inline int settextf(Widget w, const char* text) { return settext(w, text); }
+
+/// What stands in a text field or text widget; null when there is no widget. What settext() could not show as it is
+/// comes back as it was, unless the user has changed it. A `field` gets the text too, as null when it is empty.
+Text gettextf(Widget w, Text* field = nullptr);
+
+/// Sets a toggle button, or its gadget, without calling its callbacks. 0 when there is no widget, else 1.
+int settoggle(Widget w, bool on);
+
+/// Whether a toggle button, or its gadget, is set; false when there is no widget. A `flag` gets it too.
+bool gettoggle(Widget w, bool* flag = nullptr);
+
+#endif

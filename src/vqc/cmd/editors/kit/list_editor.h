@@ -1,0 +1,126 @@
+#ifndef VQC_CMD_EDITORS_KIT_LIST_EDITOR_H
+#define VQC_CMD_EDITORS_KIT_LIST_EDITOR_H
+
+#include <Xm/Xm.h>
+
+#include <vector>
+
+#include "libkel/text.h"
+#include "vqc/cmd/editors/kit/arrowlist.h"
+#include "vqc/cmd/model/family.h"
+#include "vqc/cmd/model/kinds.h"
+
+// Every list that is edited by name is edited in the same way: a selection box shows the names, and its buttons add,
+// delete and open or update the name in its field. This is that way, once; an editor says what differs.
+
+/// The list that an editor shows, wherever the model keeps it.
+struct NamesOf {
+  bool (*has)(const Text& name);
+  ErrorCode (*add)(const Text& name);
+  ErrorCode (*remove)(const Text& name);
+  int (*position)(const Text& name);  // counted from 1
+  Move move_up;                       // null for a list that cannot be rearranged
+  Move move_down;
+  std::vector<Text> (*names)();
+  void (*make_none_current)() = nullptr;  // null where nothing is ever current
+};
+
+/// A kind of list that the current family has.
+template <auto& kind>
+NamesOf names_in_family() {
+  return {
+      .has = [](const Text& name) { return kind.ptr(family_getcurrent(), name) != nullptr; },
+      .add = [](const Text& name) { return kind.add(name, family_getcurrent()); },
+      .remove = [](const Text& name) { return kind.remove(family_getcurrent(), name); },
+      .position = [](const Text& name) { return kind.index(family_getcurrent(), name); },
+      .move_up = [](const Text& name, bool) { return kind.move_up(family_getcurrent(), name); },
+      .move_down = [](const Text& name, bool) { return kind.move_down(family_getcurrent(), name); },
+      .names =
+          [] {
+            std::vector<Text> names;
+            const Family* family = family_getcurrent();
+            for (auto* element = kind.first(family); element; element = kind.next()) names.push_back(name_of(*element));
+            return names;
+          },
+      .make_none_current = [] { kind.set_current(nullptr); },
+  };
+}
+
+/// The names of a pool, in its order.
+template <auto& pool>
+std::vector<Text> names_in_pool() {
+  std::vector<Text> names;
+  for (const auto& record : pool.list) names.push_back(record.name);
+  return names;
+}
+
+/// One editor. Null functions are what it does not do.
+struct ListEditor {
+  Widget*& dialog;  // the record that holds the box; null until the dialog exists
+  int box_slot;
+  NamesOf names;
+  void (*added)(const Text& name) = nullptr;     // a new name is in the model and about to be shown
+  void (*accepted)(const Text& name) = nullptr;  // OK on a name that is there already
+  void (*selected)(const Text& name) = nullptr;  // a click on a name
+  bool delete_clears_name = false;
+  bool refill_keeps_name = false;  // unless the list is empty
+  const Family* family = nullptr;  // whose names are shown
+
+  /// The selection box, its list and its name field; null while there is no dialog.
+  Widget box() const { return dialog ? dialog[box_slot] : nullptr; }
+  Widget list() const;
+  Widget name_field() const;
+  void clear_name() const;
+};
+
+/// Shows `names`, and nothing else, in a list.
+void list_show(Widget list, const std::vector<Text>& names);
+/// Puts a name at a place counted from 1, or at the end for 0.
+void list_insert(Widget list, const Text& name, int position);
+/// Takes a name out if it is there.
+void list_delete(Widget list, const Text& name);
+
+/// Shows the current family's list, from which `family` has been chosen; null empties the box and switches it off.
+/// Another family than before leaves nothing current.
+void set_family(ListEditor& editor, const Family* family);
+/// Fills the list from the model; without an owner of the list its buttons are switched off.
+void refill(const ListEditor& editor, bool has_owner);
+
+/// What the buttons do with a name.
+void add_name(const ListEditor& editor, const Text& name);
+void delete_name(const ListEditor& editor, const Text& name);
+void accept_name(const ListEditor& editor, const Text& name);
+void select_name(const ListEditor& editor, const Text& name);
+
+/// Calls `action` with the name that a box's callback or a click on its list brings, if there is one.
+void with_name(Widget w, XtPointer call, const ListEditor& editor, void (*action)(const ListEditor&, const Text&));
+void move_selected(Widget w, const ListEditor& editor, bool down);
+
+// The same as callbacks.
+
+template <ListEditor& editor>
+void do_add(Widget w, XtPointer, XtPointer call) {
+  with_name(w, call, editor, add_name);
+}
+template <ListEditor& editor>
+void do_delete(Widget w, XtPointer, XtPointer call) {
+  with_name(w, call, editor, delete_name);
+}
+template <ListEditor& editor>
+void do_accept(Widget w, XtPointer, XtPointer call) {
+  with_name(w, call, editor, accept_name);
+}
+template <ListEditor& editor>
+void do_select(Widget w, XtPointer, XtPointer call) {
+  with_name(w, call, editor, select_name);
+}
+template <ListEditor& editor>
+void do_up(Widget w, XtPointer, XtPointer) {
+  move_selected(w, editor, false);
+}
+template <ListEditor& editor>
+void do_down(Widget w, XtPointer, XtPointer) {
+  move_selected(w, editor, true);
+}
+
+#endif

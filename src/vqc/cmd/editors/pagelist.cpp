@@ -1,0 +1,35 @@
+#include "vqc/cmd/editors/pagelist.h"
+
+#include "vqc/cmd/editors/dialogs/pageedit_dialog.h"
+#include "vqc/cmd/editors/kit/cursor.h"
+#include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/model/builtin.h"
+#include "vqc/cmd/model/page.h"
+
+namespace {
+
+NamesOf page_names() {
+  NamesOf names = names_in_family<page_kind>();
+  names.names = names_in_pool<page_pool>;
+  return names;
+}
+
+}  // namespace
+
+Picker page_picker{
+    .editor = {.dialog = pageedit_dialog, .box_slot = PAGEEDIT_BOX, .names = page_names()},
+    .create = create_pageedit_dialog,
+    .show = [](const Text& name) { page_setcurrent(page_ptr(name)); },
+    .builtin_kind = BUILTIN_PAGE,
+};
+
+void pagelist_do_add(Widget w, XtPointer, XtPointer) {
+  const Text name = page_picker.name();
+  if (name.empty()) return;
+  const BusyCursor busy(w);
+  page_into_family(name);
+}
+
+void current_page_changed(PageDef* page) {
+  settextf(page_picker.editor.name_field(), page ? page->name.c_str() : nullptr);
+}

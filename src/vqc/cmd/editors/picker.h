@@ -1,0 +1,58 @@
+#ifndef VQC_CMD_EDITORS_PICKER_H
+#define VQC_CMD_EDITORS_PICKER_H
+
+#include "vqc/cmd/editors/kit/list_editor.h"
+
+/// A list editor that picks a name for a text field of another dialog. Its list shows all names of the document, while
+/// what it adds, removes and moves are the current family's.
+struct Picker {
+  ListEditor editor;
+  Widget* (*create)(Widget parent);
+  void (*show)(const Text& name);  // shows the record of that name, or none
+  int builtin_kind;                // of names that cannot be removed
+  Widget field = nullptr;          // who asked
+
+  Text name() const;
+};
+
+/// Shows the picker, made when it is first needed as a child of `parent`, with the name that `field` holds.
+void open_picker(Picker& picker, Widget field, Widget parent);
+
+/// Fills the list with all names and shows none of them. 0 while there is no dialog, else 1.
+int show_all_names(const Picker& picker);
+
+/// Gives the current family, if there is one, the name, and shows it in the list unless it is there.
+void name_into_family(const Picker& picker, const Text& name);
+
+// The buttons, as callbacks.
+
+void apply_picked(Widget w, const Picker& picker);
+void show_picked(Widget w, const Picker& picker);
+void remove_picked(Widget w, const Picker& picker);
+
+template <Picker& picker>
+void do_apply(Widget w, XtPointer, XtPointer) {
+  apply_picked(w, picker);
+}
+template <Picker& picker>
+void do_hide(Widget, XtPointer, XtPointer) {
+  XtUnmanageChild(picker.editor.box());
+}
+template <Picker& picker>
+void do_show(Widget w, XtPointer, XtPointer) {
+  show_picked(w, picker);
+}
+template <Picker& picker>
+void do_remove(Widget w, XtPointer, XtPointer) {
+  remove_picked(w, picker);
+}
+template <Picker& picker>
+void do_picker_up(Widget w, XtPointer, XtPointer) {
+  move_selected(w, picker.editor, false);
+}
+template <Picker& picker>
+void do_picker_down(Widget w, XtPointer, XtPointer) {
+  move_selected(w, picker.editor, true);
+}
+
+#endif

@@ -1,0 +1,23 @@
+#ifndef VQC_CMD_EDITORS_POPUPLIST_H
+#define VQC_CMD_EDITORS_POPUPLIST_H
+
+#include "vqc/cmd/editors/picker.h"
+
+// The popup editor, which picks a resource popup and edits the procedures of those that are not predefined.
+
+extern Picker popup_picker;
+
+inline void popupdlg_set_initial_state(Widget field, Widget parent) { open_picker(popup_picker, field, parent); }
+inline int popuplist_display() { return show_all_names(popup_picker); }
+
+inline constexpr XtCallbackProc popuplist_do_apply = do_apply<popup_picker>;
+inline constexpr XtCallbackProc popuplist_do_hide = do_hide<popup_picker>;
+inline constexpr XtCallbackProc popuplist_do_display = do_show<popup_picker>;
+inline constexpr XtCallbackProc popuplist_do_delete = do_remove<popup_picker>;
+/// Adds the popup to the family and stores its procedures. What is typed over a predefined popup is taken back.
+void popuplist_do_add(Widget w, XtPointer, XtPointer);
+
+/// Hears that another popup, or none, is current now.
+void current_popup_changed(PopupDef* popup);
+
+#endif

@@ -1,0 +1,104 @@
+#include "vqc/cmd/editors/save.h"
+
+#include "libkel/message.h"
+#include "vqc/cmd/editors/dialogs/family_dialog.h"
+#include "vqc/cmd/editors/dialogs/save_dialog.h"
+#include "vqc/cmd/editors/dialogs/savechanges_dialog.h"
+#include "vqc/cmd/editors/kit/compound.h"
+#include "vqc/cmd/editors/kit/cursor.h"
+#include "vqc/cmd/editors/kit/file_box.h"
+#include "vqc/cmd/model/document.h"
+#include "vqc/cmd/savefile/save.h"
+
+namespace {
+
+void show_save_dialog(const char* title) {
+  if (!save_dialog) save_dialog = create_save_dialog(family_dialog[FAMILY_SHELL]);
+  if (!save_dialog) return;
+  title_file_box(save_dialog[SAVE_FSB], title);
+  show_file_box(save_dialog[SAVE_FSB]);
+}
+
+/// The question's text for each operation, for a document with a name and one without.
+struct Question {
+  SaveOp operation;
+  const char* named;
+  const char* unnamed;
+};
+constexpr Question questions[] = {
+    {SaveOp::open, "sbf_open", "sbu_open"},
+    {SaveOp::start_new, "sbf_new", "sbu_new"},
+    {SaveOp::exit, "sbf_exit", "sbu_exit"},
+};
+
+std::string question_text(SaveOp operation) {
+  for (const Question& question : questions) {
+    if (question.operation != operation) continue;
+    const char* name = save_file ? question.named : question.unnamed;
+    const char* format = vq_lookup_string(name);
+    return format && *format ? filled(format, {save_file}) : name;
+  }
+  return {};
+}
+
+}  // namespace
+
+void save_do_popup(Widget w, XtPointer, XtPointer) {
+  const BusyCursor busy(w);
+  save_op = SaveOp::none;
+  really_save_popup();
+}
+
+void saveas_do_popup(Widget w, XtPointer, XtPointer) {
+  const BusyCursor busy(w);
+  save_op = SaveOp::none;
+  show_save_dialog("save_as_title");
+}
+
+void really_save_popup() {
+  if (save_file) {
+    write_save_file(save_file);
+  } else {
+    show_save_dialog("save_title");
+  }
+}
+
+void do_save(Widget w, XtPointer, XtPointer call) {
+  const BusyCursor busy(w);
+  save_file = chosen_path(call);
+  hide_dialog(save_dialog[SAVE_FSB]);
+  write_save_file(save_file);
+}
+
+void save_do_hide(Widget, XtPointer, XtPointer) {
+  save_op = SaveOp::none;
+  hide_dialog(save_dialog[SAVE_FSB]);
+}
+
+void savechanges_popup(SaveOp operation) {
+  save_op = operation;
+  if (!savechanges_dialog) savechanges_dialog = create_savechanges_dialog(family_dialog[FAMILY_SHELL]);
+  if (!savechanges_dialog) return;
+  XmString message = compound_lines(question_text(operation).c_str());
+  XtVaSetValues(savechanges_dialog[SAVECHANGES_BOX], XmNmessageString, message, nullptr);
+  XmStringFree(message);
+  show_dialog(savechanges_dialog[SAVECHANGES_BOX]);
+}
+
+void savechanges_dosave(Widget w, XtPointer, XtPointer) {
+  const BusyCursor busy(w);
+  hide_dialog(savechanges_dialog[SAVECHANGES_BOX]);
+  really_save_popup();
+}
+
+void savechanges_dodiscard(Widget w, XtPointer, XtPointer) {
+  const BusyCursor busy(w);
+  hide_dialog(savechanges_dialog[SAVECHANGES_BOX]);
+  dirty = false;
+  run_save_op();
+}
+
+void savechanges_docancel(Widget, XtPointer, XtPointer) {
+  save_op = SaveOp::none;
+  hide_dialog(savechanges_dialog[SAVECHANGES_BOX]);
+}

@@ -1,0 +1,15 @@
+#ifndef VQC_CMD_EDITORS_STOP_H
+#define VQC_CMD_EDITORS_STOP_H
+
+#include <Xm/Xm.h>
+
+// The stop list dialog: a toggle for each widget class that can be left out.
+
+void stoplist_do_popup(Widget w, XtPointer, XtPointer);
+void stop_list_do_apply(Widget w, XtPointer, XtPointer);
+void stop_list_do_popdown(Widget w, XtPointer, XtPointer);
+
+/// Sets the toggles, if there are any, from the document's stop list.
+void show_stop_list();
+
+#endif

@@ -1,0 +1,21 @@
+#include "vqc/cmd/editors/title.h"
+
+#include <string>
+
+#include "libkel/leafnm.h"
+#include "libkel/message.h"
+#include "vqc/cmd/editors/dialogs/family_dialog.h"
+
+void vqc_set_title(const char* path) {
+  if (!family_dialog) return;
+  std::string title = "vqconfig";
+  if (path) title.append(": ").append(leafnm(path));
+  XtVaSetValues(family_dialog[FAMILY_SHELL], XmNtitle, title.c_str(), nullptr);
+}
+
+void vq_set_title(Widget shell, const char* resource_name, const char* arg) {
+  const char* format = vq_lookup_string(resource_name);
+  if (!format || !*format) return;
+  const std::string title = filled(format, {arg ? arg : vq_lookup_string("none")});
+  XtVaSetValues(shell, XmNtitle, title.c_str(), nullptr);
+}

@@ -1,0 +1,36 @@
+#ifndef VQC_CMD_EDITORS_WIDGETEDIT_H
+#define VQC_CMD_EDITORS_WIDGETEDIT_H
+
+#include <Xm/Xm.h>
+
+#include "vqc/cmd/model/records.h"
+
+// The widget editor: the fields of the widget list's current widget, which are stored when the user applies them, and
+// its resources, which are stored one at a time. A resource that has been changed but not stored is asked about before
+// its fields show something else.
+
+/// Shows the dialog, made when it is first needed.
+void widgetedit_show();
+/// Closes it, unless the user has to say first what becomes of a changed resource.
+void widgetedit_do_hide(Widget w, XtPointer, XtPointer);
+
+/// Fills the dialog, if there is one, from a widget; null empties it.
+void widgetedit_setwidget(const Reference<WidgetDef>* element);
+
+void widget_do_update(Widget w, XtPointer, XtPointer);
+void widget_do_undo(Widget w, XtPointer, XtPointer);
+
+// The resources.
+
+void we_select_cb(Widget w, XtPointer, XtPointer call);
+void we_popup_update_cb(Widget w, XtPointer, XtPointer);
+void we_popup_delete_cb(Widget w, XtPointer, XtPointer);
+void we_popup_cb(Widget w, XtPointer, XtPointer);
+void we_page_cb(Widget w, XtPointer, XtPointer);
+void resource_dirty_cb(Widget w, XtPointer, XtPointer);
+
+/// The answers to the question what becomes of a changed resource: store it, or forget it, and go on.
+void resource_apply(Widget w, XtPointer, XtPointer);
+void resource_ignore(Widget w, XtPointer, XtPointer);
+
+#endif
