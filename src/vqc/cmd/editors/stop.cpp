@@ -36,8 +36,13 @@ constexpr StopClass stop_classes[] = {
 static_assert(std::size(stop_classes) == STOP_LIST_SLOTS - STOP_LIST_TOGGLES);
 
 /// Whether a document's comma-separated list has the class.
-bool excluded(const std::string& classes, std::string_view name) {
-  return ("," + classes + ",").find("," + std::string(name) + ",") != std::string::npos;
+bool excluded(std::string_view classes, std::string_view name) {
+  while (!classes.empty()) {
+    const std::size_t comma = classes.find(',');
+    if (classes.substr(0, comma) == name) return true;
+    classes.remove_prefix(comma == std::string_view::npos ? classes.size() : comma + 1);
+  }
+  return false;
 }
 
 }  // namespace
@@ -64,6 +69,5 @@ void stop_list_do_popdown(Widget, XtPointer, XtPointer) { hide_dialog(stop_list_
 
 void show_stop_list() {
   if (!stop_list_shell) return;
-  const std::string classes(excluded_classes.view());
-  for (const StopClass& each : stop_classes) settoggle(each.widget(), excluded(classes, each.name));
+  for (const StopClass& each : stop_classes) settoggle(each.widget(), excluded(excluded_classes.view(), each.name));
 }
