@@ -112,6 +112,11 @@ void show_free_modes(const ResourceDef& resource) {
   show_free_mode(WIDGETEDIT_FREE_SET, resource.free_set);
 }
 
+void show_resource_toggles(const ResourceDef& resource) {
+  settoggle(at(WIDGETEDIT_VISIBLE), resource.visible);
+  show_access(resource.access);
+}
+
 /// What another widget, or none, begins with. The toggles keep what they show.
 void clear_resource() {
   settextf(at(WE_RESOURCE), nullptr);
@@ -125,8 +130,7 @@ void show_resource(const Text& name) {
   const ResourceDef& resource = known ? *known : ResourceDef{};
   show_resource_texts(resource);
   show_free_modes(resource);
-  settoggle(at(WIDGETEDIT_VISIBLE), resource.visible);
-  show_access(resource.access);
+  show_resource_toggles(resource);
   resource_changed = false;
 }
 
@@ -188,6 +192,7 @@ void widgetedit_show() {
     widgetedit_dialog = create_widgetedit_dialog(family_dialog[FAMILY_SHELL]);
     if (!widgetedit_dialog) return;
     widgetedit_setwidget(widgetlist_getcurrent());
+    show_resource_toggles({});
   }
   show_dialog(at(WIDGETEDIT_FORM));
   resource_changed = false;

@@ -1,0 +1,57 @@
+#ifndef GUI_HANDS_H
+#define GUI_HANDS_H
+
+#include <string>
+#include <vector>
+
+#include "gui/session.h"
+
+// What a user does: with real mouse and keyboard, and, where that is not the point, by what they lead to.
+
+/// Presses a mouse button in the middle of a widget, which must be there to be seen.
+void click(const std::string& name);
+/// The same where the window manager lets no click through.
+void click_in_vain(const std::string& name);
+/// Clicks on an item of a list.
+void click_item(const std::string& list_or_box, const std::string& item);
+/// Opens the menu of the cascade button, and clicks on its item.
+void choose_menu(const std::string& cascade, const std::string& item);
+/// Types a text into whatever has the keyboard.
+void type(std::string_view text);
+/// Presses a key, such as "Return" or "ctrl+shift+s".
+void key(const std::string& combination);
+/// Moves a dialog away from what it covers.
+void move_aside(const std::string& shell);
+/// Closes a shell as the window manager's menu does.
+void close(const std::string& shell);
+void close_main_window();
+
+/// Presses a button, by its callbacks. An error when it is insensitive.
+void press(const std::string& button);
+/// Presses the buttons of a selection box.
+void press_ok(const std::string& box);
+void press_apply(const std::string& box);
+void press_cancel(const std::string& box);
+/// Writes into a text field, or into the name field of a selection box.
+void enter(const std::string& field_or_box, const std::string& text);
+/// Selects an item of a list.
+void select(const std::string& list_or_box, const std::string& item);
+/// Selects one more item, as a list allows that lets several be selected.
+void select_too(const std::string& list_or_box, const std::string& item);
+/// Sets a toggle or unsets it.
+void toggle(const std::string& name, bool on);
+/// Chooses a button of an option menu.
+void choose_option(const std::string& option_menu, const std::string& button);
+
+/// Writes a name into a file selection box and presses OK.
+void choose_file(const std::string& box, const std::string& path);
+/// File/Save As, Open and Read, of a path in the working directory or elsewhere.
+void save_as(const std::string& path);
+void open_file(const std::string& path);
+void read_into(const std::string& path);
+
+/// Adds a family, and opens the family dialog on it.
+void add_family(const std::string& name);
+void edit_family(const std::string& name);
+
+#endif

@@ -1,0 +1,219 @@
+#include <algorithm>
+
+#include "gui/hands.h"
+#include "gui/looks.h"
+#include "gui/session.h"
+
+namespace {
+
+const char two_families[] = "VQconfig\nfamily 'Athena' {\n}\nfamily 'Demo' {\n}\n";
+
+class MainWindow : public Session {};
+
+TEST_F(MainWindow, StartsEmptyWithThePlainTitle) {
+  start();
+  EXPECT_EQ("vqconfig", title());
+  EXPECT_EQ(Items(), items("family_selection"));
+  EXPECT_EQ("", text("family_selection"));
+  EXPECT_FALSE(dirty);
+}
+
+TEST_F(MainWindow, ATypedNameIsAddedWithTheMouse) {
+  start();
+  click("family_selection.Text");
+  type("Dial_Set");
+  click("family_selection.Apply");
+  EXPECT_EQ(Items{"Dial_Set"}, items("family_selection"));
+  EXPECT_TRUE(dirty);
+  EXPECT_FALSE(is_shown("entity_dialog"));
+}
+
+TEST_F(MainWindow, NewFamiliesGoToTheEnd) {
+  open_document(two_families);
+  add_family("B");
+  add_family("a");
+  EXPECT_EQ((Items{"Athena", "Demo", "B", "a"}), items("family_selection"));
+  EXPECT_EQ((Names{"display", "margins", "settings", "callbacks", "misc"}), saved_names("a", "page"));
+}
+
+TEST_F(MainWindow, AnExistingNameIsNotAddedAgain) {
+  open_document(two_families);
+  add_family("Demo");
+  EXPECT_EQ((Items{"Athena", "Demo"}), items("family_selection"));
+  EXPECT_FALSE(dirty);
+}
+
+TEST_F(MainWindow, AnEmptyNameDoesNothing) {
+  open_document(two_families);
+  press_apply("family_selection");
+  press_ok("family_selection");
+  press_cancel("family_selection");
+  EXPECT_EQ((Items{"Athena", "Demo"}), items("family_selection"));
+  EXPECT_FALSE(dirty);
+  EXPECT_FALSE(is_shown("entity_dialog"));
+}
+
+TEST_F(MainWindow, ReturnOnANewNameAddsItAndOpensNothing) {
+  start();
+  click("family_selection.Text");
+  type("New");
+  key("Return");
+  EXPECT_EQ(Items{"New"}, items("family_selection"));
+  EXPECT_FALSE(is_shown("entity_dialog"));
+}
+
+TEST_F(MainWindow, EditOnASelectedFamilyOpensItsDialog) {
+  open_document(two_families);
+  click_item("family_selection", "Demo");
+  EXPECT_EQ("Demo", text("family_selection"));
+  click("family_selection.OK");
+  EXPECT_TRUE(is_shown("entity_dialog"));
+  EXPECT_EQ(filled("family_title", "Demo"), title("entity_dialog"));
+}
+
+TEST_F(MainWindow, ReturnOnATypedFamilyOpensItsDialog) {
+  open_document(two_families);
+  click("family_selection.Text");
+  type("Athena");
+  key("Return");
+  EXPECT_TRUE(is_shown("entity_dialog"));
+  EXPECT_EQ(filled("family_title", "Athena"), title("entity_dialog"));
+  EXPECT_EQ((Items{"Athena", "Demo"}), items("family_selection"));
+}
+
+TEST_F(MainWindow, TheFirstFamilyBecomesCurrentAndLaterOnesDoNot) {
+  start();
+  add_family("First");
+  add_family("Second");
+  EXPECT_EQ(family_ptr("First"), family_getcurrent());
+}
+
+TEST_F(MainWindow, SelectingMakesAFamilyCurrent) {
+  open_document(two_families);
+  EXPECT_EQ(nullptr, family_getcurrent());
+  click_item("family_selection", "Demo");
+  EXPECT_EQ(family_ptr("Demo"), family_getcurrent());
+  EXPECT_FALSE(dirty);
+}
+
+TEST_F(MainWindow, DeletingTheCurrentFamilyLeavesNoneCurrent) {
+  open_document(two_families);
+  edit_family("Demo");
+  move_aside("entity_dialog");
+  click_item("family_selection", "Demo");
+  click("family_selection.Cancel");
+  EXPECT_EQ(Items{"Athena"}, items("family_selection"));
+  EXPECT_EQ("", text("family_selection"));
+  EXPECT_EQ(nullptr, family_getcurrent());
+  EXPECT_EQ(filled("family_title", nullptr), title("entity_dialog"));
+  EXPECT_TRUE(dirty);
+  EXPECT_EQ("", saved_item("family 'Demo'"));
+}
+
+TEST_F(MainWindow, DeletingAnotherFamilyKeepsTheCurrentOne) {
+  open_document(two_families);
+  edit_family("Demo");
+  enter("family_selection", "Athena");
+  press_cancel("family_selection");
+  EXPECT_EQ(Items{"Demo"}, items("family_selection"));
+  EXPECT_EQ("", text("family_selection"));
+  EXPECT_EQ(family_ptr("Demo"), family_getcurrent());
+  EXPECT_EQ(filled("family_title", "Demo"), title("entity_dialog"));
+}
+
+TEST_F(MainWindow, AnUnknownNameIsNotDeleted) {
+  open_document(two_families);
+  enter("family_selection", "demo");
+  press_cancel("family_selection");
+  EXPECT_EQ((Items{"Athena", "Demo"}), items("family_selection"));
+  EXPECT_FALSE(dirty);
+}
+
+TEST_F(MainWindow, DeletingAFamilyTakesWhatOnlyItUses) {
+  open_document(
+      "VQconfig\nwidget 'Shared' {\n}\nwidget 'Own' {\n}\n"
+      "family 'A' {\nwidget='Own'\nwidget='Shared'\n}\nfamily 'B' {\nwidget='Shared'\n}\n");
+  enter("family_selection", "A");
+  press_cancel("family_selection");
+  EXPECT_EQ("", saved_item("widget 'Own'"));
+  EXPECT_EQ("widget 'Shared' {\n}\n", saved_item("widget 'Shared'"));
+}
+
+TEST_F(MainWindow, EscapeDeletesNothing) {
+  open_document(two_families);
+  click_item("family_selection", "Demo");
+  click("family_selection.Text");
+  key("Escape");
+  EXPECT_EQ((Items{"Athena", "Demo"}), items("family_selection"));
+  EXPECT_FALSE(dirty);
+}
+
+TEST_F(MainWindow, MenusStandInTheirOrder) {
+  start({"-xrm", "*generateOptions: True"});
+  EXPECT_EQ((Names{"family_file_cascade", "family_edit_cascade", "family_options_cascade", "family_generate_cascade",
+                   "family_help_cascade"}),
+            left_to_right({"family_help_cascade", "family_generate_cascade", "family_options_cascade",
+                           "family_edit_cascade", "family_file_cascade"}));
+}
+
+TEST_F(MainWindow, FileItemsStandInTheirOrder) {
+  start();
+  click("family_file_cascade");
+  EXPECT_EQ((Names{"family_newb", "family_openb", "family_readb", "family_saveb", "family_saveasb", "separator4",
+                   "family_exitb"}),
+            top_to_bottom({"family_exitb", "separator4", "family_saveasb", "family_saveb", "family_readb",
+                           "family_openb", "family_newb"}));
+  key("Escape");
+}
+
+TEST_F(MainWindow, OptionsMenuIsHiddenByDefault) {
+  start();
+  EXPECT_FALSE(is_viewable(widget("family_options_cascade")));
+  EXPECT_TRUE(is_viewable(widget("family_generate_cascade")));
+}
+
+TEST_F(MainWindow, OptionsMenuIsShownWhenTheResourceSaysSo) {
+  start({"-xrm", "VQconfig*generateOptions: True"});
+  EXPECT_TRUE(is_viewable(widget("family_options_cascade")));
+  choose_menu("family_options_cascade", "family_generate_options_b");
+  EXPECT_TRUE(is_shown("options_shell"));
+}
+
+class AboutBox : public Session {
+ protected:
+  AboutBox() {
+    start();
+    choose_menu("family_help_cascade", "family_helpaboutb");
+  }
+};
+
+TEST_F(AboutBox, TellsTheProgramAndItsVersion) {
+  EXPECT_TRUE(is_shown("about_dialog"));
+  EXPECT_EQ("About vqconfig", title("about_dialog"));
+  EXPECT_EQ("vqconfig", label("about_name"));
+  const std::string notice = label("about_version");
+  const std::string last_line = notice.substr(notice.rfind('\n') + 1);
+  EXPECT_TRUE(last_line.starts_with("Version ")) << last_line;
+  EXPECT_EQ(2, std::count(last_line.begin(), last_line.end(), ' ')) << last_line;
+  EXPECT_EQ(std::string::npos, notice.find('%'));
+}
+
+TEST_F(AboutBox, ItsButtonClosesIt) {
+  ASSERT_TRUE(is_shown("about_dialog"));
+  click("about_ok");
+  EXPECT_FALSE(is_shown("about_dialog"));
+}
+
+TEST_F(AboutBox, ReturnClosesIt) {
+  ASSERT_TRUE(has_keyboard("about_dialog"));
+  key("Return");
+  EXPECT_FALSE(is_shown("about_dialog"));
+}
+
+TEST_F(AboutBox, EscapeClosesIt) {
+  ASSERT_TRUE(has_keyboard("about_dialog"));
+  key("Escape");
+  EXPECT_FALSE(is_shown("about_dialog"));
+}
+
+}  // namespace

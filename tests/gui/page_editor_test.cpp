@@ -1,0 +1,195 @@
+#include "gui/hands.h"
+#include "gui/looks.h"
+#include "gui/session.h"
+
+namespace {
+
+const char document[] =
+    "VQconfig\nwidget 'W' {\nresource_definitions="
+    "'r',,'display',True,VQC_FREE_DEFAULT,VQC_FREE_DEFAULT;\n}\n"
+    "page 'geometry'\npage 'unused'\nfamily 'F' {\nwidget='W'\npage='geometry'\n}\n";
+
+const Items all_pages = {"geometry", "unused", "display", "margins", "settings", "callbacks", "misc"};
+const Names pages_of_family = {"display", "margins", "settings", "callbacks", "misc", "geometry"};
+
+class PageEditor : public Session {
+ protected:
+  PageEditor() {
+    open_document(document);
+    edit_family("F");
+    enter("widgetlist_selection", "W");
+    press_ok("widgetlist_selection");
+    select("we_resource_list", "r");
+  }
+  static void add(const std::string& name) {
+    enter("pageedit_selection", name);
+    press("pageedit_updateb");
+  }
+  static void remove(const std::string& name) {
+    enter("pageedit_selection", name);
+    press("pageedit_removeb");
+  }
+};
+
+TEST_F(PageEditor, OpensOnThePageOfTheField) {
+  click("widgetedit_page_b");
+  ASSERT_TRUE(is_shown("pageedit_dialog"));
+  EXPECT_EQ("display", text("pageedit_selection"));
+  EXPECT_EQ(all_pages, items("pageedit_selection"));
+}
+
+TEST_F(PageEditor, OpensEmptyOnAnUnknownPage) {
+  enter("widgetedit_page_t", "unknown");
+  press("widgetedit_page_b");
+  EXPECT_EQ("", text("pageedit_selection"));
+  EXPECT_EQ("unknown", text("widgetedit_page_t"));
+}
+
+TEST_F(PageEditor, ApplyWritesTheNameBackAndStaysOpen) {
+  press("widgetedit_page_b");
+  ASSERT_TRUE(is_shown("pageedit_dialog"));
+  click_item("pageedit_selection", "margins");
+  EXPECT_EQ("margins", text("pageedit_selection"));
+  EXPECT_EQ("display", text("widgetedit_page_t"));
+  click("pageedit_selection.Apply");
+  EXPECT_EQ("margins", text("widgetedit_page_t"));
+  EXPECT_TRUE(is_shown("pageedit_dialog"));
+  EXPECT_TRUE(dirty);
+}
+
+TEST_F(PageEditor, ApplyArmsTheResourceWarning) {
+  press("widgetedit_page_b");
+  select("pageedit_selection", "margins");
+  press_apply("pageedit_selection");
+  press("widgetedit_closeb");
+  EXPECT_TRUE(is_shown("resource_warn_dialog"));
+}
+
+TEST_F(PageEditor, CancelLeavesTheFieldAlone) {
+  press("widgetedit_page_b");
+  select("pageedit_selection", "margins");
+  click("pageedit_selection.Cancel");
+  EXPECT_FALSE(is_shown("pageedit_dialog"));
+  EXPECT_EQ("display", text("widgetedit_page_t"));
+  EXPECT_FALSE(dirty);
+}
+
+TEST_F(PageEditor, AddAppendsAPageToTheFamily) {
+  press("widgetedit_page_b");
+  ASSERT_TRUE(is_shown("pageedit_dialog"));
+  click("pageedit_selection.Text");
+  enter("pageedit_selection", "");
+  type("extra");
+  click("pageedit_updateb");
+  Items expected = all_pages;
+  expected.insert(expected.begin() + 6, "extra");  // the place that it has in the family
+  EXPECT_EQ(expected, items("pageedit_selection"));
+  EXPECT_TRUE(dirty);
+  Names saved_expected = pages_of_family;
+  saved_expected.push_back("extra");
+  EXPECT_EQ(saved_expected, saved_names("F", "page"));
+}
+
+TEST_F(PageEditor, AddOfAPageThatIsThereDoesNothing) {
+  press("widgetedit_page_b");
+  add("geometry");
+  add("misc");
+  EXPECT_EQ(all_pages, items("pageedit_selection"));
+  EXPECT_FALSE(dirty);
+}
+
+TEST_F(PageEditor, AddOfAnotherFamilysPageIsShownOnce) {
+  press("widgetedit_page_b");
+  add("unused");
+  EXPECT_EQ(all_pages, items("pageedit_selection"));
+  EXPECT_TRUE(dirty);
+  Names expected = pages_of_family;
+  expected.push_back("unused");
+  EXPECT_EQ(expected, saved_names("F", "page"));
+}
+
+TEST_F(PageEditor, AddWithoutANameDoesNothing) {
+  press("widgetedit_page_b");
+  add("");
+  remove("");
+  EXPECT_EQ(all_pages, items("pageedit_selection"));
+  EXPECT_FALSE(dirty);
+}
+
+TEST_F(PageEditor, RemoveTakesAPageOutOfTheFamily) {
+  press("widgetedit_page_b");
+  remove("geometry");
+  EXPECT_EQ((Items{"unused", "display", "margins", "settings", "callbacks", "misc"}), items("pageedit_selection"));
+  EXPECT_TRUE(dirty);
+  EXPECT_EQ((Names{"display", "margins", "settings", "callbacks", "misc"}), saved_names("F", "page"));
+}
+
+TEST_F(PageEditor, ARemovedPageIsStillKnownToTheProgram) {
+  press("widgetedit_page_b");
+  remove("geometry");
+  press("widgetedit_page_b");
+  EXPECT_EQ(all_pages, items("pageedit_selection"));
+}
+
+TEST_F(PageEditor, APredefinedPageIsNotRemoved) {
+  press("widgetedit_page_b");
+  for (const char* name : {"display", "margins", "settings", "callbacks", "misc"}) remove(name);
+  EXPECT_EQ(all_pages, items("pageedit_selection"));
+  EXPECT_EQ("", error_shown());
+  EXPECT_FALSE(dirty);
+}
+
+TEST_F(PageEditor, RemoveOfAPageThatTheFamilyHasNotDoesNothing) {
+  press("widgetedit_page_b");
+  remove("unused");
+  EXPECT_EQ(all_pages, items("pageedit_selection"));
+  EXPECT_FALSE(dirty);
+}
+
+TEST_F(PageEditor, ArrowsMoveThePageInTheFamily) {
+  press("widgetedit_page_b");
+  ASSERT_TRUE(is_shown("pageedit_dialog"));
+  click_item("pageedit_selection", "margins");
+  click("pageedit_up_arrow");
+  EXPECT_FALSE(dirty);
+  EXPECT_EQ(Items{"margins"}, selected("pageedit_selection"));
+  EXPECT_EQ((Names{"margins", "display", "settings", "callbacks", "misc", "geometry"}), saved_names("F", "page"));
+  press("pageedit_down_arrow");
+  EXPECT_EQ(pages_of_family, saved_names("F", "page"));
+}
+
+TEST_F(PageEditor, APageThatTheFamilyHasNotDoesNotMove) {
+  press("widgetedit_page_b");
+  select("pageedit_selection", "unused");
+  press("pageedit_up_arrow");
+  EXPECT_EQ(all_pages, items("pageedit_selection"));
+  EXPECT_EQ(pages_of_family, saved_names("F", "page"));
+}
+
+TEST_F(PageEditor, OkWhichDoesNothingIsNotShown) {
+  press("widgetedit_page_b");
+  ASSERT_TRUE(is_shown("pageedit_dialog"));
+  EXPECT_FALSE(is_viewable(widget("pageedit_selection.OK")));
+  EXPECT_TRUE(is_viewable(widget("pageedit_selection.Apply")));
+}
+
+TEST_F(PageEditor, ReopeningShowsTheFieldAgain) {
+  press("widgetedit_page_b");
+  select("pageedit_selection", "margins");
+  press_cancel("pageedit_selection");
+  press("widgetedit_page_b");
+  EXPECT_EQ("display", text("pageedit_selection"));
+}
+
+TEST_F(PageEditor, APageThatAResourceBroughtIsListedAtTheNextOpening) {
+  press("widgetedit_page_b");
+  enter("widgetedit_page_t", "brought");
+  press("we_resource_upd_b");
+  press("widgetedit_page_b");
+  Items expected = all_pages;
+  expected.push_back("brought");
+  EXPECT_EQ(expected, items("pageedit_selection"));
+  EXPECT_EQ("brought", text("pageedit_selection"));
+}
+
+}  // namespace

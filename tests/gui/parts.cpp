@@ -1,0 +1,19 @@
+#include "gui/parts.h"
+
+#include <Xm/List.h>
+#include <Xm/SelectioB.h>
+
+Widget list_in(const std::string& list_or_box) {
+  Widget w = widget(list_or_box);
+  return XmIsList(w) ? w : widget(list_or_box + "*ItemsList");
+}
+
+Widget field_in(const std::string& field_or_box) {
+  Widget w = widget(field_or_box);
+  return XmIsSelectionBox(w) ? widget(field_or_box + ".Text") : w;
+}
+
+bool is_window_viewable(Widget w) {
+  XWindowAttributes attributes;
+  return XGetWindowAttributes(XtDisplay(w), XtWindow(w), &attributes) && attributes.map_state == IsViewable;
+}
