@@ -8,7 +8,7 @@ RELEASE = build/release
 JOBS = --parallel $(shell nproc)
 SOURCES = git ls-files '*.cpp' '*.h'
 
-.PHONY: all run test bench fuzz install format lint clean
+.PHONY: all run test bench fuzz screenshots install format lint clean
 
 all:
 	@scripts/install-packages build
@@ -48,6 +48,11 @@ fuzz:
 	@scripts/configure fuzz
 	@cmake --build build/fuzz --target fuzzers
 	FUZZ_SECONDS=$(FUZZ_SECONDS) cmake --build build/fuzz --target fuzz
+
+# The pictures in docs/, again.
+screenshots: all
+	@scripts/install-packages run screenshots
+	scripts/screenshots $(RELEASE)/vqconfig
 
 install: all
 	DESTDIR=$(DESTDIR) cmake --install $(RELEASE) --prefix $(PREFIX)

@@ -1,8 +1,8 @@
 #include "libkel/installation.h"
 
-#include <X11/Intrinsic.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
@@ -24,7 +24,8 @@ bool leads_somewhere(std::string_view path) {
   while (!path.empty()) {
     const std::size_t end = std::min(path.find(':'), path.size());
     const std::string_view folder = path.substr(0, path.substr(0, end).find('%'));
-    if (access(std::string(folder).c_str(), F_OK) == 0) return true;
+    const bool toolkits_own = folder.empty() && end > 0;  // begins with a substitution
+    if (toolkits_own || access(std::string(folder).c_str(), F_OK) == 0) return true;
     path.remove_prefix(std::min(end + 1, path.size()));
   }
   return false;

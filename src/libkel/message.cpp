@@ -46,10 +46,12 @@ const char* vq_lookup_string(const char* name) {
   return present(name) && message_sink ? message_sink->text_of(name) : nullptr;
 }
 
-int error_show(const char* name) {
+const char* text_or_name(const char* name) {
   const char* text = vq_lookup_string(name);
-  return show(present(text) ? text : name);
+  return present(text) ? text : name;
 }
+
+int error_show(const char* name) { return show(text_or_name(name)); }
 
 int error_show_1s(const char* name, const char* a) { return show_filled(name, {a}); }
 

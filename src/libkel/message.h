@@ -19,6 +19,9 @@ inline const MessageSink* message_sink = nullptr;
 /// resource is missing. The result belongs to the resource database.
 const char* vq_lookup_string(const char* name);
 
+/// The same, or `name` itself when there is no text: what is shown says at least what was meant.
+const char* text_or_name(const char* name);
+
 /// What fills a place in a message: a text for %s (null counts as ""), a number for %d.
 using MessageArgument = std::variant<const char*, int>;
 

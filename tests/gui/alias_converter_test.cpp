@@ -158,9 +158,8 @@ TEST_F(ConverterPage, AddStoresEveryField) {
   click("converter_selection.Apply");
   EXPECT_EQ((Items{"Colour", "Gap", "Shape"}), items("converter_selection"));
   expect_fields("cvt_gap", "gap_popup", true, true);
-  EXPECT_EQ(
-      "converter 'Gap' {\n\tproc_name='cvt_gap'\n\tdialog='gap_popup'\n\tadd_in_vq=True\n\tadd_in_code=True\n}\n",
-      saved_item("converter 'Gap'"));
+  EXPECT_EQ("converter 'Gap' {\n\tproc_name='cvt_gap'\n\tdialog='gap_popup'\n\tadd_in_vq=True\n\tadd_in_code=True\n}\n",
+            saved_item("converter 'Gap'"));
 }
 
 TEST_F(ConverterPage, OkRewritesEveryField) {

@@ -152,9 +152,11 @@ TEST_F(FamilyInit, ApplyStoresAndLeavesTheDocumentClean) {
   click("familyinit_applyb");
   EXPECT_FALSE(dirty);
   EXPECT_TRUE(is_shown("entity_dialog"));
-  EXPECT_TRUE(saved_item("family 'C'").starts_with(
-      "family 'C' {\n\tfamily_init='c_init'\n\tgenerate_family_init_code=False\n\tgenerate_family_init_stub=True\n"
-      "\tgenerate_family_init_vq=False\n\tgenerate_family_init_pre_shell=True\n"));
+  EXPECT_TRUE(
+      saved_item("family 'C'")
+          .starts_with(
+              "family 'C' {\n\tfamily_init='c_init'\n\tgenerate_family_init_code=False\n\tgenerate_family_init_stub=True\n"
+              "\tgenerate_family_init_vq=False\n\tgenerate_family_init_pre_shell=True\n"));
 }
 
 TEST_F(FamilyInit, AChangedDocumentStaysChanged) {
@@ -168,7 +170,8 @@ TEST_F(FamilyInit, AnEmptyProcedureIsStoredAsAnEmptyString) {
   edit_family("A");
   enter("familyinit_init_text", "");
   press("familyinit_applyb");
-  EXPECT_TRUE(saved_item("family 'A'").starts_with("family 'A' {\n\tfamily_init=''\n\tgenerate_family_init_code=True\n"));
+  EXPECT_TRUE(
+      saved_item("family 'A'").starts_with("family 'A' {\n\tfamily_init=''\n\tgenerate_family_init_code=True\n"));
 }
 
 TEST_F(FamilyInit, ASettingThatIsNotAppliedIsLost) {

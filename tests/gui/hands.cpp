@@ -87,6 +87,16 @@ void click_on(Widget w) {
   click_at(w, area->rectangle.width / 2, area->rectangle.height / 2);
 }
 
+/// Clicks on what brings up a menu, and on an item of it. The toolkit leaves a menu down when it cannot grab the
+/// mouse at that moment, so that a user has to click again.
+void choose_from(Widget button, const std::string& item) {
+  for (int attempt = 0; attempt < 5; ++attempt) {
+    click_on(button);
+    if (wait_for([&] { return is_viewable(widget(item)); }, 1)) break;
+  }
+  click(item);
+}
+
 /// A key, and whether Shift is needed for it.
 struct Stroke {
   KeyCode code;
@@ -184,10 +194,7 @@ void click_item(const std::string& list_or_box, const std::string& item) {
   click_at(list, x + 10, y + height / 2);
 }
 
-void choose_menu(const std::string& cascade, const std::string& item) {
-  click(cascade);
-  click(item);
-}
+void choose_menu(const std::string& cascade, const std::string& item) { choose_from(widget(cascade), item); }
 
 void type(std::string_view text) {
   wait_for(keyboard_is_ours);
@@ -257,8 +264,7 @@ void toggle(const std::string& name, bool on) {
 }
 
 void choose_option(const std::string& option_menu, const std::string& button) {
-  click_on(XmOptionButtonGadget(widget(option_menu)));
-  click(button);
+  choose_from(XmOptionButtonGadget(widget(option_menu)), button);
 }
 
 void choose_file(const std::string& box, const std::string& path) {

@@ -96,8 +96,9 @@ std::string title() { return value_of<char*>(main_shell(), XmNtitle); }
 
 std::string resource_text(const std::string& name) {
   char* value = nullptr;
-  XtResource resource = {const_cast<char*>(name.c_str()), const_cast<char*>(XtCString), const_cast<char*>(XtRString),
-                         sizeof value, 0, const_cast<char*>(XtRString), const_cast<char*>("")};
+  XtResource resource = {
+      const_cast<char*>(name.c_str()), const_cast<char*>(XtCString), const_cast<char*>(XtRString), sizeof value, 0,
+      const_cast<char*>(XtRString),    const_cast<char*>("")};
   XtGetApplicationResources(main_shell(), &value, &resource, 1, nullptr, 0);
   return value;
 }

@@ -109,9 +109,8 @@ TEST_F(ResourceEditor, UpdateStoresEveryField) {
   toggle("widgetedit_get_t", false);
   toggle("widgetedit_set_t", true);
   press("we_resource_upd_b");
-  EXPECT_EQ(
-      "'labelString', 'unknown_popup', 'settings', False, VQC_DONT_FREE, VQC_FREE access 5 counter 'n';",
-      saved_resource("labelString"));
+  EXPECT_EQ("'labelString', 'unknown_popup', 'settings', False, VQC_DONT_FREE, VQC_FREE access 5 counter 'n';",
+            saved_resource("labelString"));
   EXPECT_EQ("", saved_item("popup 'unknown_popup'"));
 }
 

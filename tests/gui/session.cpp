@@ -11,8 +11,8 @@
 
 #include "gui/hands.h"
 #include "gui/looks.h"
-#include "vqc/cmd/application/command_line.h"
 #include "libkel/installation.h"
+#include "vqc/cmd/application/command_line.h"
 #include "vqc/cmd/application/session.h"
 #include "vqc/cmd/editors/dialogs/family_dialog.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
@@ -26,7 +26,6 @@ using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
 constexpr milliseconds kQuiet{40};
-constexpr milliseconds kPatience{8000};
 
 std::array<long, LASTEvent> event_counts;
 
@@ -103,8 +102,8 @@ void settle() {
   }
 }
 
-bool wait_for(const std::function<bool()>& condition) {
-  const auto end = Clock::now() + kPatience;
+bool wait_for(const std::function<bool()>& condition, double seconds) {
+  const auto end = Clock::now() + std::chrono::duration<double>(seconds);
   while (!condition()) {
     if (Clock::now() > end) return false;
     serve(milliseconds(10));

@@ -41,7 +41,7 @@ extern std::vector<std::string> warnings;
 /// Serves the program until nothing more happens.
 void settle();
 /// Serves it until the condition holds. False when it has not come true in time.
-bool wait_for(const std::function<bool()>& condition);
+bool wait_for(const std::function<bool()>& condition, double seconds = 8);
 /// How many X events of a type the program has been given.
 long events_seen(int type);
 

@@ -71,7 +71,7 @@ void viewer_announced(Widget w, XtPointer, XEvent* event, Boolean*) {
   if (started_callback) started_callback(started_data);
 }
 
-/// Launches a viewer in the background.
+/// Launches a viewer in the background. A command there never fails, so that whether there is a viewer is asked first.
 int start_viewer(Widget w) {
   XtAddEventHandler(w, PropertyChangeMask, False, viewer_announced, nullptr);
   starting = true;

@@ -32,7 +32,7 @@
 #include "vqc/cmd/savefile/document_hooks.h"
 #include "vqc/cmd/savefile/parse.h"
 
-extern "C" void XmRegisterConverters();
+extern "C" void XmRegisterConverters();  // only Motif's private headers declare it
 
 namespace {
 

@@ -17,9 +17,8 @@ void state_version(Widget label) {
   XtVaGetValues(label, XmNlabelString, &string, nullptr);
   const Text format = text_of(string);
   XmStringFree(string);
-  XmString text = compound_lines(filled(format, {VQC_VERSION, VQC_RELEASE_DATE}).c_str());
-  XtVaSetValues(label, XmNlabelString, text, nullptr);
-  XmStringFree(text);
+  const std::string text = filled(format, {VQC_VERSION, VQC_RELEASE_DATE});
+  XtVaSetValues(label, XmNlabelString, CompoundString::of_lines(text.c_str()).get(), nullptr);
 }
 
 }  // namespace
@@ -27,8 +26,7 @@ void state_version(Widget label) {
 void about_do_show(Widget w, XtPointer, XtPointer) {
   const BusyCursor busy(w);
   if (!about_dialog) {
-    about_dialog = create_about_dialog(family_dialog[FAMILY_SHELL]);
-    if (!about_dialog) return;
+    if (!made(about_dialog, create_about_dialog, family_dialog[FAMILY_SHELL])) return;
     state_version(about_dialog[ABOUT_VERSION]);
   }
   show_dialog(about_dialog[ABOUT_FORM]);

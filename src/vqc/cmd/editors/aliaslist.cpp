@@ -26,15 +26,15 @@ void select_alias(const Text& name) {
 
 }  // namespace
 
-ListEditor alias_editor{.dialog = entity_dialog,
-                        .box_slot = ALIASLIST_BOX,
-                        .names = names_in_family<alias_kind>(),
-                        .added = alias_added,
-                        .accepted = update_alias,
-                        .selected = select_alias};
+ListEditor aliaslist_editor{.dialog = entity_dialog,
+                            .box_slot = ALIASLIST_BOX,
+                            .names = names_in_family<alias_kind>(),
+                            .added = alias_added,
+                            .accepted = update_alias,
+                            .selected = select_alias};
 
 void current_alias_changed(Reference<AliasDef>* element) {
   if (!entity_dialog) return;
-  if (!element) alias_editor.clear_name();
+  if (!element) aliaslist_editor.clear_name();
   settextf(to_name_field(), element ? element->record->to_name.c_str() : nullptr);
 }

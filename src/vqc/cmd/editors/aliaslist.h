@@ -5,12 +5,12 @@
 
 // The page of a family's type aliases. What it edits belongs to the document: an alias is the same in every family.
 
-extern ListEditor alias_editor;
-inline constexpr XtCallbackProc aliaslist_do_add = do_add<alias_editor>;
-inline constexpr XtCallbackProc aliaslist_do_update = do_accept<alias_editor>;
-inline constexpr XtCallbackProc aliaslist_do_delete = do_delete<alias_editor>;
-inline constexpr XtCallbackProc aliaslist_do_display = do_select<alias_editor>;
-inline void aliaslist_setfamily(const Family* family) { set_family(alias_editor, family); }
+extern ListEditor aliaslist_editor;
+inline constexpr XtCallbackProc aliaslist_do_add = do_add<aliaslist_editor>;
+inline constexpr XtCallbackProc aliaslist_do_update = do_accept<aliaslist_editor>;
+inline constexpr XtCallbackProc aliaslist_do_delete = do_delete<aliaslist_editor>;
+inline constexpr XtCallbackProc aliaslist_do_display = do_select<aliaslist_editor>;
+inline void aliaslist_setfamily(const Family* family) { set_family(aliaslist_editor, family); }
 
 /// Hears that another alias of the family, or none, is current now.
 void current_alias_changed(Reference<AliasDef>* element);

@@ -38,15 +38,15 @@ void select_converter(const Text& name) {
 
 }  // namespace
 
-ListEditor converter_editor{.dialog = entity_dialog,
-                            .box_slot = CONVERTER_BOX,
-                            .names = names_in_family<converter_kind>(),
-                            .added = converter_added,
-                            .accepted = update_converter,
-                            .selected = select_converter};
+ListEditor converterlist_editor{.dialog = entity_dialog,
+                                .box_slot = CONVERTER_BOX,
+                                .names = names_in_family<converter_kind>(),
+                                .added = converter_added,
+                                .accepted = update_converter,
+                                .selected = select_converter};
 
 void current_converter_changed(Reference<ConverterDef>* element) {
   if (!entity_dialog) return;
-  if (!element) converter_editor.clear_name();
+  if (!element) converterlist_editor.clear_name();
   show_converter(element ? *element->record : ConverterDef{});
 }

@@ -47,8 +47,7 @@ void map_page(Widget shown) {
 
 bool create_on_first_use() {
   if (entity_dialog) return true;
-  entity_dialog = create_entity_dialog(family_dialog[FAMILY_SHELL]);
-  if (!entity_dialog) return false;
+  if (!made(entity_dialog, create_entity_dialog, family_dialog[FAMILY_SHELL])) return false;
   entity_setfamily(family_getcurrent());
   map_page(entity_dialog[WIDGETLIST_BOX]);
   return true;
@@ -91,7 +90,7 @@ void show_popups_cb(Widget w, XtPointer field, XtPointer) {
 
 void familyinit_setfamily(const Family* family) {
   if (!entity_dialog) return;
-  settext(entity_dialog[FAMILYINIT_INIT], family ? family->family_init.c_str() : nullptr);
+  settextf(entity_dialog[FAMILYINIT_INIT], family ? family->family_init.c_str() : nullptr);
   for (const auto& [toggle, flag] : init_flags) settoggle(entity_dialog[toggle], family && family->*flag);
 }
 

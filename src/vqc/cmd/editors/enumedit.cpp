@@ -64,8 +64,7 @@ ListEditor enumentry_editor{
 
 void enumedit_show() {
   if (!enumedit_dialog) {
-    enumedit_dialog = create_enumedit_dialog(family_dialog[FAMILY_SHELL]);
-    if (!enumedit_dialog) return;
+    if (!made(enumedit_dialog, create_enumedit_dialog, family_dialog[FAMILY_SHELL])) return;
     enumedit_setenum(enumlist_getcurrent());
   }
   show_dialog(enumedit_dialog[ENUMEDIT_BOX]);
@@ -82,7 +81,7 @@ void enumedit_setenum(const Reference<EnumDef>* element) {
   show_symbols({});
   if (shown) {
     refill(enumentry_editor, true);
-  } else {
+  } else {  // the buttons stay as they are
     list_show(enumentry_editor.list(), {});
     enumentry_editor.clear_name();
   }

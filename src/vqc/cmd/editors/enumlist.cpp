@@ -19,14 +19,14 @@ void edit_enum(const Text& name) {
 
 }  // namespace
 
-ListEditor enum_editor{.dialog = entity_dialog,
-                       .box_slot = ENUMLIST_BOX,
-                       .names = names_in_family<enum_kind>(),
-                       .added = enum_added,
-                       .accepted = edit_enum,
-                       .selected = select_enum};
+ListEditor enumlist_editor{.dialog = entity_dialog,
+                           .box_slot = ENUMLIST_BOX,
+                           .names = names_in_family<enum_kind>(),
+                           .added = enum_added,
+                           .accepted = edit_enum,
+                           .selected = select_enum};
 
 void current_enum_changed(Reference<EnumDef>* element) {
-  if (!element) enum_editor.clear_name();
+  if (!element) enumlist_editor.clear_name();
   enumedit_setenum(element);
 }

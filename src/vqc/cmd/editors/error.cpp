@@ -20,11 +20,8 @@ const char* text_of_resource(const char* name) {
 
 void show_in_box(const char* text) {
   if (!family_dialog) return;
-  if (!error_dialog) error_dialog = create_error_dialog(family_dialog[FAMILY_SHELL]);
-  if (!error_dialog) return;
-  XmString message = compound_lines(text);
-  XtVaSetValues(error_dialog[ERROR_BOX], XmNmessageString, message, nullptr);
-  XmStringFree(message);
+  if (!made(error_dialog, create_error_dialog, family_dialog[FAMILY_SHELL])) return;
+  XtVaSetValues(error_dialog[ERROR_BOX], XmNmessageString, CompoundString::of_lines(text).get(), nullptr);
   show_dialog(error_dialog[ERROR_BOX]);
 }
 

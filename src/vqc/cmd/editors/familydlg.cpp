@@ -1,6 +1,8 @@
 #include "vqc/cmd/editors/familydlg.h"
 
 #include "vqc/cmd/editors/entity.h"
+#include "vqc/cmd/editors/pagelist.h"
+#include "vqc/cmd/editors/popuplist.h"
 
 ListEditor family_editor{
     .dialog = family_dialog,
@@ -15,6 +17,8 @@ ListEditor family_editor{
     .added =
         [](const Text& name) {
           if (!family_getcurrent()) family_setcurrent(family_ptr(name));
+          pagelist_display();  // the first family brings what every family has
+          popuplist_display();
         },
     .accepted =
         [](const Text& name) {

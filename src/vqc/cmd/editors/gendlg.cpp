@@ -41,14 +41,13 @@ void rebuild_toggles(Widget container) {
 
 void gen_popup(Widget w, FileKind kind, const char* name, const char* title) {
   const BusyCursor busy(w);
-  if (!gen_dialog) gen_dialog = create_gen_dialog(family_dialog[FAMILY_SHELL]);
-  if (!gen_dialog) return;
+  if (!made(gen_dialog, create_gen_dialog, family_dialog[FAMILY_SHELL])) return;
   pending_kind = kind;
   Widget box = gen_dialog[GEN_FSB];
   title_file_box(box, title);
   XtVaSetValues(box, XmNpattern, static_cast<XmString>(CompoundString("*.c")), nullptr);
   XmFileSelectionDoSearch(box, nullptr);
-  if (name) settext(XmFileSelectionBoxGetChild(box, XmDIALOG_TEXT), name);
+  if (name) settextf(XmFileSelectionBoxGetChild(box, XmDIALOG_TEXT), name);
   rebuild_toggles(gen_dialog[GEN_TOGGLES]);
   show_dialog(box);
 }
@@ -71,8 +70,10 @@ void genstubs_do_popup(Widget w, XtPointer, XtPointer) {
 
 void gen_do_generate(Widget w, XtPointer, XtPointer call) {
   const BusyCursor busy(w);
-  generate(chosen_path(call), true, pending_kind);
-  hide_dialog(gen_dialog[GEN_FSB]);
+  const Text path = chosen_path(call);
+  if (!path) return;
+  hide_dialog(gen_dialog[GEN_FSB]);  // first: a message could not be answered behind a modal dialog
+  generate(path, true, pending_kind);
 }
 
 void gen_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(gen_dialog[GEN_FSB]); }

@@ -2,17 +2,17 @@
 
 #include "vqc/cmd/editors/dialogs/entity_dialog.h"
 
-ListEditor codeheader_editor{.dialog = entity_dialog,
-                             .box_slot = CODEHEADERLIST_BOX,
-                             .names = names_in_family<code_header_kind>(),
-                             .delete_clears_name = true};
+ListEditor codeheaderlist_editor{.dialog = entity_dialog,
+                                 .box_slot = CODEHEADERLIST_BOX,
+                                 .names = names_in_family<code_header_kind>(),
+                                 .delete_clears_name = true};
 
-ListEditor confheader_editor{.dialog = entity_dialog,
-                             .box_slot = CONFHEADERLIST_BOX,
-                             .names = names_in_family<config_header_kind>(),
-                             .delete_clears_name = true};
+ListEditor confheaderlist_editor{.dialog = entity_dialog,
+                                 .box_slot = CONFHEADERLIST_BOX,
+                                 .names = names_in_family<config_header_kind>(),
+                                 .delete_clears_name = true};
 
-ListEditor familyheader_editor{.dialog = entity_dialog,
-                               .box_slot = FAMILYHEADERLIST_BOX,
-                               .names = names_in_family<family_header_kind>(),
-                               .delete_clears_name = true};
+ListEditor familyheaderlist_editor{.dialog = entity_dialog,
+                                   .box_slot = FAMILYHEADERLIST_BOX,
+                                   .names = names_in_family<family_header_kind>(),
+                                   .delete_clears_name = true};

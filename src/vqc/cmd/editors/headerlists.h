@@ -5,25 +5,25 @@
 
 // The pages of a family's three lists of headers.
 
-extern ListEditor codeheader_editor;
-inline constexpr XtCallbackProc codeheaderlist_do_add = do_add<codeheader_editor>;
-inline constexpr XtCallbackProc codeheaderlist_do_delete = do_delete<codeheader_editor>;
-inline constexpr XtCallbackProc codeheaderlist_do_up = do_up<codeheader_editor>;
-inline constexpr XtCallbackProc codeheaderlist_do_down = do_down<codeheader_editor>;
-inline void codeheaderlist_setfamily(const Family* family) { set_family(codeheader_editor, family); }
+extern ListEditor codeheaderlist_editor;
+inline constexpr XtCallbackProc codeheaderlist_do_add = do_add<codeheaderlist_editor>;
+inline constexpr XtCallbackProc codeheaderlist_do_delete = do_delete<codeheaderlist_editor>;
+inline constexpr XtCallbackProc codeheaderlist_do_up = do_up<codeheaderlist_editor>;
+inline constexpr XtCallbackProc codeheaderlist_do_down = do_down<codeheaderlist_editor>;
+inline void codeheaderlist_setfamily(const Family* family) { set_family(codeheaderlist_editor, family); }
 
-extern ListEditor confheader_editor;
-inline constexpr XtCallbackProc confheaderlist_do_add = do_add<confheader_editor>;
-inline constexpr XtCallbackProc confheaderlist_do_delete = do_delete<confheader_editor>;
-inline constexpr XtCallbackProc confheaderlist_do_up = do_up<confheader_editor>;
-inline constexpr XtCallbackProc confheaderlist_do_down = do_down<confheader_editor>;
-inline void confheaderlist_setfamily(const Family* family) { set_family(confheader_editor, family); }
+extern ListEditor confheaderlist_editor;
+inline constexpr XtCallbackProc confheaderlist_do_add = do_add<confheaderlist_editor>;
+inline constexpr XtCallbackProc confheaderlist_do_delete = do_delete<confheaderlist_editor>;
+inline constexpr XtCallbackProc confheaderlist_do_up = do_up<confheaderlist_editor>;
+inline constexpr XtCallbackProc confheaderlist_do_down = do_down<confheaderlist_editor>;
+inline void confheaderlist_setfamily(const Family* family) { set_family(confheaderlist_editor, family); }
 
-extern ListEditor familyheader_editor;
-inline constexpr XtCallbackProc familyheaderlist_do_add = do_add<familyheader_editor>;
-inline constexpr XtCallbackProc familyheaderlist_do_delete = do_delete<familyheader_editor>;
-inline constexpr XtCallbackProc familyheaderlist_do_up = do_up<familyheader_editor>;
-inline constexpr XtCallbackProc familyheaderlist_do_down = do_down<familyheader_editor>;
-inline void familyheaderlist_setfamily(const Family* family) { set_family(familyheader_editor, family); }
+extern ListEditor familyheaderlist_editor;
+inline constexpr XtCallbackProc familyheaderlist_do_add = do_add<familyheaderlist_editor>;
+inline constexpr XtCallbackProc familyheaderlist_do_delete = do_delete<familyheaderlist_editor>;
+inline constexpr XtCallbackProc familyheaderlist_do_up = do_up<familyheaderlist_editor>;
+inline constexpr XtCallbackProc familyheaderlist_do_down = do_down<familyheaderlist_editor>;
+inline void familyheaderlist_setfamily(const Family* family) { set_family(familyheaderlist_editor, family); }
 
 #endif

@@ -20,13 +20,14 @@ void open_do_popup(Widget w, XtPointer, XtPointer) {
 }
 
 void really_open_popup() {
-  if (!open_dialog) open_dialog = create_open_dialog(family_dialog[FAMILY_SHELL]);
-  if (open_dialog) show_file_box(open_dialog[OPEN_FSB]);
+  if (made(open_dialog, create_open_dialog, family_dialog[FAMILY_SHELL])) show_file_box(open_dialog[OPEN_FSB]);
 }
 
 void do_open(Widget w, XtPointer, XtPointer call) {
   const BusyCursor busy(w);
-  save_file = chosen_path(call);
+  const Text path = chosen_path(call);
+  if (!path) return;
+  save_file = path;
   parseit(&save_file, 1);
   dirty = false;
   hide_dialog(open_dialog[OPEN_FSB]);

@@ -48,8 +48,7 @@ void genopt_do_popup(Widget w, XtPointer, XtPointer) {
 }
 
 void options_popup(Widget parent) {
-  if (!options_shell) options_shell = create_options_shell(parent);
-  if (!options_shell) return;
+  if (!made(options_shell, create_options_shell, parent)) return;
   document_switches.dialog_exists = true;
   options_dialog_load();
   show_dialog(options_shell[OPTIONS_FORM]);
@@ -57,7 +56,7 @@ void options_popup(Widget parent) {
 
 void options_dialog_load() {
   if (!options_shell) return;
-  for (const auto& [field, option] : option_fields) settext(options_shell[field], (name_options.*option).value());
+  for (const auto& [field, option] : option_fields) settextf(options_shell[field], (name_options.*option).value());
   XmToggleButtonSetState(options_shell[OPTIONS_COMMENT], vqc_comment_code() ? True : False, True);
   XmToggleButtonSetState(options_shell[OPTIONS_VERBOSE], vqc_verbose_code() ? True : False, True);
 }

@@ -6,19 +6,10 @@
 #include "vqc/cmd/model/builtin.h"
 #include "vqc/cmd/model/page.h"
 
-namespace {
-
-NamesOf page_names() {
-  NamesOf names = names_in_family<page_kind>();
-  names.names = names_in_pool<page_pool>;
-  return names;
-}
-
-}  // namespace
-
 Picker page_picker{
-    .editor = {.dialog = pageedit_dialog, .box_slot = PAGEEDIT_BOX, .names = page_names()},
+    .editor = {.dialog = pageedit_dialog, .box_slot = PAGEEDIT_BOX, .names = names_to_pick<page_kind, page_pool>()},
     .create = create_pageedit_dialog,
+    .exists = [](const Text& name) { return page_ptr(name) != nullptr; },
     .show = [](const Text& name) { page_setcurrent(page_ptr(name)); },
     .builtin_kind = BUILTIN_PAGE,
 };

@@ -12,8 +12,8 @@ Text Picker::name() const { return gettextf(editor.name_field()); }
 
 void open_picker(Picker& picker, Widget field, Widget parent) {
   picker.field = field;
-  if (!picker.editor.dialog) picker.editor.dialog = picker.create(parent);
-  if (!show_all_names(picker)) return;
+  if (!made(picker.editor.dialog, picker.create, parent)) return;
+  show_all_names(picker);
   picker.show(gettextf(field));
   show_dialog(picker.editor.box());
 }
@@ -34,14 +34,14 @@ void name_into_family(const Picker& picker, const Text& name) {
 }
 
 void apply_picked(Widget w, const Picker& picker) {
+  if (!family_getcurrent()) return;
   const BusyCursor busy(w);
   dirty = true;
   settextf(picker.field, picker.name());
 }
 
-void show_picked(Widget w, const Picker& picker) {
-  const BusyCursor busy(w);
-  picker.show(picker.name());
+void show_picked(const Picker& picker, const Text& name) {
+  if (picker.exists(name)) picker.show(name);
 }
 
 void remove_picked(Widget w, const Picker& picker) {

@@ -1,13 +1,23 @@
 #ifndef VQC_CMD_EDITORS_PICKER_H
 #define VQC_CMD_EDITORS_PICKER_H
 
+#include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
+
+/// The names of a picker: the current family's, in a list that is filled with all of the document's.
+template <auto& kind, auto& pool>
+NamesOf names_to_pick() {
+  NamesOf names = names_in_family<kind>();
+  names.names = names_in_pool<pool>;
+  return names;
+}
 
 /// A list editor that picks a name for a text field of another dialog. Its list shows all names of the document, while
 /// what it adds, removes and moves are the current family's.
 struct Picker {
   ListEditor editor;
   Widget* (*create)(Widget parent);
+  bool (*exists)(const Text& name);
   void (*show)(const Text& name);  // shows the record of that name, or none
   int builtin_kind;                // of names that cannot be removed
   Widget field = nullptr;          // who asked
@@ -27,7 +37,7 @@ void name_into_family(const Picker& picker, const Text& name);
 // The buttons, as callbacks.
 
 void apply_picked(Widget w, const Picker& picker);
-void show_picked(Widget w, const Picker& picker);
+void show_picked(const Picker& picker, const Text& name);
 void remove_picked(Widget w, const Picker& picker);
 
 template <Picker& picker>
@@ -36,11 +46,11 @@ void do_apply(Widget w, XtPointer, XtPointer) {
 }
 template <Picker& picker>
 void do_hide(Widget, XtPointer, XtPointer) {
-  XtUnmanageChild(picker.editor.box());
+  hide_dialog(picker.editor.box());
 }
 template <Picker& picker>
-void do_show(Widget w, XtPointer, XtPointer) {
-  show_picked(w, picker);
+void do_show(Widget w, XtPointer, XtPointer call) {
+  with_name(w, call, picker.editor, [](const ListEditor&, const Text& name) { show_picked(picker, name); });
 }
 template <Picker& picker>
 void do_remove(Widget w, XtPointer, XtPointer) {

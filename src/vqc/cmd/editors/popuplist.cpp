@@ -8,19 +8,14 @@
 
 namespace {
 
-NamesOf popup_names() {
-  NamesOf names = names_in_family<popup_kind>();
-  names.names = names_in_pool<popup_pool>;
-  return names;
-}
-
 void show_popup(const Text& name) { popup_setcurrent(popup_ptr(name)); }
 
 }  // namespace
 
 Picker popup_picker{
-    .editor = {.dialog = popupedit_dialog, .box_slot = POPUPEDIT_BOX, .names = popup_names()},
+    .editor = {.dialog = popupedit_dialog, .box_slot = POPUPEDIT_BOX, .names = names_to_pick<popup_kind, popup_pool>()},
     .create = create_popupedit_dialog,
+    .exists = [](const Text& name) { return popup_ptr(name) != nullptr; },
     .show = show_popup,
     .builtin_kind = BUILTIN_POPUP,
 };

@@ -13,8 +13,7 @@
 namespace {
 
 void show_save_dialog(const char* title) {
-  if (!save_dialog) save_dialog = create_save_dialog(family_dialog[FAMILY_SHELL]);
-  if (!save_dialog) return;
+  if (!made(save_dialog, create_save_dialog, family_dialog[FAMILY_SHELL])) return;
   title_file_box(save_dialog[SAVE_FSB], title);
   show_file_box(save_dialog[SAVE_FSB]);
 }
@@ -34,9 +33,7 @@ constexpr Question questions[] = {
 std::string question_text(SaveOp operation) {
   for (const Question& question : questions) {
     if (question.operation != operation) continue;
-    const char* name = save_file ? question.named : question.unnamed;
-    const char* format = vq_lookup_string(name);
-    return format && *format ? filled(format, {save_file}) : name;
+    return filled(text_or_name(save_file ? question.named : question.unnamed), {save_file});
   }
   return {};
 }
@@ -65,7 +62,9 @@ void really_save_popup() {
 
 void do_save(Widget w, XtPointer, XtPointer call) {
   const BusyCursor busy(w);
-  save_file = chosen_path(call);
+  const Text path = chosen_path(call);
+  if (!path) return;
+  save_file = path;
   hide_dialog(save_dialog[SAVE_FSB]);
   write_save_file(save_file);
 }
@@ -77,11 +76,11 @@ void save_do_hide(Widget, XtPointer, XtPointer) {
 
 void savechanges_popup(SaveOp operation) {
   save_op = operation;
-  if (!savechanges_dialog) savechanges_dialog = create_savechanges_dialog(family_dialog[FAMILY_SHELL]);
-  if (!savechanges_dialog) return;
-  XmString message = compound_lines(question_text(operation).c_str());
-  XtVaSetValues(savechanges_dialog[SAVECHANGES_BOX], XmNmessageString, message, nullptr);
-  XmStringFree(message);
+  if (save_dialog) hide_dialog(save_dialog[SAVE_FSB]);  // what it would save is asked about now
+  if (!made(savechanges_dialog, create_savechanges_dialog, family_dialog[FAMILY_SHELL])) return;
+  const std::string question = question_text(operation);
+  XtVaSetValues(savechanges_dialog[SAVECHANGES_BOX], XmNmessageString, CompoundString::of_lines(question.c_str()).get(),
+                nullptr);
   show_dialog(savechanges_dialog[SAVECHANGES_BOX]);
 }
 

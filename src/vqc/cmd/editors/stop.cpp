@@ -49,8 +49,7 @@ bool excluded(std::string_view classes, std::string_view name) {
 
 void stoplist_do_popup(Widget w, XtPointer, XtPointer) {
   const BusyCursor busy(w);
-  if (!stop_list_shell) stop_list_shell = create_stop_list_shell(family_dialog[FAMILY_SHELL]);
-  if (!stop_list_shell) return;
+  if (!made(stop_list_shell, create_stop_list_shell, family_dialog[FAMILY_SHELL])) return;
   show_stop_list();
   show_dialog(stop_list_shell[STOP_LIST_FORM]);
 }

@@ -61,7 +61,7 @@ constexpr AccessToggle access_toggles[] = {{WIDGETEDIT_ACCESS_CREATE, ACCESS_CRE
                                            {WIDGETEDIT_ACCESS_SET, ACCESS_SET}};
 
 /// What waits for the answer about a changed resource.
-enum class Pending { none, close, update_widget, show_resource };
+enum class Pending { none, close, show_resource };
 Pending pending = Pending::none;
 Text pending_resource;
 
@@ -159,8 +159,7 @@ void update_resource(WidgetDef& widget) {
 }
 
 void ask_about_resource(Pending action) {
-  if (!resource_warn_dialog) resource_warn_dialog = create_resource_warn_dialog(family_dialog[FAMILY_SHELL]);
-  if (!resource_warn_dialog) return;
+  if (!made(resource_warn_dialog, create_resource_warn_dialog, family_dialog[FAMILY_SHELL])) return;
   pending = action;
   show_dialog(resource_warn_dialog[RESOURCE_WARN_BOX]);
 }
@@ -189,8 +188,7 @@ void show_widget(const WidgetDef* widget) {
 
 void widgetedit_show() {
   if (!widgetedit_dialog) {
-    widgetedit_dialog = create_widgetedit_dialog(family_dialog[FAMILY_SHELL]);
-    if (!widgetedit_dialog) return;
+    if (!made(widgetedit_dialog, create_widgetedit_dialog, family_dialog[FAMILY_SHELL])) return;
     widgetedit_setwidget(widgetlist_getcurrent());
     show_resource_toggles({});
   }
@@ -265,8 +263,7 @@ void we_page_cb(Widget w, XtPointer, XtPointer) {
 void resource_dirty_cb(Widget, XtPointer, XtPointer) { resource_changed = true; }
 
 void resource_apply(Widget w, XtPointer, XtPointer) {
-  resource_changed = false;
-  if (WidgetDef* widget = current_widget()) update_resource(*widget);
+  we_popup_update_cb(w, nullptr, nullptr);
   resource_ignore(w, nullptr, nullptr);
 }
 
@@ -279,8 +276,6 @@ void resource_ignore(Widget w, XtPointer, XtPointer) {
       break;
     case Pending::close:
       return widgetedit_do_hide(w, nullptr, nullptr);
-    case Pending::update_widget:
-      return widget_do_update(w, nullptr, nullptr);
     case Pending::show_resource:
       return show_resource(pending_resource);
   }

@@ -19,16 +19,16 @@ void edit_widget(const Text& name) {
 
 }  // namespace
 
-ListEditor widget_editor{.dialog = entity_dialog,
-                         .box_slot = WIDGETLIST_BOX,
-                         .names = names_in_family<widget_kind>(),
-                         .added = widget_added,
-                         .accepted = edit_widget,
-                         .selected = select_widget,
-                         .delete_clears_name = true,
-                         .refill_keeps_name = true};
+ListEditor widgetlist_editor{.dialog = entity_dialog,
+                             .box_slot = WIDGETLIST_BOX,
+                             .names = names_in_family<widget_kind>(),
+                             .added = widget_added,
+                             .accepted = edit_widget,
+                             .selected = select_widget,
+                             .delete_clears_name = true,
+                             .refill_keeps_name = true};
 
 void current_widget_changed(Reference<WidgetDef>* element) {
-  if (!element) widget_editor.clear_name();
+  if (!element) widgetlist_editor.clear_name();
   widgetedit_setwidget(element);
 }

@@ -78,6 +78,7 @@ const WidgetRow rows[] = {
       {XmNapplyCallback, family_do_add},
       {XmNcancelCallback, family_do_delete},
       {XmNhelpCallback, vqc_do_help, "vqc_family"}}},
+    {"Help", found, "family_selection", NO_SLOT, {{XmNactivateCallback, vqc_do_help, "vqc_family"}}},
     {"*ItemsList", found, "family_selection", FAMILY_LIST, {{XmNbrowseSelectionCallback, family_do_select}}},
     {"Text", found, "family_selection", FAMILY_TEXT},
     {"family_arrowbox", XmCreateRowColumn, "family_selection"},
@@ -99,8 +100,8 @@ const WidgetLink links[] = {
 }  // namespace
 
 Widget* create_family_dialog(Display* display, char* name, int argc, char** argv) {
-  Widget shell = XtVaAppCreateShell(name, "VQconfig", applicationShellWidgetClass, display, XmNargc, argc, XmNargv,
-                                    argv, XmNdeleteResponse, XmDO_NOTHING, nullptr);
+  Widget shell =
+      XtVaAppCreateShell(name, "VQconfig", applicationShellWidgetClass, display, XmNargc, argc, XmNargv, argv, nullptr);
   if (!shell) return nullptr;
   Widget* record = build_dialog(shell, rows, FAMILY_SLOTS, links);
   if (!record) return nullptr;

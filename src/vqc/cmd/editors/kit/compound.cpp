@@ -1,31 +1,32 @@
 #include "vqc/cmd/editors/kit/compound.h"
 
-XmString compound_lines(const char* text) {
-  return XmStringGenerate(const_cast<char*>(text), nullptr, XmCHARSET_TEXT, nullptr);
-}
-
 namespace {
 
-/// Stands for a new line between the segments of a string.
-XmParseMapping new_line() {
-  static char character[] = "\n";  // the mapping keeps its address
-  XmString separator = XmStringSeparatorCreate();
-  Arg arguments[] = {{const_cast<char*>(XmNpattern), reinterpret_cast<XtArgVal>(character)},
-                     {const_cast<char*>(XmNsubstitute), reinterpret_cast<XtArgVal>(separator)},
+/// Makes a component of a compound string the character `pattern` again. The mapping keeps the address of the pattern.
+XmParseMapping mapping(const char* pattern, XmString component) {
+  Arg arguments[] = {{const_cast<char*>(XmNpattern), reinterpret_cast<XtArgVal>(pattern)},
+                     {const_cast<char*>(XmNsubstitute), reinterpret_cast<XtArgVal>(component)},
                      {const_cast<char*>(XmNincludeStatus), XmINSERT}};
-  XmParseMapping mapping = XmParseMappingCreate(arguments, XtNumber(arguments));
-  XmStringFree(separator);
-  return mapping;
+  XmParseMapping result = XmParseMappingCreate(arguments, XtNumber(arguments));
+  XmStringFree(component);
+  return result;
 }
 
 }  // namespace
 
+CompoundString CompoundString::of_lines(const char* text) {
+  return CompoundString(XmStringGenerate(const_cast<char*>(text), nullptr, XmCHARSET_TEXT, nullptr));
+}
+
 Text text_of(XmString string) {
   if (!string) return nullptr;
-  static XmParseMapping lines[] = {new_line()};
-  char* characters = static_cast<char*>(
-      XmStringUnparse(string, nullptr, XmCHARSET_TEXT, XmCHARSET_TEXT, lines, XtNumber(lines), XmOUTPUT_ALL));
-  Text text = characters;
-  XtFree(characters);
+  static XmParseMapping characters[] = {
+      mapping("\n", XmStringSeparatorCreate()),
+      mapping("\t", XmStringComponentCreate(XmSTRING_COMPONENT_TAB, 0, nullptr)),
+  };
+  auto* plain = static_cast<char*>(
+      XmStringUnparse(string, nullptr, XmCHARSET_TEXT, XmCHARSET_TEXT, characters, XtNumber(characters), XmOUTPUT_ALL));
+  Text text = plain;
+  XtFree(plain);
   return text;
 }

@@ -11,20 +11,22 @@
 class CompoundString {
  public:
   explicit CompoundString(const char* text) : string_(XmStringCreateLocalized(const_cast<char*>(text ? text : ""))) {}
+  /// Of several lines.
+  static CompoundString of_lines(const char* text);
   CompoundString(CompoundString&& other) noexcept : string_(std::exchange(other.string_, nullptr)) {}
   CompoundString(const CompoundString&) = delete;
   CompoundString& operator=(CompoundString) = delete;
   ~CompoundString() { XmStringFree(string_); }
 
   /// Null when it could not be made.
+  XmString get() const { return string_; }
   operator XmString() const { return string_; }
 
  private:
+  explicit CompoundString(XmString string) : string_(string) {}
+
   XmString string_;
 };
-
-/// A compound string of several lines.
-XmString compound_lines(const char* text);
 
 /// The plain text of a compound string, lines and all; null when there is none.
 Text text_of(XmString string);

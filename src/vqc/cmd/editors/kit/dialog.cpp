@@ -10,6 +10,7 @@
 #include <Xm/SelectioB.h>
 
 #include <algorithm>
+#include <cassert>
 #include <cstring>
 #include <vector>
 
@@ -48,6 +49,11 @@ class Builder {
     }
   }
 
+  /// Leaves nothing behind of a dialog that could not be finished.
+  void destroy() {
+    if (made_[0]) XtDestroyWidget(made_[0]);
+  }
+
   void fill(Widget* record) const {
     for (std::size_t i = 0; i < rows_.size(); ++i) {
       if (rows_[i].slot != NO_SLOT) record[rows_[i].slot] = made_[i];
@@ -55,10 +61,13 @@ class Builder {
   }
 
  private:
+  /// The first widget of that name, which a row of the table must have.
   Widget named(const char* name) const {
     if (!name) return parent_;
     auto same_name = [name](const WidgetRow& row) { return std::strcmp(row.name, name) == 0; };
-    return made_[static_cast<std::size_t>(std::ranges::find_if(rows_, same_name) - rows_.begin())];
+    const auto row = std::ranges::find_if(rows_, same_name);
+    assert(row != rows_.end());
+    return made_[static_cast<std::size_t>(row - rows_.begin())];
   }
 
   static void add_callbacks(Widget widget, const WidgetRow& row) {
@@ -115,9 +124,9 @@ Widget create_file_box(Widget parent, char* name, ArgList, Cardinal) {
 }
 
 Widget create_modal_file_box(Widget parent, char* name, ArgList, Cardinal) {
-  Widget box = create_file_box(parent, name, nullptr, 0);
-  XtVaSetValues(box, XmNdialogStyle, XmDIALOG_FULL_APPLICATION_MODAL, nullptr);
-  return box;
+  Arg modal[] = {argument(XmNautoUnmanage, False), argument(XmNmustMatch, False),
+                 argument(XmNdialogStyle, XmDIALOG_FULL_APPLICATION_MODAL)};
+  return XmCreateFileSelectionBox(parent, name, modal, XtNumber(modal));
 }
 
 Widget create_question_box(Widget parent, char* name, ArgList, Cardinal) {
@@ -143,12 +152,20 @@ void on_close(Widget shell, XtCallbackProc procedure) {
 
 Widget* build_dialog(Widget parent, std::span<const WidgetRow> rows, int slots, std::span<const WidgetLink> links) {
   Builder builder(parent, rows);
-  if (!builder.make_all()) return nullptr;
+  if (!builder.make_all()) {
+    builder.destroy();
+    return nullptr;
+  }
   builder.manage_all();
   builder.set_links(links);  // an option menu takes its button's size from items that are managed
   auto* record = new Widget[static_cast<std::size_t>(slots)]{};
   builder.fill(record);
   return record;
+}
+
+bool made(Widget*& record, Widget* (*create)(Widget parent), Widget parent) {
+  if (!record) record = create(parent);
+  return record != nullptr;
 }
 
 void delete_dialog(Widget* record) {

@@ -66,6 +66,9 @@ void on_close(Widget shell, XtCallbackProc procedure);
 /// record: `slots` widgets, which delete_dialog() frees; null when one could not be made.
 Widget* build_dialog(Widget parent, std::span<const WidgetRow> rows, int slots, std::span<const WidgetLink> links = {});
 
+/// Makes a dialog when it is first needed. False when it cannot be made.
+bool made(Widget*& record, Widget* (*create)(Widget parent), Widget parent);
+
 /// Destroys the shell in the record's first slot and frees the record. Null is allowed.
 void delete_dialog(Widget* record);
 

@@ -67,12 +67,15 @@ int settext(Widget w, const char* text) {
   return 1;
 }
 
+Text undistorted(Widget w, const Text& shown) {
+  const auto distorted = distorted_texts().find(w);
+  return distorted != distorted_texts().end() && distorted->second.shown == shown ? distorted->second.text : shown;
+}
+
 Text gettextf(Widget w, Text* field) {
   Text text;
   if (w) {
-    text = shown_text(w);
-    const auto distorted = distorted_texts().find(w);
-    if (distorted != distorted_texts().end() && distorted->second.shown == text) text = distorted->second.text;
+    text = undistorted(w, shown_text(w));
   }
   if (field) *field = non_empty(text);
   return text;

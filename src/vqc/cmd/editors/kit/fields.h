@@ -13,6 +13,9 @@ inline int settextf(Widget w, const char* text) { return settext(w, text); }
 /// comes back as it was, unless the user has changed it. A `field` gets the text too, as null when it is empty.
 Text gettextf(Widget w, Text* field = nullptr);
 
+/// The text that settext() was given for a field, if what it shows of it is `shown`; otherwise `shown` itself.
+Text undistorted(Widget w, const Text& shown);
+
 /// Sets a toggle button, or its gadget, without calling its callbacks. 0 when there is no widget, else 1.
 int settoggle(Widget w, bool on);
 

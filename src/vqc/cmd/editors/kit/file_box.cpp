@@ -11,9 +11,10 @@ void show_file_box(Widget box) {
   show_dialog(box);
 }
 
-Text chosen_path(XtPointer call) { return text_of(static_cast<XmFileSelectionBoxCallbackStruct*>(call)->value); }
+Text chosen_path(XtPointer call) {
+  return non_empty(text_of(static_cast<XmFileSelectionBoxCallbackStruct*>(call)->value));
+}
 
 void title_file_box(Widget box, const char* resource_name) {
-  const char* title = vq_lookup_string(resource_name);
-  XtVaSetValues(XtParent(box), XmNtitle, title && *title ? title : resource_name, nullptr);
+  XtVaSetValues(XtParent(box), XmNtitle, text_or_name(resource_name), nullptr);
 }

@@ -8,7 +8,7 @@
 /// Shows the dialog of a file selection box with what is in its folder now.
 void show_file_box(Widget box);
 
-/// The path that a file selection box's callback brings.
+/// The path that a file selection box's callback brings; null for an empty one.
 Text chosen_path(XtPointer call);
 
 /// Titles a file selection box's dialog with the text of a message resource.

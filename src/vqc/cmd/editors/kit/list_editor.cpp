@@ -11,7 +11,7 @@ Widget ListEditor::list() const { return box() ? XmSelectionBoxGetChild(box(), X
 
 Widget ListEditor::name_field() const { return box() ? XmSelectionBoxGetChild(box(), XmDIALOG_TEXT) : nullptr; }
 
-void ListEditor::clear_name() const { settext(name_field(), nullptr); }
+void ListEditor::clear_name() const { settextf(name_field(), nullptr); }
 
 void list_show(Widget list, const std::vector<Text>& names) {
   std::vector<CompoundString> strings(names.begin(), names.end());
@@ -70,9 +70,21 @@ void accept_name(const ListEditor& editor, const Text& name) {
 
 void select_name(const ListEditor& editor, const Text& name) { editor.selected(name); }
 
+namespace {
+
+/// A click fills the name field, which remembers what it cannot show of the name.
+Text clicked_name(Widget field, const XmListCallbackStruct& call) {
+  Text name = text_of(call.item);
+  settextf(field, name);
+  return name;
+}
+
+}  // namespace
+
 void with_name(Widget w, XtPointer call, const ListEditor& editor, void (*action)(const ListEditor&, const Text&)) {
-  const Text name = XmIsList(w) ? text_of(static_cast<XmListCallbackStruct*>(call)->item)
-                                : text_of(static_cast<XmSelectionBoxCallbackStruct*>(call)->value);
+  Widget field = editor.name_field();
+  const Text name = XmIsList(w) ? clicked_name(field, *static_cast<XmListCallbackStruct*>(call))
+                                : undistorted(field, text_of(static_cast<XmSelectionBoxCallbackStruct*>(call)->value));
   if (name.empty()) return;
   const BusyCursor busy(w);
   action(editor, name);

@@ -1,0 +1,152 @@
+#include "gui/outside.h"
+
+#include <X11/Xatom.h>
+#include <X11/Xutil.h>
+#include <X11/extensions/XTest.h>
+#include <X11/keysym.h>
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <filesystem>
+#include <stdexcept>
+#include <thread>
+
+namespace {
+
+void pause_a_little() { std::this_thread::sleep_for(std::chrono::milliseconds(20)); }
+
+/// Starts a program whose standard error, and descriptor 3, lead to files.
+pid_t start_process(std::vector<std::string> words, const std::string& errors, const std::string& third) {
+  std::vector<char*> pointers;
+  for (std::string& word : words) pointers.push_back(word.data());
+  pointers.push_back(nullptr);
+  const pid_t process = fork();
+  if (process != 0) return process;
+  dup2(open(errors.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600), STDERR_FILENO);
+  dup2(open(third.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600), 3);
+  execvp(pointers[0], pointers.data());
+  _exit(127);
+}
+
+bool is_titled(Display* connection, Window window, const std::string& title) {
+  char* name = nullptr;
+  XWindowAttributes attributes;
+  if (!XFetchName(connection, window, &name)) return false;
+  const bool same = title == name;
+  XFree(name);
+  return same && XGetWindowAttributes(connection, window, &attributes) && attributes.map_state == IsViewable;
+}
+
+Window window_titled(Display* connection, const std::string& title) {
+  Window root = None;
+  Window parent = None;
+  Window* children = nullptr;
+  unsigned count = 0;
+  Window found = None;
+  XQueryTree(connection, DefaultRootWindow(connection), &root, &parent, &children, &count);
+  for (unsigned i = 0; i < count; ++i) {
+    if (is_titled(connection, children[i], title)) found = children[i];
+  }
+  if (children) XFree(children);
+  return found;
+}
+
+}  // namespace
+
+bool wait_until_true(const std::function<bool()>& condition) {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+  while (!condition()) {
+    if (std::chrono::steady_clock::now() > end) return false;
+    pause_a_little();
+  }
+  return true;
+}
+
+RunningProgram::RunningProgram(std::vector<std::string> words, const std::string& display_name) {
+  words.insert(words.begin(), {"env", "DISPLAY=" + display_name, VQCONFIG_PROGRAM});
+  process_ = start_process(words, streams_ / "err", "/dev/null");
+}
+
+RunningProgram::~RunningProgram() {
+  if (is_running()) {
+    kill(process_, SIGKILL);
+    waitpid(process_, nullptr, 0);
+  }
+}
+
+bool RunningProgram::is_running() {
+  if (process_ == 0) return false;
+  if (waitpid(process_, &status_, WNOHANG) != process_) return true;
+  process_ = 0;
+  return false;
+}
+
+int RunningProgram::wait() {
+  if (!wait_until_true([this] { return !is_running(); })) return -2;
+  return WIFEXITED(status_) ? WEXITSTATUS(status_) : -1;
+}
+
+std::string RunningProgram::errors() const { return read_file(streams_ / "err"); }
+
+OtherDisplay::OtherDisplay() {
+  const std::string number = folder_ / "display";
+  server_ = start_process({"Xvfb", "-displayfd", "3", "-screen", "0", "1024x768x24", "-nolisten", "tcp"}, "/dev/null",
+                          number);
+  wait_until_true([&] { return std::filesystem::exists(number) && read_file(number).ends_with('\n'); });
+  name_ = ":" + read_file(number);
+  name_.pop_back();
+  connection_ = XOpenDisplay(name_.c_str());
+  if (!connection_) throw std::runtime_error("there is no display " + name_);
+  XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });  // windows may go while they are looked at
+}
+
+OtherDisplay::~OtherDisplay() { lose(); }
+
+Window OtherDisplay::wait_for_window(const std::string& title) {
+  Window window = None;
+  wait_until_true([&] { return (window = window_titled(connection_, title)) != None; });
+  return window;
+}
+
+void OtherDisplay::focus(const std::string& title) {
+  const Window window = wait_for_window(title);
+  XSetInputFocus(connection_, window, RevertToParent, CurrentTime);
+  XTestFakeMotionEvent(connection_, -1, 0, 0, CurrentTime);
+  XSync(connection_, False);
+}
+
+void OtherDisplay::type(const std::string& text) {
+  for (char c : text) key(std::string(1, c).c_str());
+}
+
+void OtherDisplay::key(const char* name, bool with_control) {
+  const KeyCode code = XKeysymToKeycode(connection_, XStringToKeysym(name));
+  const KeyCode control = XKeysymToKeycode(connection_, XK_Control_L);
+  if (with_control) XTestFakeKeyEvent(connection_, control, True, CurrentTime);
+  XTestFakeKeyEvent(connection_, code, True, CurrentTime);
+  XTestFakeKeyEvent(connection_, code, False, CurrentTime);
+  if (with_control) XTestFakeKeyEvent(connection_, control, False, CurrentTime);
+  XSync(connection_, False);
+}
+
+void OtherDisplay::close(Window window) {
+  XEvent event{};
+  event.xclient.type = ClientMessage;
+  event.xclient.window = window;
+  event.xclient.message_type = XInternAtom(connection_, "WM_PROTOCOLS", False);
+  event.xclient.format = 32;
+  event.xclient.data.l[0] = static_cast<long>(XInternAtom(connection_, "WM_DELETE_WINDOW", False));
+  XSendEvent(connection_, window, False, NoEventMask, &event);
+  XSync(connection_, False);
+}
+
+void OtherDisplay::lose() {
+  if (server_ == 0) return;
+  XCloseDisplay(connection_);
+  kill(server_, SIGTERM);
+  waitpid(server_, nullptr, 0);
+  server_ = 0;
+}

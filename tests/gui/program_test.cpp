@@ -1,0 +1,72 @@
+#include "gui/session.h"
+
+#include "gui/outside.h"
+
+// The program itself, as a process of its own, driven by its windows and the keyboard.
+
+namespace {
+
+const char athena[] = "VQconfig\nfamily 'Athena' {\n}\n";
+
+class Program : public testing::Test {
+ protected:
+  TemporaryFolder folder;
+  OtherDisplay screen;
+};
+
+TEST_F(Program, OpensTheDocumentAndEndsWhenItsWindowIsClosed) {
+  RunningProgram program({folder.with("athena.vqc", athena)}, screen.name());
+  const Window window = screen.wait_for_window("vqconfig: athena.vqc");
+  ASSERT_NE(0u, window);
+  screen.close(window);
+  EXPECT_EQ(0, program.wait());
+  EXPECT_EQ("", program.errors());
+}
+
+TEST_F(Program, SavesByKeyboardAndEndsWithoutAQuestion) {
+  RunningProgram program({folder.with("athena.vqc", athena)}, screen.name());
+  ASSERT_NE(0u, screen.wait_for_window("vqconfig: athena.vqc"));
+  screen.focus("vqconfig: athena.vqc");
+  screen.type("demo");
+  screen.key("Return");
+  screen.key("s", true);
+  EXPECT_TRUE(
+      wait_until_true([&] { return read_file(folder / "athena.vqc").find("family 'demo' {\n") != std::string::npos; }));
+  screen.key("q", true);
+  EXPECT_EQ(0, program.wait());
+  EXPECT_EQ("", program.errors());
+}
+
+TEST_F(Program, AsksWhenItIsClosedWithChanges) {
+  RunningProgram program({folder.with("athena.vqc", athena)}, screen.name());
+  const Window window = screen.wait_for_window("vqconfig: athena.vqc");
+  ASSERT_NE(0u, window);
+  screen.focus("vqconfig: athena.vqc");
+  screen.type("demo");
+  screen.key("Return");
+  screen.close(window);
+  ASSERT_NE(0u, screen.wait_for_window("Save Changes"));
+  EXPECT_TRUE(program.is_running());
+  screen.focus("Save Changes");
+  screen.key("Return");
+  EXPECT_EQ(0, program.wait());
+  EXPECT_NE(std::string::npos, read_file(folder / "athena.vqc").find("family 'demo' {\n"));
+  EXPECT_EQ("", program.errors());
+}
+
+TEST_F(Program, EndsWithAMessageWhenItsDisplayIsLost) {
+  RunningProgram program({folder.with("athena.vqc", athena)}, screen.name());
+  ASSERT_NE(0u, screen.wait_for_window("vqconfig: athena.vqc"));
+  screen.lose();
+  EXPECT_NE(0, program.wait());
+  EXPECT_NE("", program.errors());
+  EXPECT_EQ(athena, read_file(folder / "athena.vqc"));
+}
+
+TEST_F(Program, WithoutADisplayItSaysSo) {
+  RunningProgram program({}, ":999999");
+  EXPECT_EQ(255, program.wait());
+  EXPECT_EQ(std::string(VQCONFIG_PROGRAM) + ": cannot open display. Exiting...\n", program.errors());
+}
+
+}  // namespace
