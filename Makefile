@@ -56,6 +56,7 @@ screenshots: all
 
 install: all
 	DESTDIR=$(DESTDIR) cmake --install $(RELEASE) --prefix $(PREFIX)
+	@[ -n "$(DESTDIR)" ] || scripts/tell-desktop $(PREFIX)/share
 
 format:
 	@scripts/install-packages lint

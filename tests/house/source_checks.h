@@ -21,7 +21,7 @@ inline const std::vector<Layer>& layers() {
   static const std::vector<Layer> all = {
       {"libkel/", {}},
       {"help/client/", {"libkel/"}},
-      {"help/viewer/", {}},
+      {"help/viewer/", {"libkel/"}},
       {"vqc/cmd/model/", {"libkel/"}},
       {"vqc/cmd/savefile/", {"libkel/", "vqc/cmd/model/"}},
       {"vqc/cmd/generate/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/"}},

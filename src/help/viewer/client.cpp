@@ -1,0 +1,93 @@
+#include "help/viewer/client.h"
+
+#include <X11/Xatom.h>
+
+#include <cstring>
+#include <memory>
+#include <string_view>
+
+namespace {
+
+constexpr std::string_view QUIT = "*** QUIT HELP SYSTEM";
+constexpr long LONGEST = 1 << 16;  // request, in units of four bytes
+
+Display* display = nullptr;
+Window viewer = None;
+Window client = None;  // None when there is none to serve
+RequestHandlers handlers;
+XErrorHandler other_errors = nullptr;
+
+Atom announcement() { return XInternAtom(display, "VQHELP_WIN", False); }
+Atom request() { return XInternAtom(display, "VQHELP_DEST", False); }
+
+/// The client may go at any time, and its window with it.
+int forget_client(Display* where, XErrorEvent* error) {
+  if (error->error_code != BadWindow || error->resourceid != client) return other_errors(where, error);
+  client = None;
+  return 0;
+}
+
+struct XDeleter {
+  void operator()(unsigned char* data) const { XFree(data); }
+};
+using XData = std::unique_ptr<unsigned char, XDeleter>;
+
+/// A property of a window as the server has it, in units of `format` bits; null when it is not of that kind.
+XData property(Window window, Atom name, Atom type, int format) {
+  Atom found_type = None;
+  int found_format = 0;
+  unsigned long count = 0;
+  unsigned long rest = 0;
+  unsigned char* data = nullptr;
+  const int status = XGetWindowProperty(display, window, name, 0, LONGEST, False, type, &found_type, &found_format,
+                                        &count, &rest, &data);
+  XData result(data);
+  const bool sound = status == Success && found_type == type && found_format == format && count > 0;
+  return sound ? std::move(result) : nullptr;
+}
+
+void take_request(Widget, XtPointer, XEvent* event, Boolean*) {
+  if (event->type != PropertyNotify || event->xproperty.atom != request()) return;
+  if (event->xproperty.state != PropertyNewValue) return;
+  const XData text = property(viewer, request(), XA_STRING, 8);  // Xlib ends it with a NUL of its own
+  if (!text) return;
+  const std::string words = reinterpret_cast<const char*>(text.get());
+  if (words == QUIT) return handlers.quit();
+  handlers.show(words);
+}
+
+/// Whether the client still takes this viewer for its own.
+bool is_announced() {
+  const XData data = property(client, announcement(), XA_WINDOW, 32);
+  Window announced = None;
+  if (data) std::memcpy(&announced, data.get(), sizeof announced);
+  return announced == viewer;
+}
+
+}  // namespace
+
+bool serve_client(Widget shell, Window window, const RequestHandlers& what_to_do) {
+  display = XtDisplay(shell);
+  viewer = XtWindow(shell);
+  client = window;
+  handlers = what_to_do;
+  other_errors = XSetErrorHandler(forget_client);
+  XtAddEventHandler(shell, PropertyChangeMask, False, take_request, nullptr);
+  XSelectInput(display, client, StructureNotifyMask);
+  XChangeProperty(display, client, announcement(), XA_WINDOW, 32, PropModeReplace,
+                  reinterpret_cast<const unsigned char*>(&viewer), 1);
+  XSync(display, False);
+  return client != None;
+}
+
+void leave_client() {
+  if (client == None) return;
+  if (is_announced()) XDeleteProperty(display, client, announcement());
+  XSync(display, False);
+}
+
+void watch_client(const XEvent& event) {
+  if (client == None || event.type != DestroyNotify || event.xdestroywindow.window != client) return;
+  client = None;
+  handlers.quit();
+}

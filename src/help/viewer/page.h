@@ -1,0 +1,24 @@
+#ifndef HELP_VIEWER_PAGE_H
+#define HELP_VIEWER_PAGE_H
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// A page made ready for the HTML widget, which stands no other: UTF-8 with no entities but those for "&", "<" and
+/// ">", well-formed, of the elements that the widget shows as text.
+struct Page {
+  std::string title;
+  std::string html;
+  std::vector<std::string> links;   // a link to the n-th of these has the address "n"
+  std::vector<std::string> places;  // the n-th of these is marked by the anchor "n"
+};
+
+/// The page that a file holds; nothing when it is not HTML.
+std::optional<Page> page_of(std::string_view bytes);
+
+/// A page of one sentence.
+Page page_saying(std::string_view title, std::string_view sentence);
+
+#endif

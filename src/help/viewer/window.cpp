@@ -1,0 +1,182 @@
+#include "help/viewer/window.h"
+
+#include <X11/Xatom.h>
+#include <X11/Xutil.h>
+#include <Xm/Form.h>
+#include <Xm/Label.h>
+#include <Xm/Protocols.h>
+#include <Xm/PushB.h>
+#include <Xm/TextF.h>
+#include <Xm/Xm.h>
+#include <XmHTML/XmHTML.h>
+
+#include "help/viewer/viewer.h"
+
+namespace {
+
+/// One widget: all of Motif's creators look alike.
+struct WidgetRow {
+  const char* name;
+  Widget (*create)(Widget parent, char* name, ArgList arguments, Cardinal count);
+  const char* parent;  // the name of a row above; null for the shell
+  XtCallbackProc activated = nullptr;
+  Widget HelpWindow::*place = nullptr;
+};
+
+const WidgetRow rows[] = {
+    {"help_form", XmCreateForm, nullptr},
+    {"help_buttons", XmCreateForm, "help_form"},
+    {"help_back", XmCreatePushButton, "help_buttons", go_back, &HelpWindow::back},
+    {"help_forward", XmCreatePushButton, "help_buttons", go_forward, &HelpWindow::forward},
+    {"help_contents", XmCreatePushButton, "help_buttons", go_to_contents},
+    {"help_smaller", XmCreatePushButton, "help_buttons", make_smaller},
+    {"help_normal", XmCreatePushButton, "help_buttons", make_normal},
+    {"help_larger", XmCreatePushButton, "help_buttons", make_larger},
+    {"help_close", XmCreatePushButton, "help_buttons", close_window},
+    {"help_bottom", XmCreateForm, "help_form"},
+    {"help_find_label", XmCreateLabel, "help_bottom"},
+    {"help_find", XmCreateTextField, "help_bottom", find_next, &HelpWindow::find},
+    {"help_find_next", XmCreatePushButton, "help_bottom", find_next},
+    {"help_status", XmCreateLabel, "help_bottom", nullptr, &HelpWindow::status},
+};
+
+/// The HTML widget works in no window but one that is there already.
+const WidgetRow page_row = {"help_page", XmCreateHTML, "help_form", follow_link, &HelpWindow::page};
+
+Widget find_widget(const char* name) { return XtNameToWidget(window.shell, (std::string("*") + name).c_str()); }
+
+void make(const WidgetRow& row) {
+  Widget parent = row.parent ? find_widget(row.parent) : window.shell;
+  Widget w = row.create(parent, const_cast<char*>(row.name), nullptr, 0);
+  if (row.activated) XtAddCallback(w, XmNactivateCallback, row.activated, nullptr);
+  if (row.place) window.*row.place = w;
+  XtManageChild(w);
+}
+
+void focus_on_find(Widget, XEvent*, String*, Cardinal*) {
+  XmProcessTraversal(window.find, XmTRAVERSE_CURRENT);
+  XmTextFieldSetSelection(window.find, 0, XmTextFieldGetLastPosition(window.find),
+                          XtLastTimestampProcessed(XtDisplay(window.find)));
+}
+
+void register_actions() {
+  XtActionsRec actions[] = {{const_cast<char*>("focus-on-find"), focus_on_find},
+                            {const_cast<char*>("end-find"), end_find}};
+  XtAppAddActions(XtWidgetToApplicationContext(window.shell), actions, XtNumber(actions));
+}
+
+Widget work_window() {
+  Widget w = nullptr;
+  XtVaGetValues(window.page, XmNworkWindow, &w, nullptr);
+  return w;
+}
+
+void has_scrolled(Widget, XtPointer, XtPointer) { repaint_page(); }
+
+void repaint_after_scrolling() {
+  Widget bar = nullptr;
+  XtVaGetValues(window.page, XmNverticalScrollBar, &bar, nullptr);
+  XtAddCallback(bar, XmNvalueChangedCallback, has_scrolled, nullptr);
+  XtAddCallback(bar, XmNdragCallback, has_scrolled, nullptr);
+}
+
+/// Gives `w` the keys of the resource `keys` of `owner`. They come before those of the buttons, and the HTML widget
+/// takes no others from a resource file.
+void add_keys(Widget owner, Widget w) {
+  XtTranslations keys = nullptr;
+  XtResource resource = {const_cast<char*>("keys"),
+                         const_cast<char*>("Keys"),
+                         const_cast<char*>(XtRTranslationTable),
+                         sizeof(XtPointer),
+                         0,
+                         const_cast<char*>(XtRImmediate),
+                         nullptr};
+  XtGetApplicationResources(owner, &keys, &resource, 1, nullptr, 0);
+  if (keys) XtOverrideTranslations(w, keys);
+}
+
+/// Lets the keys of the buttons work wherever the keyboard is.
+void install_keys(Widget w) {
+  if (!XtIsShell(w)) XtInstallAllAccelerators(w, window.shell);
+  if (!XtIsComposite(w)) return;
+  WidgetList children = nullptr;
+  Cardinal count = 0;
+  XtVaGetValues(w, XmNchildren, &children, XmNnumChildren, &count, nullptr);
+  for (Cardinal i = 0; i < count; ++i) install_keys(children[i]);
+}
+
+/// Tells the window manager to bring the window to the front, where raising alone does not.
+void ask_for_attention() {
+  Display* display = XtDisplay(window.shell);
+  XEvent event{};
+  event.xclient.type = ClientMessage;
+  event.xclient.window = XtWindow(window.shell);
+  event.xclient.message_type = XInternAtom(display, "_NET_ACTIVE_WINDOW", False);
+  event.xclient.format = 32;
+  event.xclient.data.l[0] = 1;  // it is an application that asks
+  event.xclient.data.l[1] = static_cast<long>(XtLastTimestampProcessed(display));
+  XSendEvent(display, RootWindowOfScreen(XtScreen(window.shell)), False,
+             SubstructureNotifyMask | SubstructureRedirectMask, &event);
+}
+
+}  // namespace
+
+void make_window(Display* display) {
+  window.shell = XtVaAppCreateShell(nullptr, "Vqhelp", applicationShellWidgetClass, display, XmNmappedWhenManaged,
+                                    False, XmNdeleteResponse, XmDO_NOTHING, nullptr);
+  register_actions();
+  for (const WidgetRow& row : rows) make(row);
+  XtRealizeWidget(window.shell);
+  make(page_row);
+  XtAddCallback(window.page, XmNanchorTrackCallback, show_link, nullptr);
+  XtAddCallback(window.find, XmNvalueChangedCallback, find_as_typed, nullptr);
+  const Atom close = XInternAtom(display, "WM_DELETE_WINDOW", False);
+  XmAddWMProtocolCallback(window.shell, close, close_window, nullptr);
+  repaint_after_scrolling();
+  install_keys(window.shell);
+  add_keys(window.page, work_window());
+  add_keys(window.find, window.find);
+}
+
+void show_window() {
+  Display* display = XtDisplay(window.shell);
+  XMapRaised(display, XtWindow(window.shell));
+  ask_for_attention();
+}
+
+void repaint_page() {
+  Widget w = work_window();
+  XClearArea(XtDisplay(w), XtWindow(w), 0, 0, 0, 0, True);
+}
+
+void focus_on_page() { XmProcessTraversal(work_window(), XmTRAVERSE_CURRENT); }
+
+void set_title(const std::string& title) {
+  Display* display = XtDisplay(window.shell);
+  const Atom utf8 = XInternAtom(display, "UTF8_STRING", False);
+  for (const char* property : {"_NET_WM_NAME", "_NET_WM_ICON_NAME"}) {
+    XChangeProperty(display, XtWindow(window.shell), XInternAtom(display, property, False), utf8, 8, PropModeReplace,
+                    reinterpret_cast<const unsigned char*>(title.data()), static_cast<int>(title.size()));
+  }
+  char* text = const_cast<char*>(title.c_str());
+  XTextProperty name{};
+  if (Xutf8TextListToTextProperty(display, &text, 1, XStdICCTextStyle, &name) < 0) return;
+  XSetWMName(display, XtWindow(window.shell), &name);
+  XSetWMIconName(display, XtWindow(window.shell), &name);
+  XFree(name.value);
+}
+
+void set_status(const std::string& message) {
+  XmString text = XmStringCreateLocalized(const_cast<char*>(message.c_str()));
+  XtVaSetValues(window.status, XmNlabelString, text, nullptr);
+  XmStringFree(text);
+}
+
+std::string text_named(const char* name) {
+  char* text = nullptr;
+  XtResource resource = {
+      const_cast<char*>(name),      const_cast<char*>(XtCString), const_cast<char*>(XtRString), sizeof(char*), 0,
+      const_cast<char*>(XtRString), const_cast<char*>(name)};
+  XtGetApplicationResources(window.shell, &text, &resource, 1, nullptr, 0);
+  return text;
+}
