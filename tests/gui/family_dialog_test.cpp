@@ -152,11 +152,10 @@ TEST_F(FamilyInit, ApplyStoresAndLeavesTheDocumentClean) {
   click("familyinit_applyb");
   EXPECT_FALSE(dirty);
   EXPECT_TRUE(is_shown("entity_dialog"));
-  EXPECT_TRUE(
-      saved_item("family 'C'")
-          .starts_with(
-              "family 'C' {\n\tfamily_init='c_init'\n\tgenerate_family_init_code=False\n\tgenerate_family_init_stub=True\n"
-              "\tgenerate_family_init_vq=False\n\tgenerate_family_init_pre_shell=True\n"));
+  EXPECT_TRUE(saved_item("family 'C'")
+                  .starts_with("family 'C' {\n\tfamily_init='c_init'\n\tgenerate_family_init_code=False\n"
+                               "\tgenerate_family_init_stub=True\n"
+                               "\tgenerate_family_init_vq=False\n\tgenerate_family_init_pre_shell=True\n"));
 }
 
 TEST_F(FamilyInit, AChangedDocumentStaysChanged) {

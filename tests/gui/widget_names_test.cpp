@@ -16,7 +16,8 @@
 namespace {
 
 const char document[] =
-    "VQconfig\nwidget 'W' {\n}\nenumeration 'E' {\nenumentry 'e' {\n}\n}\nfamily 'F' {\nwidget='W'\nenumeration='E'\n}\n";
+    "VQconfig\nwidget 'W' {\n}\nenumeration 'E' {\nenumentry 'e' {\n}\n}\n"
+    "family 'F' {\nwidget='W'\nenumeration='E'\n}\n";
 
 class WidgetNames : public Session {
  protected:
