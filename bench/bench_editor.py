@@ -2,8 +2,9 @@
 """Measures what a user of the editor waits for: its start beside that of a Motif program with one label, and single
 actions on documents of two sizes. Needs a display (make bench gives it one of its own).
 
-Every figure is the median of several runs; programs that are compared take turns. The exit status tells whether the
-programs worked, not whether targets were met.
+Starts are means of many runs, since each takes but a few ticks of the system's clock, and the programs that are
+compared take turns; actions are medians. The exit status tells whether the programs worked, not whether targets were
+met.
 """
 
 import argparse
@@ -55,11 +56,11 @@ def report_start(tools, folder, rounds):
     for _ in range(rounds):
         for name, command in programs.items():
             taken[name].append(run(command))
-    label = [statistics.median(column) for column in zip(*taken["label"])]
+    label = [statistics.mean(column) for column in zip(*taken["label"])]
     print("Start until the main window is mapped and filled, times what a Motif program with one label takes")
     for name, most in MOST_OVER_LABEL.items():
         for kind, column, base in zip(("CPU", "elapsed"), zip(*taken[name]), label):
-            ratio = statistics.median(column) / base
+            ratio = statistics.mean(column) / base
             print(f"  with {name}: {kind:<8} {ratio:5.2f}  {verdict(ratio, most)}")
 
 
@@ -87,8 +88,8 @@ def report_actions(tools, folder, rounds):
         for size, counts in SIZES.items()
     }
     families, widgets, in_largest = SIZES["whole"]
-    print(f"\nActions with {families} families, {widgets} widgets and {in_largest} in one family, in milliseconds of CPU time")
-    print("  (beside it a tenth of all that)")
+    print(f"\nActions with {families} families, {widgets} widgets and {in_largest} in one family,")
+    print("in milliseconds of CPU time (beside it a tenth of all that)")
     for action, whole in by_size["whole"].items():
         name = action.replace("_", " ")
         tenth = by_size["tenth"][action]
@@ -99,7 +100,7 @@ def report_actions(tools, folder, rounds):
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--tools", type=Path, required=True, help="the build folder")
-    parser.add_argument("--rounds", type=int, default=11)
+    parser.add_argument("--rounds", type=int, default=41)
     options = parser.parse_args()
     with tempfile.TemporaryDirectory() as folder:
         report_start(options.tools, Path(folder), options.rounds)
