@@ -60,7 +60,8 @@ Wishes wishes(int argc, char** argv) {
 
 /// The contents of the help pages in the user's language.
 std::string contents_page(Display* display) {
-  std::string root = std::getenv("VQROOT");
+  const char* set_root = std::getenv("VQROOT");
+  std::string root = set_root ? set_root : "";
   SubstitutionRec substitution = {'R', root.data()};
   char* found = XtResolvePathname(display, "help", "entry", ".html", HELP_PATH, &substitution, 1, nullptr);
   std::string file = found ? found : root + "/lib/locale/C/help/entry.html";
