@@ -24,8 +24,8 @@ std::string filled(const char* format, std::initializer_list<MessageArgument> ar
   std::string result;
   const MessageArgument* argument = arguments.begin();
   for (const char* p = format; *p; ++p) {
-    const bool placeholder = *p == '%' && (p[1] == 's' || p[1] == 'd');
-    if (!placeholder) {
+    const bool place = *p == '%' && (p[1] == 's' || p[1] == 'd');
+    if (!place) {
       result += *p;
       if (*p == '%' && p[1] == '%') ++p;
       continue;
