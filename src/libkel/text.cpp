@@ -72,7 +72,7 @@ class Text::Table {
   }
 
  private:
-  struct Slot {
+  struct [[gnu::packed]] Slot {  // there are as many as texts, and up to twice that while they double
     Shared* text;
     std::uint32_t hash;
   };

@@ -245,7 +245,7 @@ TYPED_TEST(OrderedListTest, IsTheSameAsThePlainestListWhateverIsDone) {
   PlainList plain(TypeParam::row.sorted);
   std::mt19937 random(7);
   for (int step = 0; step < 3000; ++step) {
-    const std::string name = "n" + std::to_string(random() % 40);
+    const std::string name = "n" + std::to_string(random() % 120);
     if (random() % 2) {
       EXPECT_EQ(plain.add(name) ? 0 : TypeParam::row.duplicate, TypeParam::add(name.c_str()));
     } else {
@@ -433,7 +433,7 @@ TYPED_TEST(MoveTest, IsTheSameAsInThePlainestListWhateverIsDone) {
   for (const char* name : {"a", "b", "c"}) plain.add(name);
   std::mt19937 random(11);
   for (int step = 0; step < 4000; ++step) {
-    const std::string name = "n" + std::to_string(random() % 30);
+    const std::string name = "n" + std::to_string(random() % 120);
     switch (random() % 5) {
       case 0:
       case 1:

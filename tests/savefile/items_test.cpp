@@ -252,6 +252,45 @@ TEST_F(ReadResources, TakesTheLongFormWithNothingGiven) {
   EXPECT_EQ(-1, resource("r").access);
 }
 
+TEST_F(ReadResources, GivesTheUsualValuesToAResourceThatHadOthers) {
+  define("'r', 'P', 'settings', False, VQC_FREE, VQC_DONT_FREE access 5 counter 'n';");
+  define("'r', , 'misc', True, VQC_FREE_DEFAULT, VQC_FREE_DEFAULT access 6 counter 'm', 's', , , False;");
+  EXPECT_STREQ("P", resource("r").popup);
+  EXPECT_STREQ("misc", resource("r").page);
+  EXPECT_TRUE(resource("r").visible);
+  EXPECT_EQ(FreeMode::by_default, resource("r").free_get);
+  EXPECT_EQ(FreeMode::by_default, resource("r").free_set);
+  EXPECT_EQ(6, resource("r").access);
+  EXPECT_STREQ("m", resource("r").counter);
+  EXPECT_EQ((Names{"r", "s"}), resources());
+}
+
+TEST_F(ReadResources, TakesAnySpaceBetweenTheWords) {
+  for (const std::string space : {"", " ", "  ", "\t", "\n", "/* */", "! a\n"}) {
+    const std::string comma = space + "," + space;
+    define("'r', , , False, VQC_FREE, VQC_FREE;");
+    define("'r'" + comma + comma + comma + "True" + comma + "VQC_FREE_DEFAULT" + comma + "VQC_FREE_DEFAULT" + space +
+           ";");
+    EXPECT_TRUE(resource("r").visible) << space;
+    EXPECT_EQ(FreeMode::by_default, resource("r").free_get) << space;
+    EXPECT_EQ(FreeMode::by_default, resource("r").free_set) << space;
+  }
+}
+
+TEST_F(ReadResources, ReadsThemAlikeWhereverTheyLieInTheFile) {
+  constexpr std::size_t kPart = std::size_t{64} * 1024;  // files are read in parts of this size
+  const std::string list = "'r', , 'misc', True, VQC_FREE_DEFAULT, VQC_FREE_DEFAULT access 2, 's', , , False;";
+  const std::string before = "VQconfig\nwidget 'W' { resource_definitions=";
+  for (std::size_t in_first_part = 0; in_first_part <= list.size(); ++in_first_part) {
+    define("'r', , , False, VQC_FREE, VQC_FREE;");
+    define(std::string(kPart - before.size() - in_first_part, ' ') + list);
+    EXPECT_TRUE(resource("r").visible) << in_first_part;
+    EXPECT_EQ(FreeMode::by_default, resource("r").free_get) << in_first_part;
+    EXPECT_EQ(FreeMode::by_default, resource("r").free_set) << in_first_part;
+    EXPECT_EQ(2, resource("r").access) << in_first_part;
+  }
+}
+
 TEST_F(ReadResources, TakesTheOlderFormWithoutFreeModes) {
   define("'s', , , True, 'r', 'P', , False;");
   EXPECT_EQ((Names{"r", "s"}), resources());

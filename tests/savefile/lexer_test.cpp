@@ -328,6 +328,37 @@ TEST_F(LexerTest, AfterClosingThereIsOnlyTheEnd) {
   }
 }
 
+// Stepping over what is known.
+
+TEST_F(LexerTest, StepsOverWhatStandsNextAsItIsSpelled) {
+  Lexer lexer = lexer_of("'a', True, False, 'b'");
+  lexer.next_token();
+  EXPECT_FALSE(lexer.skip(", False"));
+  EXPECT_FALSE(lexer.skip(" , True"));
+  EXPECT_TRUE(lexer.skip(", True, False"));
+  EXPECT_EQ("a", lexer.text());
+  EXPECT_EQ(",", described(lexer, lexer.next_token()));
+  EXPECT_EQ("string b", described(lexer, lexer.next_token()));
+}
+
+TEST_F(LexerTest, StepsOverNoPartOfAWord) {
+  for (const char* behind : {"d", "D", "4", "_", "."}) {
+    Lexer lexer = lexer_of("a bc" + std::string(behind) + " e");
+    lexer.next_token();
+    EXPECT_FALSE(lexer.skip(" bc")) << behind;
+    EXPECT_EQ("word bc" + std::string(behind), described(lexer, lexer.next_token()));
+  }
+}
+
+TEST_F(LexerTest, StepsOverNothingAtTheEnd) {
+  Lexer lexer = lexer_of("a bc");
+  lexer.next_token();
+  EXPECT_FALSE(lexer.skip(" bc "));
+  EXPECT_FALSE(lexer.skip(" bc"));  // more could follow in the next part of the file
+  lexer.next_token();
+  EXPECT_FALSE(lexer.skip("x"));
+}
+
 // Tokens that do not lie in one part of the file.
 
 const std::string kLong(2047, 'x');

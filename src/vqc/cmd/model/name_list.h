@@ -4,6 +4,7 @@
 #include <absl/container/flat_hash_set.h>
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstring>
 #include <memory>
@@ -54,8 +55,7 @@ class NameList {
     if (tail_ && name_of(*tail_) == name) return tail_;  // what has just been added is soon looked for
     if (size_ > kSearched) {
       build_index();
-      auto found = index_->find(name);
-      return found == index_->end() ? nullptr : *found;
+      return index_->find(name);
     }
     Element* element = head_;
     while (element && !(name_of(*element) == name)) element = element->next;
@@ -106,6 +106,7 @@ class NameList {
   /// Brings what was added out of order to its place: sorts it and merges it with what stands in order already.
   void settle() const {
     if (!unsettled_after_) return;
+    index_.reset();  // it can be made again, and sorting takes memory too
     std::vector<Named<Element>> late;
     late.reserve(size_);
     for (Element* each = unsettled_after_->next; each; each = each->next) late.push_back({0, each});
@@ -134,9 +135,31 @@ class NameList {
     bool operator()(const Element* a, const Element* b) const { return a == b; }
     bool operator()(const Element* a, const Text& b) const { return name_of(*a) == b; }
   };
-  using Index = absl::flat_hash_set<Element*, Hash, Equal>;
 
-  static constexpr unsigned kSearched = 8;  // up to here a search is as quick as an index
+  /// The elements by name. Names that are looked for recur soon, and so what was found last is kept at hand.
+  class Index {
+   public:
+    explicit Index(std::size_t size) { all_.reserve(size); }
+    void insert(Element* element) { all_.insert(element); }
+    void erase(Element* element) {
+      all_.erase(element);
+      recent(name_of(*element)) = nullptr;
+    }
+    Element* find(const Text& name) {
+      Element*& recent_one = recent(name);
+      if (recent_one && name_of(*recent_one) == name) return recent_one;
+      const auto found = all_.find(name);
+      return found == all_.end() ? nullptr : recent_one = *found;
+    }
+
+   private:
+    Element*& recent(const Text& name) { return recent_[name.hash() % recent_.size()]; }
+
+    absl::flat_hash_set<Element*, Hash, Equal> all_;
+    std::array<Element*, 16> recent_{};
+  };
+
+  static constexpr unsigned kSearched = 24;  // up to here a search is as quick as an index
 
   static constexpr bool doubly_linked = requires(Element element) { element.previous; };
 
@@ -159,8 +182,7 @@ class NameList {
 
   void build_index() const {
     if (index_) return;
-    index_ = std::make_unique<Index>();
-    index_->reserve(size_);
+    index_ = std::make_unique<Index>(size_);
     for (Element* each = head_; each; each = each->next) index_->insert(each);
   }
 

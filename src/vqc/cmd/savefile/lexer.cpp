@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <experimental/simd>
 #include <utility>
 
@@ -141,6 +142,15 @@ int Lexer::next_token() {
         return read_character();
     }
   }
+}
+
+bool Lexer::skip(std::string_view text) {
+  const bool buffered = static_cast<std::size_t>(end_ - next_) > text.size();
+  if (!buffered || std::memcmp(next_, text.data(), text.size()) != 0) return false;
+  const char* to = next_ + text.size();
+  if (!ends_word(*to)) return false;
+  next_ = to;
+  return true;
 }
 
 void Lexer::skip_space() {

@@ -35,6 +35,9 @@ class Lexer {
   /// Reads the next token. 0 for a character that can begin none, and for a lone "-".
   int next_token();
 
+  /// Steps over `text`, whole tokens on one line, if that stands next as it is spelled. The current token stays.
+  bool skip(std::string_view text);
+
   /// After this there is only end of input.
   void close();
 

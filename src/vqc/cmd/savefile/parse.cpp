@@ -88,7 +88,9 @@ class Reader {
   // Resources.
   bool resource_definitions(WidgetDef& widget);
   bool resource(WidgetDef& widget, bool& another);
+  bool usual_end(ResourceDef& resource);
   bool resource_tail(ResourceDef& resource, bool& another);
+  bool resource_options(ResourceDef& resource, bool& another);
   ResourceDef* named_resource(WidgetDef& widget);
   void take_optional_string(Text& value);
   bool visible(bool& flag);
@@ -405,6 +407,7 @@ bool Reader::resource(WidgetDef& widget, bool& another) {
   take_optional_string(resource->popup);
   if (!expect(',')) return false;
   take_optional_string(resource->page);
+  if (usual_end(*resource)) return resource_options(*resource, another);
   if (!expect(',') || !visible(resource->visible)) return false;
   another = false;
   if (!try_take(',')) return true;
@@ -412,10 +415,24 @@ bool Reader::resource(WidgetDef& widget, bool& another) {
   return another || resource_tail(*resource, another);
 }
 
-// tail := free-mode "," free-mode [ "access" INT ] [ "counter" STRING ]
+/// Takes what most resources of a document end with at one look, instead of word by word.
+bool Reader::usual_end(ResourceDef& resource) {
+  if (!lexer_.is(',') || !lexer_.skip(" True, VQC_FREE_DEFAULT, VQC_FREE_DEFAULT")) return false;
+  resource.visible = true;
+  resource.free_get = resource.free_set = FreeMode::by_default;
+  lexer_.next_token();
+  return true;
+}
+
+// tail := free-mode "," free-mode options
 bool Reader::resource_tail(ResourceDef& resource, bool& another) {
   if (!free_mode(resource.free_get, "se_free_get") || !expect(',')) return false;
   if (!free_mode(resource.free_set, "se_free_set")) return false;
+  return resource_options(resource, another);
+}
+
+// options := [ "access" INT ] [ "counter" STRING ]
+bool Reader::resource_options(ResourceDef& resource, bool& another) {
   if (!access(resource) || !counter(resource)) return false;
   another = try_take(',') && lexer_.is(SaveFileToken::string);
   return true;

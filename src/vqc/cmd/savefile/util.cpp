@@ -69,7 +69,8 @@ int boolout_bc(Stream* stream, bool flag, const char* keyword, bool default_flag
 }
 
 int intout(Stream* stream, int value) {
-  if (value >= 0 && value <= 9) return rawout(stream, {&"0123456789"[value], 1});  // as most numbers are
+  if (value == -1) return rawout(stream, "-1");  // as most numbers are, or else have one digit
+  if (value >= 0 && value <= 9) return rawout(stream, {&"0123456789"[value], 1});
   std::array<char, 16> digits;
   const auto end = std::to_chars(digits.begin(), digits.end(), value).ptr;
   return rawout(stream, {digits.begin(), end});
