@@ -69,6 +69,29 @@ TEST_F(Includes, HeadersInFoldersBelowAreFoundToo) {
                 "  |#include <sub/here.h>\n  |#include <sub>\n  |\n");
 }
 
+TEST_F(Includes, NothingIsFoundInAFolderThatIsNoneOrNotThere) {
+  folder.with("file", "");
+  document("family 'A' { cheader='file' cheader='none/a.h' cheader='file/b.h' cheader='none/c.h' }");
+  expect_config(heading("A") + "  |#include <none/a.h>\n  |#include <file/b.h>\n  |#include <none/c.h>\n" +
+                heading("A") + "  |#include <file>\n  |\n");
+}
+
+TEST_F(Includes, HeadersAreFoundAmongVeryManyToo) {
+  std::filesystem::create_directory(folder / "sub");
+  std::string headers;
+  std::string away;
+  std::string here;
+  for (int i = 0; i < 300; ++i) {
+    const std::string name = "sub/" + std::to_string(i) + ".h";
+    const bool exists = i % 7 == 0;
+    if (exists) folder.with(name, "");
+    headers += "cheader='" + name + "' ";
+    (exists ? here : away) += "  |#include <" + name + ">\n";
+  }
+  document("family 'A' { " + headers + "}");
+  expect_config(heading("A") + away + heading("A") + here + "  |\n");
+}
+
 TEST_F(Includes, HeadersOfBothPassesHaveAHeadingInEach) {
   folder.with("here.h", "");
   document("family 'A' { cheader='here.h' cheader='away.h' }");

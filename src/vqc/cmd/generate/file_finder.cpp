@@ -21,21 +21,25 @@ std::string lower_case(std::string_view name) {
   return result;
 }
 
+bool is_missing(const std::string& folder) {
+  return !folder.empty() && access(folder.c_str(), F_OK) != 0 && (errno == ENOENT || errno == ENOTDIR);
+}
+
 }  // namespace
 
 bool FileFinder::exists(const char* path) {
   const std::string_view leaf = leafnm(path);
   const std::string in(path, static_cast<std::size_t>(leaf.data() - path));
   Folder& folder = folders_[in];
-  if (++folder.asked == kWorthListing) list(folder, in.empty() ? "." : in.c_str());
+  if (++folder.asked == 1) folder.listed = is_missing(in);
+  if (folder.asked == kWorthListing && !folder.listed) list(folder, in.empty() ? "." : in.c_str());
   if (folder.listed && !leaf.empty() && !folder.names.contains(lower_case(leaf))) return false;
   return access(path, F_OK) == 0;
 }
 
-/// A folder that is not there lists nothing; one that cannot be read to its end counts as not listed.
+/// A folder that cannot be read to its end counts as not listed.
 void FileFinder::list(Folder& folder, const char* path) {
   const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(path), closedir);
-  folder.listed = stream || errno == ENOENT || errno == ENOTDIR;
   if (!stream) return;
   errno = 0;
   while (const dirent* file = readdir(stream.get())) folder.names.insert(lower_case(file->d_name));

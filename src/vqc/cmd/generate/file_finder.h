@@ -15,7 +15,7 @@ class FileFinder {
  private:
   struct Folder {
     int asked = 0;                          // names so far
-    bool listed = false;                    // otherwise every name has to be asked for
+    bool listed = false;                    // all that is in it is in `names`; otherwise every name is asked for
     std::unordered_set<std::string> names;  // in lower case, which some file systems do not tell from upper case
   };
 
