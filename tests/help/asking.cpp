@@ -5,7 +5,6 @@
 #include <X11/Xatom.h>
 
 #include <cstdlib>
-#include <cstring>
 #include <sstream>
 
 Asking::Asking(const std::string& name) : root(folder / name) {
@@ -38,20 +37,6 @@ std::vector<std::string> Asking::lines_of(const std::string& note) const {
   std::istringstream text(read_file(file));
   for (std::string line; std::getline(text, line);) lines.push_back(line);
   return lines;
-}
-
-Window announced_on(Window client) {
-  Atom type = None;
-  int format = 0;
-  unsigned long count = 0;
-  unsigned long rest = 0;
-  unsigned char* data = nullptr;
-  XGetWindowProperty(display, client, XInternAtom(display, "VQHELP_WIN", False), 0, 1, False, XA_WINDOW, &type, &format,
-                     &count, &rest, &data);
-  Window viewer = None;
-  if (data && count == 1) std::memcpy(&viewer, data, sizeof viewer);
-  if (data) XFree(data);
-  return viewer;
 }
 
 void announce(Display* by, Window viewer, Window client) {

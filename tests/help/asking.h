@@ -27,9 +27,7 @@ class Asking : public Desk {
   Widget shell = nullptr;
 };
 
-/// The window that is announced on the window of `client`; None when there is none.
-Window announced_on(Window client);
-/// Announces a window there.
+/// Announces a window on that of its client.
 void announce(Display* by, Window viewer, Window client);
 
 #endif

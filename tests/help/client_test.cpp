@@ -210,9 +210,10 @@ TEST_F(HelpClient, TellsAViewerThatIsStartingToQuit) {
   EXPECT_TRUE(wait_for([&] { return viewer.request() == with_nul(quit_command); }));
 }
 
-TEST_F(HelpClient, NeedsAWindow) {
+TEST_F(HelpClient, NeedsAWindowAndARequest) {
   install_fake();
   EXPECT_EQ(-1, VQHelp(nullptr, "/a.html"));
+  EXPECT_EQ(-1, VQHelp(shell, nullptr));
   Widget other = XtVaAppCreateShell(nullptr, "Asking", applicationShellWidgetClass, display, nullptr);
   EXPECT_EQ(-1, VQHelp(other, "/a.html"));
   settle();

@@ -2,14 +2,11 @@
 
 #include <X11/StringDefs.h>
 #include <X11/XKBlib.h>
-#include <X11/Xatom.h>
-#include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
 #include <X11/keysym.h>
 #include <poll.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -61,38 +58,13 @@ bool needs_shift(KeySym symbol) {
   return XkbKeycodeToKeysym(display, XKeysymToKeycode(display, symbol), 0, 0) != symbol;
 }
 
-std::vector<Window> children_of(Window window) {
-  Window root = None;
-  Window parent = None;
-  Window* children = nullptr;
-  unsigned count = 0;
-  if (!XQueryTree(display, window, &root, &parent, &children, &count) || !children) return {};
-  const std::vector<Window> result(children, children + count);
-  XFree(children);
-  return result;
-}
-
 /// The window at `top` or below it that has that title.
 Window titled(const std::string& title, Window top) {
   if (title_of(top) == title) return top;
-  for (Window child : children_of(top)) {
+  for (Window child : relatives(display, top).children) {
     if (const Window found = titled(title, child); found != None) return found;
   }
   return None;
-}
-
-/// The window that is a child of the root and holds this one.
-Window frame_of(Window window) {
-  Window root = None;
-  Window parent = window;
-  while (parent != root) {
-    window = parent;
-    Window* children = nullptr;
-    unsigned count = 0;
-    if (!XQueryTree(display, window, &root, &parent, &children, &count)) return None;
-    if (children) XFree(children);
-  }
-  return window;
 }
 
 }  // namespace
@@ -136,39 +108,13 @@ void settle() {
   }
 }
 
-std::string property(Window window, const char* name) {
-  Atom type = None;
-  int format = 0;
-  unsigned long count = 0;
-  unsigned long rest = 0;
-  unsigned char* data = nullptr;
-  const int status = XGetWindowProperty(display, window, XInternAtom(display, name, False), 0, 4096, False,
-                                        AnyPropertyType, &type, &format, &count, &rest, &data);
-  const bool sound = status == Success && format == 8;
-  const std::string text = sound ? std::string(reinterpret_cast<const char*>(data), count) : "";
-  if (data) XFree(data);
-  return text;
-}
-
-std::string title_of(Window window) { return property(window, "_NET_WM_NAME"); }
-
 Window window_titled(const std::string& title) { return titled(title, DefaultRootWindow(display)); }
-
-bool is_viewable(Window window) {
-  XWindowAttributes attributes{};
-  return XGetWindowAttributes(display, window, &attributes) != 0 && attributes.map_state == IsViewable;
-}
-
-bool is_above(Window upper, Window lower) {
-  const std::vector<Window> frames = children_of(DefaultRootWindow(display));
-  return std::ranges::find(frames, frame_of(upper)) > std::ranges::find(frames, frame_of(lower));
-}
 
 bool has_keyboard(Window window) {
   Window focus = None;
   int revert = 0;
   XGetInputFocus(display, &focus, &revert);
-  return focus > PointerRoot && frame_of(focus) == frame_of(window);
+  return focus > PointerRoot && frame_of(display, focus) == frame_of(display, window);
 }
 
 void key(const std::string& combination) {
@@ -207,13 +153,6 @@ void click(Window window, int x, int y) {
 }
 
 void close_by_manager(Window window) {
-  XEvent event{};
-  event.xclient.type = ClientMessage;
-  event.xclient.window = window;
-  event.xclient.message_type = XInternAtom(display, "WM_PROTOCOLS", False);
-  event.xclient.format = 32;
-  event.xclient.data.l[0] = static_cast<long>(XInternAtom(display, "WM_DELETE_WINDOW", False));
-  event.xclient.data.l[1] = CurrentTime;
-  XSendEvent(display, window, False, NoEventMask, &event);
+  close_by_manager(display, window);
   settle();
 }

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "support/files.h"
+#include "support/windows.h"
 
 /// A test with a connection to the display, in a folder of its own. Fails when the toolkit prints a warning.
 class Desk : public testing::Test {
@@ -32,16 +33,14 @@ bool wait_for(const std::function<bool()>& condition);
 /// Serves it until nothing more happens.
 void settle();
 
-/// What a property of a window holds; "" when there is none. Of format 8 only.
-std::string property(Window window, const char* name);
-/// The title of a window.
-std::string title_of(Window window);
+// The windows of this display.
+inline std::string property(Window window, const char* name) { return property(display, window, name); }
+inline std::string title_of(Window window) { return title_of(display, window); }
+inline Window announced_on(Window client) { return announced_on(display, client); }
+inline bool is_viewable(Window window) { return is_viewable(display, window); }
+inline bool is_above(Window upper, Window lower) { return is_above(display, upper, lower); }
 /// The window of that title, whoever it belongs to; None when there is none.
 Window window_titled(const std::string& title);
-/// Whether a window is on the screen.
-bool is_viewable(Window window);
-/// Whether a window is above another, with the frames that the window manager has put them in.
-bool is_above(Window upper, Window lower);
 
 /// Whether a window, or one in it, has the keyboard.
 bool has_keyboard(Window window);

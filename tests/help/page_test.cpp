@@ -64,7 +64,7 @@ TEST(Page, ClosesWhatIsOpen) {
 }
 
 TEST(Page, ClosesWhatEndsByItself) {
-  EXPECT_EQ("<p>a</p><p>b</p><h1>c</h1><hr>d", body("<p>a<p>b<h1>c<hr>d"));
+  EXPECT_EQ("<p>a</p><p>b</p><h1>c</h1><p></p><hr>d", body("<p>a<p>b<h1>c<hr>d"));
   EXPECT_EQ("<ul><li>a</li><li>b<ul><li>c</li></ul></li><li>d</li></ul>",
             body("<ul><li>a<li>b<ul><li>c</ul><li>d</ul>"));
   EXPECT_EQ("<dl><dt>a</dt><dd>b</dd><dt>c</dt><dd>d</dd></dl>", body("<dl><dt>a<dd>b<dt>c<dd>d</dl>"));
@@ -87,6 +87,29 @@ TEST(Page, HasNothingInAListButItems) {
   EXPECT_EQ("<ol> <li><b>a</b></li></ol>", body("<ol> <b>a</b></ol>"));
   EXPECT_EQ("<dl><dd><p>a</p></dd><dt>b</dt></dl>", body("<dl><p>a<dt>b</dl>"));
 }
+
+TEST(Page, HasALineOfCodeForEachOfPreformattedText) {
+  EXPECT_EQ("<p></p><div><code>a\u00A0&amp;</code></div><div><code>\u00A0\u00A0b</code></div><p></p>c",
+            body("<pre>\na &amp;\r\n  b\n</pre>c"));
+  EXPECT_EQ("<p></p><div><code>a</code></div><div><code>\u00A0</code></div><div><code>b</code></div><p></p>",
+            body("<pre>a\n\nb\n\n</pre>"));
+  EXPECT_EQ("<p></p><div><code></code></div><p></p>", body("<pre>\n</pre>"));
+}
+
+TEST(Page, HasSpacesForTabsInPreformattedText) {
+  const std::string four = "\u00A0\u00A0\u00A0\u00A0";
+  EXPECT_EQ("<p></p><div><code>\u00E4bcd" + four + "e" + four + "\u00A0\u00A0\u00A0f</code></div><div><code>" + four +
+                four + "g</code></div><p></p>",
+            body("<pre>\u00E4bcd\te\tf\n\tg</pre>"));
+}
+
+TEST(Page, BreaksLinesInMarkedPreformattedText) {
+  EXPECT_EQ("<p></p><div><code>a</code></div><div><code><b>b<br>c</b></code></div><div><code>d</code></div><p></p>",
+            body("<pre>a\n<b>b\nc</b>\nd</pre>"));
+  EXPECT_EQ("<p></p><div><code>a</code></div><p></p><p>b  c</p>", body("<pre>a<p>b  c"));
+}
+
+TEST(Page, HasSpaceBeforeARule) { EXPECT_EQ("<ul><li>a</li></ul><p></p><hr>b", body("<ul><li>a</ul><hr>b")); }
 
 TEST(Page, HasNoTableRowOrCellThatIsEmpty) {
   EXPECT_EQ("<table><tr><td>\u2003</td></tr></table>", body("<table></table>"));

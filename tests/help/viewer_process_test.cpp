@@ -112,8 +112,10 @@ TEST_F(Viewer, ComesOutOfItsIcon) {
 TEST_F(Viewer, IsStartedAgainWhenItHasBeenKilled) {
   ask_for("One");
   ASSERT_TRUE(shows("One"));
+  const Window killed = viewer();
   kill(std::stoi(lines_of("processes").front()), SIGKILL);
   ASSERT_TRUE(wait_for_end());
+  ASSERT_TRUE(wait_for([&] { return !is_viewable(killed); }));  // the server notices a little later
   EXPECT_EQ(0, ask_for("Two"));
   EXPECT_TRUE(shows("Two"));
   EXPECT_EQ(2U, launches().size());

@@ -56,6 +56,14 @@ std::string status() {
   return result;
 }
 
+/// What stands in the field of what is to be found.
+std::string typed() {
+  char* text = XmTextFieldGetString(window.find);
+  std::string result = text;
+  XtFree(text);
+  return result;
+}
+
 int scrolled() {
   Widget bar = nullptr;
   int value = 0;
@@ -94,6 +102,12 @@ void call_link(const char* list, const char* number) {
 }
 
 void follow(int number) { call_link(XmNactivateCallback, std::to_string(number).c_str()); }
+
+std::string repeated(int count, const std::string& text) {
+  std::string result;
+  while (count-- > 0) result += text;
+  return result;
+}
 
 enum Links { TO_B, FAR, END, WEB, MISSING, NOWHERE };
 
@@ -217,6 +231,18 @@ TEST_F(ViewerWindow, FindsWordsAsTheyAreTyped) {
   EXPECT_EQ("workWindow", focus());
 }
 
+TEST_F(ViewerWindow, HasTheKeysOfTheClipboardWhereWordsAreTyped) {
+  show("entry.html");
+  key("ctrl+f");
+  type("bold");
+  key("ctrl+a");
+  key("ctrl+x");
+  EXPECT_EQ("", typed());
+  key("ctrl+v");
+  key("ctrl+v");
+  EXPECT_EQ("boldbold", typed());
+}
+
 TEST_F(ViewerWindow, SaysThatWordsAreNotFound) {
   show("entry.html");
   char words[] = "100% <b>";
@@ -237,6 +263,19 @@ TEST_F(ViewerWindow, ScrollsToWhatItFinds) {
   settle();
   EXPECT_EQ(there, scrolled());
   EXPECT_EQ(std::string::npos, source().find("found"));
+}
+
+TEST_F(ViewerWindow, HasLinesOfPreformattedTextAsFarApartAsOthers) {
+  const auto height_of = [&](const std::string& lines) {
+    folder.with("lines.html",
+                page("Lines", "<p><a href='#end'>x</a></p>" + lines + "<h2><a name=end>End</a></h2>" + many_lines()));
+    show("lines.html");
+    follow(0);
+    return scrolled();
+  };
+  const int other = height_of("<p>" + repeated(50, "line_y<br>") + "</p>");
+  EXPECT_LT(0, other);
+  EXPECT_LE(other, height_of("<pre>" + repeated(50, "line_y\n") + "</pre>"));
 }
 
 TEST_F(ViewerWindow, HasTextOfSevenSizes) {
@@ -281,6 +320,23 @@ TEST_F(ViewerWindow, IsWorkedByKeys) {
   EXPECT_EQ("A", title());
   key("alt+Right");
   EXPECT_EQ("Contents", title());
+}
+
+TEST_F(ViewerWindow, KeepsTheKeysForThePageWhenAButtonIsClickedOn) {
+  const auto click_on = [](const std::string& name) {
+    click(XtWindow(XtNameToWidget(window.shell, ("*" + name).c_str())), 5, 5);
+  };
+  show("a.html");
+  const std::string normal = sizes();
+  click_on("help_larger");
+  EXPECT_NE(normal, sizes());
+  EXPECT_EQ("workWindow", focus());
+  key("Page_Down");
+  EXPECT_LT(0, scrolled());
+  click_on("help_contents");
+  click_on("help_back");  // which then cannot be pressed any more
+  EXPECT_EQ("A", title());
+  EXPECT_EQ("workWindow", focus());
 }
 
 }  // namespace

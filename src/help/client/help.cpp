@@ -90,7 +90,7 @@ void VQHelpGetAtoms(Widget w) {
 }
 
 int VQHelp(Widget w, const char* request) {
-  if (!w) return -1;
+  if (!w || !request) return -1;
   if (!XtIsWidget(w)) w = XtParent(w);
   if (!XtIsRealized(w)) return -1;
   VQHelpGetAtoms(w);

@@ -8,7 +8,7 @@
 // the client's window.
 
 /// Asks the viewer to show the file `request`, from the window of `w`, or of its parent if it is a gadget. -1 when
-/// there is no widget or the viewer cannot be started, 0 when the request waits for the viewer to announce itself
+/// either is null or the viewer cannot be started, 0 when the request waits for the viewer to announce itself
 /// (later requests replace it), 1 when it has been delivered.
 int VQHelp(Widget w, const char* request);
 

@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::size_t DEEPEST = 60;  // elements in each other; the widget lays tables out by recursion
 
+constexpr char32_t NO_BREAK_SPACE = 0xA0;
 constexpr char32_t EM_SPACE = 0x2003;
 
 bool is_blank(std::string_view text) { return text.find_first_not_of(" \t\r\n\f") == std::string_view::npos; }
@@ -22,6 +23,71 @@ bool is_harmless(std::string_view value) {
   return number ? value.size() <= 2
                 : value.find_first_not_of("#+-0123456789ABCDEFabcdefghijklmnopqrstuvwxyz") == std::string_view::npos;
 }
+
+/// The tags that an element is written with. Each line of preformatted text is a division, for the widget sets those of
+/// <pre> so close that they run into each other. An empty paragraph keeps a rule away from a list.
+std::string beginning_of(std::string_view name, const std::string& attributes) {
+  if (name == "pre") return "<p></p><div><code>";
+  if (name == "hr") return "<p></p><hr>";
+  return "<" + std::string(name) + attributes + ">";
+}
+
+std::string end_of(std::string_view name) {
+  return name == "pre" ? "</code></div><p></p>" : "</" + std::string(name) + ">";
+}
+
+/// Lays preformatted text out in text that is not: with other spaces, and tags where lines end. What ends before the
+/// first line and after the last is left out.
+class Preformatted {
+ public:
+  std::string laid_out(std::string_view text, const std::string& end_of_line) {
+    std::string result;
+    while (!text.empty()) {
+      const Decoded next = first_character(text);
+      if (next.character == '\n') {
+        end_line();
+      } else if (next.character != '\r') {
+        result += pending_ends(end_of_line) + written(next.character, text.substr(0, next.size));
+      }
+      text.remove_prefix(next.size);
+    }
+    return result;
+  }
+
+  /// The ends of lines before what comes next. A line that is empty gets a space, or the widget would leave it out.
+  std::string pending_ends(const std::string& end_of_line) {
+    std::string result;
+    for (; ends_ > 0; --ends_) result += end_of_line + (ends_ > 1 ? spaces(1) : "");
+    has_begun_ = true;
+    return result;
+  }
+
+ private:
+  static constexpr std::size_t TAB = 8;
+
+  void end_line() {
+    if (has_begun_) ++ends_;
+    has_begun_ = true;
+    column_ = 0;
+  }
+
+  std::string written(char32_t character, std::string_view bytes) {
+    const bool is_tab = character == '\t';
+    const std::size_t width = is_tab ? TAB - column_ % TAB : 1;
+    column_ += width;
+    return is_tab || character == ' ' ? spaces(width) : escaped(bytes);
+  }
+
+  static std::string spaces(std::size_t count) {
+    std::string result;
+    while (count-- > 0) result += utf8(NO_BREAK_SPACE);
+    return result;
+  }
+
+  bool has_begun_ = false;
+  std::size_t ends_ = 0;  // that are not written yet
+  std::size_t column_ = 0;
+};
 
 /// An element that has been opened.
 struct Open {
@@ -40,14 +106,16 @@ class PageWriter {
       open_item();
       for (Open& each : open_) each.is_filled |= each.element->stands != Stands::as_grid;
     }
-    page_.html += escaped(words);
+    page_.html += is_in_pre() ? preformatted_.laid_out(words, end_of_line()) : escaped(words);
   }
 
   void open(const Element& element, std::string_view tag) {
     make_room(element);
     if (element.parents.empty()) open_item();
     if (!may_stand(element)) return;
-    page_.html += "<" + std::string(element.name) + attributes_of(element, tag) + ">";
+    if (is_in_pre()) page_.html += preformatted_.pending_ends(end_of_line());
+    if (element.name == "pre") preformatted_ = {};
+    page_.html += beginning_of(element.name, attributes_of(element, tag));
     if (!open_.empty()) add_child(open_.back(), element);
     if (element.stands != Stands::alone) open_.push_back({&element, page_.html.size()});
   }
@@ -74,6 +142,13 @@ class PageWriter {
   }
 
   bool inside_grid() const { return !open_.empty() && open_.back().element->stands == Stands::as_grid; }
+
+  bool is_in_pre() const {
+    return std::ranges::any_of(open_, [](const Open& each) { return each.element->name == "pre"; });
+  }
+
+  /// How a line of <pre> ends: not with its division where words are marked beyond it.
+  std::string end_of_line() const { return open_.back().element->name == "pre" ? "</code></div><div><code>" : "<br>"; }
 
   bool may_stand(const Element& element) const {
     if (open_.size() == DEEPEST) return false;
@@ -119,7 +194,7 @@ class PageWriter {
       page_.html.resize(last.begin);
       page_.html += filling_of(last.element->name);
     }
-    page_.html += "</" + std::string(last.element->name) + ">";
+    page_.html += end_of(last.element->name);
   }
 
   /// The widget stands no table without rows, no row without cells, and no cell without words.
@@ -155,6 +230,7 @@ class PageWriter {
 
   Page page_;
   std::vector<Open> open_;
+  Preformatted preformatted_;  // where the text of a <pre> is
 };
 
 /// A text with each run of white space as one blank, and none at its ends.

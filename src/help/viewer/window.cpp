@@ -45,10 +45,17 @@ const WidgetRow page_row = {"help_page", XmCreateHTML, "help_form", follow_link,
 
 Widget find_widget(const char* name) { return XtNameToWidget(window.shell, (std::string("*") + name).c_str()); }
 
+/// A button that has been clicked on gives the keys back to the page.
+void return_focus(Widget, XtPointer, XtPointer call) {
+  const XEvent* event = static_cast<XmAnyCallbackStruct*>(call)->event;
+  if (event && event->type == ButtonRelease) focus_on_page();
+}
+
 void make(const WidgetRow& row) {
   Widget parent = row.parent ? find_widget(row.parent) : window.shell;
   Widget w = row.create(parent, const_cast<char*>(row.name), nullptr, 0);
   if (row.activated) XtAddCallback(w, XmNactivateCallback, row.activated, nullptr);
+  if (XmIsPushButton(w)) XtAddCallback(w, XmNdisarmCallback, return_focus, nullptr);
   if (row.place) window.*row.place = w;
   XtManageChild(w);
 }
