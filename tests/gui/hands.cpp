@@ -16,8 +16,13 @@
 #include <sstream>
 #include <stdexcept>
 
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/lsan_interface.h>
+#endif
+
 #include "gui/looks.h"
 #include "gui/parts.h"
+#include "support/windows.h"
 #include "vqc/cmd/application/session.h"
 
 namespace {
@@ -112,7 +117,7 @@ Stroke stroke_for(KeySym symbol) {
 void send(KeyCode code, bool down) { XTestFakeKeyEvent(display, code, down, CurrentTime); }
 
 void strike(Stroke stroke, const std::vector<KeySym>& modifiers) {
-  const long releases = events_seen(KeyRelease);
+  const long presses = events_seen(KeyPress);  // not every widget is told of the release
   std::vector<KeyCode> held;
   for (KeySym modifier : modifiers) held.push_back(stroke_for(modifier).code);
   if (stroke.shifted) held.push_back(stroke_for(XK_Shift_L).code);
@@ -121,7 +126,7 @@ void strike(Stroke stroke, const std::vector<KeySym>& modifiers) {
   send(stroke.code, false);
   for (KeyCode code : held) send(code, false);
   const auto strokes = static_cast<long>(held.size()) + 1;
-  wait_for([&] { return events_seen(KeyRelease) >= releases + strokes || exit_status; });
+  wait_for([&] { return events_seen(KeyPress) >= presses + strokes || exit_status; });
 }
 
 /// Whether one of the program's windows has the keyboard.
@@ -140,15 +145,8 @@ KeySym modifier_named(const std::string& name) {
 }
 
 void close_shell(Widget shell) {
-  XEvent event{};
-  event.xclient.type = ClientMessage;
-  event.xclient.window = XtWindow(shell);
-  event.xclient.message_type = XInternAtom(display, "WM_PROTOCOLS", False);
-  event.xclient.format = 32;
-  event.xclient.data.l[0] = static_cast<long>(XInternAtom(display, "WM_DELETE_WINDOW", False));
-  event.xclient.data.l[1] = CurrentTime;
   const long messages = events_seen(ClientMessage);
-  XSendEvent(display, XtWindow(shell), False, NoEventMask, &event);
+  close_by_manager(display, XtWindow(shell));
   wait_for([&] { return events_seen(ClientMessage) > messages; });
   settle();
 }
@@ -210,6 +208,13 @@ void key(const std::string& combination) {
   while (std::getline(words, word, '+') && !words.eof()) modifiers.push_back(modifier_named(word));
   strike({stroke_for(XStringToKeysym(word.c_str())).code, false}, modifiers);
   settle();
+}
+
+void paste() {
+#ifdef __SANITIZE_ADDRESS__
+  const __lsan::ScopedDisabler overlooking;
+#endif
+  key("ctrl+v");
 }
 
 void move_aside(const std::string& shell) {

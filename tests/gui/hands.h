@@ -20,6 +20,8 @@ void choose_menu(const std::string& cascade, const std::string& item);
 void type(std::string_view text);
 /// Presses a key, such as "Return" or "ctrl+shift+s".
 void key(const std::string& combination);
+/// Presses the key that pastes. Motif forgets some memory then.
+void paste();
 /// Moves a dialog away from what it covers.
 void move_aside(const std::string& shell);
 /// Closes a shell as the window manager's menu does.

@@ -133,14 +133,15 @@ bool is_shown(const std::string& shell) {
   return wait_for([w] { return is_viewable(w); });
 }
 
-bool has_keyboard(const std::string& shell) {
-  if (!is_shown(shell)) return false;
-  return wait_for([w = widget(shell)] {
+bool has_keyboard(const std::string& shell) { return is_shown(shell) && has_keyboard(widget(shell)); }
+
+bool has_keyboard(Widget shell) {
+  return wait_for([shell] {
     Window window = None;
     int revert = 0;
     XGetInputFocus(display, &window, &revert);
     Widget focused = window > PointerRoot ? XtWindowToWidget(display, window) : nullptr;
-    return focused && shell_of(focused) == w;
+    return focused && shell_of(focused) == shell;
   });
 }
 

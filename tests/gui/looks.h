@@ -47,6 +47,7 @@ bool is_viewable(Widget w);
 bool is_shown(const std::string& shell);
 /// Whether the dialog with this shell is up and the keyboard goes to it.
 bool has_keyboard(const std::string& shell);
+bool has_keyboard(Widget shell);
 /// The same widgets in the order in which they stand on the screen.
 std::vector<std::string> left_to_right(std::vector<std::string> names);
 std::vector<std::string> top_to_bottom(std::vector<std::string> names);

@@ -28,6 +28,23 @@ TEST_F(MainWindow, ATypedNameIsAddedWithTheMouse) {
   EXPECT_FALSE(is_shown("entity_dialog"));
 }
 
+TEST_F(MainWindow, FieldsHaveTheKeysOfTheClipboard) {
+  start();
+  click("family_selection.Text");
+  type("Dial");
+  key("ctrl+a");
+  key("ctrl+c");
+  type("New");
+  EXPECT_EQ("New", text("family_selection"));
+  paste();
+  EXPECT_EQ("NewDial", text("family_selection"));
+  key("ctrl+a");
+  key("ctrl+x");
+  EXPECT_EQ("", text("family_selection"));
+  paste();
+  EXPECT_EQ("NewDial", text("family_selection"));
+}
+
 TEST_F(MainWindow, NewFamiliesGoToTheEnd) {
   open_document(two_families);
   add_family("B");

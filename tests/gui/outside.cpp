@@ -1,7 +1,5 @@
 #include "gui/outside.h"
 
-#include <X11/Xatom.h>
-#include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
 #include <X11/keysym.h>
 #include <fcntl.h>
@@ -13,6 +11,8 @@
 #include <filesystem>
 #include <stdexcept>
 #include <thread>
+
+#include "support/windows.h"
 
 namespace {
 
@@ -31,30 +31,34 @@ pid_t start_process(std::vector<std::string> words, const std::string& errors, c
   _exit(127);
 }
 
-bool is_titled(Display* connection, Window window, const std::string& title) {
-  char* name = nullptr;
-  XWindowAttributes attributes;
-  if (!XFetchName(connection, window, &name)) return false;
-  const bool same = title == name;
-  XFree(name);
-  return same && XGetWindowAttributes(connection, window, &attributes) && attributes.map_state == IsViewable;
+Window window_titled(Display* connection, const std::string& title) {
+  for (Window window : relatives(connection, DefaultRootWindow(connection)).children) {
+    if (property(connection, window, "WM_NAME") == title && is_viewable(connection, window)) return window;
+  }
+  return None;
 }
 
-Window window_titled(Display* connection, const std::string& title) {
-  Window root = None;
-  Window parent = None;
-  Window* children = nullptr;
-  unsigned count = 0;
-  Window found = None;
-  XQueryTree(connection, DefaultRootWindow(connection), &root, &parent, &children, &count);
-  for (unsigned i = 0; i < count; ++i) {
-    if (is_titled(connection, children[i], title)) found = children[i];
+/// Whether a process has been started with that setting. False for one that has ended.
+bool has_setting(const std::filesystem::path& process, const std::string& setting) {
+  std::ifstream environment(process / "environ");
+  for (std::string each; std::getline(environment, each, '\0');) {
+    if (each == setting) return true;
   }
-  if (children) XFree(children);
-  return found;
+  return false;
 }
 
 }  // namespace
+
+std::vector<pid_t> processes(const std::string& program, const std::string& display_name) {
+  std::vector<pid_t> result;
+  std::error_code none;
+  for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
+    const bool runs_it = std::filesystem::read_symlink(entry.path() / "exe", none) == program;
+    if (!runs_it || !has_setting(entry.path(), "DISPLAY=" + display_name)) continue;
+    result.push_back(std::stoi(entry.path().filename()));
+  }
+  return result;
+}
 
 bool wait_until_true(const std::function<bool()>& condition) {
   const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
@@ -132,16 +136,7 @@ void OtherDisplay::key(const char* name, bool with_control) {
   XSync(connection_, False);
 }
 
-void OtherDisplay::close(Window window) {
-  XEvent event{};
-  event.xclient.type = ClientMessage;
-  event.xclient.window = window;
-  event.xclient.message_type = XInternAtom(connection_, "WM_PROTOCOLS", False);
-  event.xclient.format = 32;
-  event.xclient.data.l[0] = static_cast<long>(XInternAtom(connection_, "WM_DELETE_WINDOW", False));
-  XSendEvent(connection_, window, False, NoEventMask, &event);
-  XSync(connection_, False);
-}
+void OtherDisplay::close(Window window) { close_by_manager(connection_, window); }
 
 void OtherDisplay::lose() {
   if (server_ == 0) return;

@@ -12,6 +12,9 @@
 /// Waits until a condition holds; false when it has not come true in time.
 bool wait_until_true(const std::function<bool()>& condition);
 
+/// The processes that run the file of a program on a display.
+std::vector<pid_t> processes(const std::string& program, const std::string& display_name);
+
 /// The program as a process; it is killed if it is left running.
 class RunningProgram {
  public:

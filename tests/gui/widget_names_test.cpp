@@ -15,16 +15,9 @@
 
 namespace {
 
-const char document[] =
-    "VQconfig\nwidget 'W' {\n}\nenumeration 'E' {\nenumentry 'e' {\n}\n}\n"
-    "family 'F' {\nwidget='W'\nenumeration='E'\n}\n";
-
-class WidgetNames : public Session {
+class WidgetNames : public EveryDialog {
  protected:
-  WidgetNames() {
-    start({"-xrm", "VQconfig*generateOptions: True", folder.with("document.vqc", document)});
-    open_every_dialog();
-  }
+  WidgetNames() { open_every_dialog(); }
 
   static Names children_of(Widget w) {
     WidgetList children = nullptr;
@@ -109,40 +102,10 @@ TEST_F(WidgetNames, TheMainShellIsOfTheProgramsClass) {
   EXPECT_STREQ("VQconfig", class_name);
 }
 
-struct HelpRow {
-  const char* button;
-  const char* topic;
-};
-
-const HelpRow help_buttons[] = {
-    {"family_selection.Help", "vqc_family"},
-    {"family_helpgenb", "vqc_family"},
-    {"open_fsb.Help", "vqc_open"},
-    {"read_fsb.Help", "vqc_read"},
-    {"save_fsb.Help", "vqc_save"},
-    {"savechanges_messagebox.Help", "vqc_savechanges"},
-    {"error_messageb.Help", "vqc_error"},
-    {"gen_fsb.Help", "vqc_gen"},
-    {"options_help", "vqc_gen_options"},
-    {"stop_list_help", "vqc_stop_list"},
-    {"codeheaderlist_selection.Help", "vqc_code_hdrs"},
-    {"confheaderlist_selection.Help", "vqc_conf_hdrs"},
-    {"familyheaderlist_selection.Help", "vqc_family_hdrs"},
-    {"aliaslist_selection.Help", "vqc_aliases"},
-    {"enumlist_selection.Help", "vqc_enums"},
-    {"widgetlist_selection.Help", "vqc_classw"},
-    {"converter_selection.Help", "vqc_converter"},
-    {"familyinit_helpb", "vqc_family_init"},
-    {"enumedit_selection.Help", "vqc_enum_edit"},
-    {"pageedit_selection.Help", "vqc_page_edit"},
-    {"popupedit_selection.Help", "vqc_popup_edit"},
-    {"widgetedit_helpb", "vqc_w_edit"},
-};
-
 TEST_F(WidgetNames, EveryHelpButtonAsksForItsTopic) {
   static std::string asked;
   session_hooks.help = [](Widget, const char* topic) { asked = topic; };
-  for (const auto& [button, topic] : help_buttons) {
+  for (const auto& [button, topic, page] : help_buttons()) {
     asked = "";
     press(button);
     EXPECT_EQ(topic, asked) << button;
@@ -150,14 +113,6 @@ TEST_F(WidgetNames, EveryHelpButtonAsksForItsTopic) {
   asked = "";
   press("family_newb");
   EXPECT_EQ("", asked);
-}
-
-TEST_F(Session, HelpIsAskedForWithTheMouse) {
-  static std::string asked;
-  start();
-  session_hooks.help = [](Widget, const char* topic) { asked = topic; };
-  click("family_selection.Help");
-  EXPECT_EQ("vqc_family", asked);
 }
 
 }  // namespace

@@ -9,6 +9,10 @@
 
 namespace {
 
+const char document[] =
+    "VQconfig\nwidget 'W' {\n}\nenumeration 'E' {\nenumentry 'e' {\n}\n}\n"
+    "family 'F' {\nwidget='W'\nenumeration='E'\n}\n";
+
 const std::vector<const char*> pressed = {XmNactivateCallback};
 const std::vector<const char*> toggled = {XmNvalueChangedCallback};
 const std::vector<const char*> box_of_four = {XmNokCallback, XmNapplyCallback, XmNcancelCallback, XmNhelpCallback};
@@ -320,6 +324,32 @@ const PromisedWidget promised[] = {
     {"resource_warn_ignoreb", "XmPushButton", "resource_warn_msg", pressed},
 };
 
+const HelpButton buttons[] = {
+    {"family_selection.Help", "vqc_family", "Families"},
+    {"open_fsb.Help", "vqc_open", "Opening a Document"},
+    {"read_fsb.Help", "vqc_read", "Reading a Document"},
+    {"save_fsb.Help", "vqc_save", "Saving"},
+    {"savechanges_messagebox.Help", "vqc_savechanges", "Unsaved Changes"},
+    {"error_messageb.Help", "vqc_error", "Errors"},
+    {"gen_fsb.Help", "vqc_gen", "Generating Code"},
+    {"options_help", "vqc_gen_options", "Names in Generated Code"},
+    {"stop_list_help", "vqc_stop_list", "Stop List"},
+    {"codeheaderlist_selection.Help", "vqc_code_hdrs", "Code Headers"},
+    {"confheaderlist_selection.Help", "vqc_conf_hdrs", "Config Headers"},
+    {"familyheaderlist_selection.Help", "vqc_family_hdrs", "Family Headers"},
+    {"aliaslist_selection.Help", "vqc_aliases", "Type Aliases"},
+    {"enumlist_selection.Help", "vqc_enums", "Enumerations"},
+    {"widgetlist_selection.Help", "vqc_classw", "Widgets"},
+    {"converter_selection.Help", "vqc_converter", "Converters"},
+    {"familyinit_helpb", "vqc_family_init", "Family Initialisation"},
+    {"resource_warn_msg.Help", "vqc_w_edit", "Widget Editor"},
+    {"enumedit_selection.Help", "vqc_enum_edit", "Enumeration Editor"},
+    {"pageedit_selection.Help", "vqc_page_edit", "Pages"},
+    {"popupedit_selection.Help", "vqc_popup_edit", "Popups"},
+    {"widgetedit_helpb", "vqc_w_edit", "Widget Editor"},
+    {"family_helpgenb", "vqc_family", "Families"},
+};
+
 void open_editors() {
   edit_family("F");
   enter("widgetlist_selection", "W");
@@ -336,14 +366,18 @@ void open_editors() {
 
 std::span<const PromisedWidget> promised_widgets() { return promised; }
 
-void open_every_dialog() {
-  for (const char* item : {"family_helpaboutb", "family_openb", "family_readb", "family_saveasb", "family_genconfigb",
+std::span<const HelpButton> help_buttons() { return buttons; }
+
+void EveryDialog::open_every_dialog() {
+  start({"-xrm", "VQconfig*generateOptions: True", folder.with("document.vqc", document)});
+  for (const char* item : {"family_helpaboutb", "family_openb", "family_readb", "family_genconfigb",
                            "family_generate_options_b", "family_stop_b"}) {
     press(item);
   }
   open_editors();
   add_family("Extra");
   press("family_exitb");
+  press("family_saveasb");  // which that would have closed
   error_show("bad_save_file");
   settle();
 }

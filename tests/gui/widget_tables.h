@@ -16,8 +16,22 @@ struct PromisedWidget {
 /// Every widget that has a name of its own.
 std::span<const PromisedWidget> promised_widgets();
 
-/// Starts the program on a small document and brings up each of its dialogs.
-void open_every_dialog();
+/// A button that opens a page of help.
+struct HelpButton {
+  const char* name;
+  const char* topic;
+  const char* page;  // its title
+};
+
+/// Every such button, no two after another with the same page.
+std::span<const HelpButton> help_buttons();
+
+/// A session on a small document, in which each dialog can be seen.
+class EveryDialog : public Session {
+ protected:
+  /// Starts the program and brings up each of its dialogs.
+  void open_every_dialog();
+};
 
 /// The parent of a widget, without the shell that a menu, or the window that a list, is put into.
 Widget parent_of(Widget w);

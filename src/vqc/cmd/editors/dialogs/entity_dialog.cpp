@@ -207,7 +207,11 @@ const WidgetRow rows[] = {
     {"convert_popup_b", XmCreatePushButton, "converter_popup_form", CONVERT_POPUP_B},
     {"converter_quitb", XmCreatePushButton, "converter_selection", NO_SLOT, {{XmNactivateCallback, entity_do_hide}}},
 
-    {"familyinit_form", create_plain_box, "entity_view_form", FAMILYINIT_FORM},
+    {"familyinit_form",
+     create_plain_box,
+     "entity_view_form",
+     FAMILYINIT_FORM,
+     {{XmNhelpCallback, vqc_do_help, "vqc_family_init"}}},
     {"familyinit_work_area", create_form, "familyinit_form"},
     {"familyinit_init_text", XmCreateTextField, "familyinit_work_area", FAMILYINIT_INIT},
     {"familyinit_init_l", XmCreateLabel, "familyinit_work_area"},

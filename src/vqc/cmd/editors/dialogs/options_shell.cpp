@@ -14,7 +14,7 @@ namespace {
 
 const WidgetRow rows[] = {
     {"options_shell", XmCreateDialogShell, nullptr, OPTIONS_SHELL},
-    {"options_form", create_form, "options_shell", OPTIONS_FORM},
+    {"options_form", create_form, "options_shell", OPTIONS_FORM, {{XmNhelpCallback, options_help_callback}}},
     {"options_ok", XmCreatePushButton, "options_form", NO_SLOT, {{XmNactivateCallback, options_ok_callback}}},
     {"options_reset", XmCreatePushButton, "options_form", NO_SLOT, {{XmNactivateCallback, options_reset_callback}}},
     {"options_cancel", XmCreatePushButton, "options_form", NO_SLOT, {{XmNactivateCallback, options_cancel_callback}}},

@@ -14,7 +14,11 @@ namespace {
 
 const WidgetRow rows[] = {
     {"stop_list_shell", XmCreateDialogShell, nullptr, STOP_LIST_SHELL},
-    {"stop_list_form", create_form, "stop_list_shell", STOP_LIST_FORM},
+    {"stop_list_form",
+     create_form,
+     "stop_list_shell",
+     STOP_LIST_FORM,
+     {{XmNhelpCallback, vqc_do_help, "vqc_stop_list"}}},
     {"stop_list_fake_separator", XmCreateSeparatorGadget, "stop_list_form"},
     {"stop_list_apply", XmCreatePushButton, "stop_list_form", NO_SLOT, {{XmNactivateCallback, stop_list_do_apply}}},
     {"stop_list_close", XmCreatePushButton, "stop_list_form", NO_SLOT, {{XmNactivateCallback, stop_list_do_popdown}}},

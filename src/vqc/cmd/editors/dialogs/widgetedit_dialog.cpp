@@ -18,7 +18,11 @@ namespace {
 
 const WidgetRow rows[] = {
     {"widgetedit_dialog", XmCreateDialogShell, nullptr, WIDGETEDIT_SHELL, {{CLOSED, widgetedit_do_hide}}},
-    {"widgetedit_form", create_form, "widgetedit_dialog", WIDGETEDIT_FORM},
+    {"widgetedit_form",
+     create_form,
+     "widgetedit_dialog",
+     WIDGETEDIT_FORM,
+     {{XmNhelpCallback, vqc_do_help, "vqc_w_edit"}}},
     {"widgetedit_applyb",
      XmCreatePushButton,
      "widgetedit_form",
