@@ -4,19 +4,19 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <filesystem>
+#include <memory>
 #include <string>
 #include <string_view>
 
 namespace {
 
-namespace fs = std::filesystem;
+std::string folder_of(const std::string& path) { return path.substr(0, path.rfind('/')); }
 
 /// Where the program's files lie: what holds its `bin` folder, or the build folder that it lies in itself.
-fs::path installation() {
-  std::error_code none;
-  const fs::path folder = fs::read_symlink("/proc/self/exe", none).parent_path();
-  return folder.filename() == "bin" ? folder.parent_path() : folder;
+std::string installation() {
+  const std::unique_ptr<char, decltype(&std::free)> program(realpath("/proc/self/exe", nullptr), std::free);
+  const std::string folder = folder_of(program ? program.get() : "");
+  return folder.ends_with("/bin") ? folder_of(folder) : folder;
 }
 
 /// Whether a search path names any folder that there is. One that does not says: no resource files.
@@ -50,4 +50,4 @@ void use_installation() {
   setenv("VQROOT", root.c_str(), 0);
 }
 
-std::string installed(const char* file) { return installation() / file; }
+std::string installed(const char* file) { return installation() + '/' + file; }

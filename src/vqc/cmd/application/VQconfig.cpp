@@ -1,6 +1,7 @@
 // The program: start-up, and the choice between a batch run and a session with the user.
 
 #include <fcntl.h>
+#include <malloc.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -22,6 +23,13 @@ void open_standard_streams() {
   if (descriptor > STDERR_FILENO) close(descriptor);
 }
 
+/// Has large tables given back to the system when they have grown into larger ones. By default the allocator would keep
+/// pieces as large as the last that it has given back.
+void give_large_memory_back() {
+  constexpr int kLarge = 128 * 1024;
+  mallopt(M_MMAP_THRESHOLD, kLarge);
+}
+
 [[noreturn]] void give_up(const char* program, const char* reason) {
   std::fprintf(stderr, "%s: %s. Exiting...\n", program, reason);
   std::exit(-1);
@@ -31,6 +39,7 @@ void open_standard_streams() {
 
 int main(int argc, char** argv) {
   open_standard_streams();
+  give_large_memory_back();
   use_installation();
   const char* obstacle = open_display(&argc, argv);
   parse_command_line(argc, argv);
