@@ -29,12 +29,17 @@ bool is_missing(const std::string& folder) {
 
 bool FileFinder::exists(const char* path) {
   const std::string_view leaf = leafnm(path);
-  const std::string in(path, static_cast<std::size_t>(leaf.data() - path));
-  Folder& folder = folders_[in];
+  auto& [in, folder] = folder_named({path, static_cast<std::size_t>(leaf.data() - path)});
   if (++folder.asked == 1) folder.listed = is_missing(in);
   if (folder.asked == kWorthListing && !folder.listed) list(folder, in.empty() ? "." : in.c_str());
-  if (folder.listed && !leaf.empty() && !folder.names.contains(lower_case(leaf))) return false;
-  return access(path, F_OK) == 0;
+  const bool ruled_out = folder.listed && (folder.names.empty() || !folder.names.contains(lower_case(leaf)));
+  return (!ruled_out || leaf.empty()) && access(path, F_OK) == 0;
+}
+
+/// Mostly that is the same as the last.
+FileFinder::Folders::value_type& FileFinder::folder_named(std::string_view name) {
+  if (!last_ || last_->first != name) last_ = &*folders_.try_emplace(std::string(name)).first;
+  return *last_;
 }
 
 /// A folder that cannot be read to its end counts as not listed.

@@ -2,6 +2,7 @@
 #define VQC_CMD_GENERATE_FILE_FINDER_H
 
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -19,9 +20,13 @@ class FileFinder {
     std::unordered_set<std::string> names;  // in lower case, which some file systems do not tell from upper case
   };
 
+  using Folders = std::unordered_map<std::string, Folder>;
+
+  Folders::value_type& folder_named(std::string_view name);
   static void list(Folder& folder, const char* path);
 
-  std::unordered_map<std::string, Folder> folders_;
+  Folders folders_;
+  Folders::value_type* last_ = nullptr;
 };
 
 #endif
