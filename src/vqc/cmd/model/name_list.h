@@ -51,15 +51,16 @@ class NameList {
   bool empty() const { return size_ == 0; }
 
   /// The element of that name, or null.
+  ///
+  /// What has just been added is soon looked for, and so is what has just been found; and documents name elements in
+  /// the order in which they stand.
   Element* find(const Text& name) const {
-    if (tail_ && name_of(*tail_) == name) return tail_;  // what has just been added is soon looked for
-    if (size_ > kSearched) {
-      build_index();
-      return index_->find(name);
+    if (tail_ && name_of(*tail_) == name) return tail_;
+    if (index_) return index_->find(name);
+    for (Element* likely : {found_, found_ ? found_->next : head_}) {
+      if (likely && name_of(*likely) == name) return found_ = likely;
     }
-    Element* element = head_;
-    while (element && !(name_of(*element) == name)) element = element->next;
-    return element;
+    return found_ = size_ > kSearched ? indexed(name) : searched(name);
   }
 
   /// Whether a name sorts behind all others, and so cannot be there. Asking is cheap; most names come in their order.
@@ -82,6 +83,7 @@ class NameList {
     settle();
     join(before_element(element), element->next);
     --size_;
+    found_ = nullptr;
     if (index_) index_->erase(element);
     if (size_ == 0) rearranged_ = false;
   }
@@ -180,14 +182,21 @@ class NameList {
     return previous;
   }
 
-  void build_index() const {
-    if (index_) return;
+  Element* searched(const Text& name) const {
+    Element* element = head_;
+    while (element && !(name_of(*element) == name)) element = element->next;
+    return element;
+  }
+
+  Element* indexed(const Text& name) const {
     index_ = std::make_unique<Index>(size_);
     for (Element* each = head_; each; each = each->next) index_->insert(each);
+    return index_->find(name);
   }
 
   mutable Element* head_ = nullptr;
   mutable Element* tail_ = nullptr;
+  mutable Element* found_ = nullptr;            // what was found last, without an index
   mutable Element* unsettled_after_ = nullptr;  // the last element in order, when later ones are not
   unsigned size_ = 0;
   bool rearranged_ = false;  // moves have been made: no longer may a new element be compared with the last one alone

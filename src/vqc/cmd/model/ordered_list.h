@@ -61,13 +61,13 @@ class OrderedList {
     if (on_current) on_current(element);
   }
 
-  /// Adds what `make` gives (an element of that name, or null when memory is short) unless the name is there. A null
-  /// name is none.
+  /// Adds what `make` gives (an element of that name, or null when memory is short) unless the name is there, for which
+  /// the list is searched unless it `is_new`. A null name is none.
   template <class Make>
-  ErrorCode add(List& list, const Text& name, Make make) {
+  ErrorCode add(List& list, const Text& name, Make make, bool is_new = false) {
     if (!name) return codes.absent;
     const bool last = list.sorts_last(name);
-    if (!last && list.find(name)) return codes.duplicate;
+    if (!last && !is_new && list.find(name)) return codes.duplicate;
     Element* element = make();
     if (!element) return kOutOfMemory;
     list.link(element, last);

@@ -47,7 +47,8 @@ class FamilyList
 
   ErrorCode add(const Text& name, Family* family) {
     if (!family) return codes.no_owner;
-    return Base::add(family->*member, name, [&] { return new_reference(name); });
+    return Base::add(
+        family->*member, name, [&] { return new_reference(name); }, is_unused(name));
   }
   ErrorCode remove(Family* family, const Text& name) {
     if (!family) return codes.no_owner;
@@ -79,6 +80,15 @@ class FamilyList
 
  private:
   static constexpr bool counted = requires(Record record) { record.uses; };
+
+  /// Whether no family uses the record of that name, so that no list has it.
+  static bool is_unused(const Text& name) {
+    if constexpr (counted) {
+      const Record* record = pool.list.find(name);
+      return !record || record->uses == 0;
+    }
+    return false;
+  }
 
   static Element* new_reference(const Text& name) {
     Record* record = pool.list.find(name);
