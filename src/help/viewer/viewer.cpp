@@ -44,12 +44,6 @@ std::string message(const char* name, const std::string& argument) {
 
 // Where the page is scrolled to.
 
-Widget scroll_bar() {
-  Widget bar = nullptr;
-  XtVaGetValues(window.page, XmNverticalScrollBar, &bar, nullptr);
-  return bar;
-}
-
 int scroll_value(const char* resource) {
   int value = 0;
   XtVaGetValues(scroll_bar(), resource, &value, nullptr);

@@ -81,10 +81,8 @@ Widget work_window() {
 void has_scrolled(Widget, XtPointer, XtPointer) { repaint_page(); }
 
 void repaint_after_scrolling() {
-  Widget bar = nullptr;
-  XtVaGetValues(window.page, XmNverticalScrollBar, &bar, nullptr);
-  XtAddCallback(bar, XmNvalueChangedCallback, has_scrolled, nullptr);
-  XtAddCallback(bar, XmNdragCallback, has_scrolled, nullptr);
+  XtAddCallback(scroll_bar(), XmNvalueChangedCallback, has_scrolled, nullptr);
+  XtAddCallback(scroll_bar(), XmNdragCallback, has_scrolled, nullptr);
 }
 
 /// Gives `w` the keys of the resource `keys` of `owner`. They come before those of the buttons, and the HTML widget
@@ -149,6 +147,12 @@ void show_window() {
   Display* display = XtDisplay(window.shell);
   XMapRaised(display, XtWindow(window.shell));
   ask_for_attention();
+}
+
+Widget scroll_bar() {
+  Widget bar = nullptr;
+  XtVaGetValues(window.page, XmNverticalScrollBar, &bar, nullptr);
+  return bar;
 }
 
 void repaint_page() {

@@ -22,6 +22,9 @@ void make_window(Display* display);
 /// Brings the window before the user: on the screen, out of its icon, in front of others.
 void show_window();
 
+/// The bar beside the page.
+Widget scroll_bar();
+
 /// Paints the page afresh. The HTML widget itself paints what scrolling brings into sight, and leaves lines cut that
 /// were half in sight before.
 void repaint_page();
