@@ -14,6 +14,15 @@
 #define KEL_ADDRESS_SANITIZER 0
 #endif
 
+/// What things of one size are cut from at a time.
+inline constexpr std::size_t kBlockSize = std::size_t{32} * 1024;
+
+/// A new block, which cannot be given back. Null when memory is short.
+///
+/// The first come from `allocate`. What a large document needs beyond them are parts of huge pages, where the system
+/// has those: getting, clearing and finding all the pages of the usual size would be a tenth of its time.
+void* new_block(void* (*allocate)(std::size_t));
+
 /// Memory for things of which there are very many, cut from the large blocks of an allocator. Things of one size lie
 /// one behind the other in the order in which they were made: nothing stands between them, and walking them reads
 /// memory in its order. What is given back is used for others of its size.
@@ -45,10 +54,8 @@ class Blocks {
     struct Piece {
       Piece* next;
     };
-    static constexpr std::size_t kBlockSize = std::size_t{32} * 1024;
-
     bool begin_block() {
-      next_ = static_cast<char*>(allocate(kBlockSize));
+      next_ = static_cast<char*>(new_block(allocate));
       left_ = next_ ? kBlockSize : 0;
       return next_ != nullptr;
     }

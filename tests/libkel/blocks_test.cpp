@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -81,6 +82,18 @@ TEST(Blocks, GiveNullWhenMemoryIsShort) {
   memory_is_short = false;
   Things things;
   EXPECT_NE(nullptr, things.take(400));
+}
+
+// The last, since after it `allocate` is no longer asked for blocks.
+TEST(Blocks, KeepApartWhatNeedsHugePages) {
+  using Large = Blocks<std::malloc, std::free>;
+  std::vector<std::uint32_t*> things;
+  for (std::uint32_t i = 0; i < 20000; ++i) {
+    things.push_back(static_cast<std::uint32_t*>(Large::take(400)));
+    std::fill_n(things.back(), 100, i);
+  }
+  for (std::uint32_t i = 0; i < things.size(); ++i) EXPECT_EQ(100, std::count(things[i], things[i] + 100, i)) << i;
+  for (std::uint32_t* thing : things) Large::give_back(thing, 400);
 }
 
 }  // namespace
