@@ -4,6 +4,7 @@
 
 #include "generate/generate_support.h"
 #include "vqc/cmd/generate/config_file.h"
+#include "vqc/cmd/model/options.h"
 
 namespace {
 
@@ -83,6 +84,13 @@ class Families : public GenerateTest {
 };
 
 TEST_F(Families, WithoutFamiliesOnlyTheEndOfTheTable) { expect("", ""); }
+
+TEST_F(Families, TableIsNamedByTheResourceUnlessThatIsEmpty) {
+  name_options.family_table.resource = "from_resource";
+  EXPECT_NE(std::string::npos, written_by(write_families).find("XFamily_t from_resource[] = {\n"));
+  name_options.family_table.resource = "";
+  EXPECT_NE(std::string::npos, written_by(write_families).find("XFamily_t xw_families[] = {\n"));
+}
 
 TEST_F(Families, EmptyFamilyHasBlocksButNoTablesInItsRow) {
   document("family 'Demo' { }");
