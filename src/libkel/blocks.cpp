@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kUsualBlocks = 64;  // as many as fill a huge page
 
+/// Null when memory is short.
 void* block_of_huge_page() {
   constexpr std::size_t kHugePage = std::size_t{2} * 1024 * 1024;
   static char* next = nullptr;
@@ -27,7 +28,8 @@ void* block_of_huge_page() {
 
 void* new_block(void* (*allocate)(std::size_t)) {
   static int usual = 0;
-  if (usual == kUsualBlocks) return block_of_huge_page();
-  ++usual;
+  void* huge = usual == kUsualBlocks ? block_of_huge_page() : nullptr;
+  if (huge) return huge;
+  if (usual < kUsualBlocks) ++usual;
   return allocate(kBlockSize);
 }

@@ -17,7 +17,8 @@
 /// What things of one size are cut from at a time.
 inline constexpr std::size_t kBlockSize = std::size_t{32} * 1024;
 
-/// A new block, which cannot be given back. Null when memory is short.
+/// A new block, which cannot be given back. What happens when memory is short is up to `allocate`, which may return
+/// null.
 ///
 /// The first come from `allocate`. What a large document needs beyond them are parts of huge pages, where the system
 /// has those: getting, clearing and finding all the pages of the usual size would be a tenth of its time.

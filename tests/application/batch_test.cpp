@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "application/run_program.h"
+#include "libkel/blocks.h"
 
 namespace {
 
@@ -188,5 +189,27 @@ TEST_F(Batch, TitlesAndRepeatsAreOff) {
   EXPECT_FALSE(has_text("w_config.c", "Alias definitions"));
   EXPECT_FALSE(has_text("w_config.c", "/*\t"));
 }
+
+#if !KEL_ADDRESS_SANITIZER  // which itself takes more than any limit
+TEST_F(Batch, IsWholeOrSaysThatMemoryIsShort) {
+  std::string large = "VQconfig family 'F' {";
+  for (int i = 0; i < 100000; ++i) large += " header='folder/of/the/header" + std::to_string(i) + ".h'";
+  folder.with("large.vqc", large + " }");
+  ASSERT_EQ(silence, run({"-c", "whole.c", "large.vqc"}));
+  int failures = 0;
+  for (int kilobytes = 28000; kilobytes <= 60000; kilobytes += 2000) {
+    const Outcome outcome = run({"-c", "some.c", "large.vqc"}, {.memory = kilobytes});
+    if (outcome.status == 0) {
+      EXPECT_EQ(read_file(folder / "whole.c"), read_file(folder / "some.c")) << kilobytes;
+    } else {
+      EXPECT_TRUE(outcome == (Outcome{255, "", "vqconfig: out of memory. Exiting...\n"}) ||
+                  outcome == (Outcome{1, "", "Error: Cannot perform malloc\n"}))
+          << kilobytes << " kB: " << testing::PrintToString(outcome);
+      ++failures;
+    }
+  }
+  EXPECT_LT(0, failures);
+}
+#endif
 
 }  // namespace

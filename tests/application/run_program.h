@@ -37,6 +37,7 @@ struct Surroundings {
   std::vector<std::string> environment = {};  // "NAME=value"; otherwise no display, no home and no resource files
   bool out_closed = false;
   bool err_closed = false;
+  int memory = 0;  // kilobytes that it may use; 0 for any number
 };
 
 /// The instructions by which a process is made.
@@ -91,9 +92,15 @@ class ProgramTest : public testing::Test {
     redirect(actions, STDOUT_FILENO, streams_ / "out", surroundings.out_closed);
     redirect(actions, STDERR_FILENO, streams_ / "err", surroundings.err_closed);
     words.insert(words.begin(), program_name);
+    const char* program = VQCONFIG_PROGRAM;
+    if (surroundings.memory != 0) {
+      words.front() = program;
+      program = "/bin/sh";
+      words.insert(words.begin(), {"sh", "-c", "ulimit -v $0 && exec \"$@\"", std::to_string(surroundings.memory)});
+    }
     std::vector<std::string> environment = bare_environment();
     environment.insert(environment.end(), surroundings.environment.begin(), surroundings.environment.end());
-    const int status = wait_for(spawn(actions, words, environment));
+    const int status = wait_for(spawn(program, actions, words, environment));
     return {status, surroundings.out_closed ? "" : read_file(streams_ / "out"),
             surroundings.err_closed ? "" : read_file(streams_ / "err")};
   }
@@ -121,10 +128,10 @@ class ProgramTest : public testing::Test {
     }
   }
 
-  static pid_t spawn(const SpawnActions& actions, std::vector<std::string>& words,
+  static pid_t spawn(const char* program, const SpawnActions& actions, std::vector<std::string>& words,
                      std::vector<std::string>& environment) {
     pid_t process = 0;
-    const int error = posix_spawn(&process, VQCONFIG_PROGRAM, actions.get(), nullptr, pointers_to(words).data(),
+    const int error = posix_spawn(&process, program, actions.get(), nullptr, pointers_to(words).data(),
                                   pointers_to(environment).data());
     if (error != 0) throw std::runtime_error(std::string("cannot run the program: ") + std::strerror(error));
     return process;

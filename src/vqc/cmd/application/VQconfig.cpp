@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <new>
 
 #include "libkel/installation.h"
 #include "vqc/cmd/application/batch.h"
@@ -30,6 +31,12 @@ void give_large_memory_back() {
   mallopt(M_MMAP_THRESHOLD, kLarge);
 }
 
+/// Ends a run that is short of memory: going on would lose a part of the document without a word.
+[[noreturn]] void give_up_for_memory() {
+  std::fputs("vqconfig: out of memory. Exiting...\n", stderr);
+  std::_Exit(-1);
+}
+
 [[noreturn]] void give_up(const char* program, const char* reason) {
   std::fprintf(stderr, "%s: %s. Exiting...\n", program, reason);
   std::exit(-1);
@@ -40,6 +47,7 @@ void give_large_memory_back() {
 int main(int argc, char** argv) {
   open_standard_streams();
   give_large_memory_back();
+  std::set_new_handler(give_up_for_memory);
   use_installation();
   const char* obstacle = open_display(&argc, argv);
   parse_command_line(argc, argv);
