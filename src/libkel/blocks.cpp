@@ -28,8 +28,10 @@ void* block_of_huge_page() {
 
 void* new_block(void* (*allocate)(std::size_t)) {
   static int usual = 0;
-  void* huge = usual == kUsualBlocks ? block_of_huge_page() : nullptr;
-  if (huge) return huge;
-  if (usual < kUsualBlocks) ++usual;
-  return allocate(kBlockSize);
+  if (usual < kUsualBlocks) {
+    ++usual;
+    return allocate(kBlockSize);
+  }
+  void* block = block_of_huge_page();
+  return block ? block : allocate(kBlockSize);
 }

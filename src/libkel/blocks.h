@@ -55,6 +55,7 @@ class Blocks {
     struct Piece {
       Piece* next;
     };
+
     bool begin_block() {
       next_ = static_cast<char*>(new_block(allocate));
       left_ = next_ ? kBlockSize : 0;
