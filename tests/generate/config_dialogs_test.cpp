@@ -24,6 +24,16 @@ TEST_F(StopListText, IsWrittenAsItStands) {
   EXPECT_EQ("char vq_config_stop_list[] = \"50%% \\n \"x\" %s\";\n\n", written_by(write_stop_list));
 }
 
+TEST_F(StopListText, KeepsTheDoubledPerCentSignsOfItsName) {
+  document("generate_stop_list_string='out%%' stop_list='XmList'");
+  EXPECT_EQ("char out%%[] = \"XmList\";\n\n", written_by(write_stop_list));
+}
+
+TEST_F(StopListText, KeepsTheDoubledPerCentSignsOfItsNameWhenThereIsNone) {
+  document("generate_stop_list_string='100%%%'");
+  EXPECT_EQ("char *100%%% = (char *) 0;\n\n", written_by(write_stop_list));
+}
+
 TEST_F(StopListText, IsSetWhenItIsEmpty) {
   stop_list_set("");
   EXPECT_EQ("char vq_config_stop_list[] = \"\";\n\n", written_by(write_stop_list));

@@ -6,6 +6,7 @@
 
 namespace {
 
+// Each is one formatted print, whose arguments pass through no other: per-cent signs of the name and of the text stay.
 constexpr Template stop_list_array = "char @NAME@[] = \"@TEXT@\";\n\n";
 constexpr Template no_stop_list = "char *@NAME@ = (char *) 0;\n\n";
 
@@ -33,9 +34,10 @@ void write_config_file(Run& run) {
 }
 
 void write_stop_list(Run& run) {
+  const Verbatim name{vqc_get_stop_list_variable()};
   if (excluded_classes) {
-    emit<stop_list_array>(run.out, vqc_get_stop_list_variable(), Verbatim{excluded_classes});
+    emit<stop_list_array>(run.out, name, Verbatim{excluded_classes});
   } else {
-    emit<no_stop_list>(run.out, vqc_get_stop_list_variable());
+    emit<no_stop_list>(run.out, name);
   }
 }

@@ -51,23 +51,24 @@ inline constexpr auto pieces = [] {
 
 }  // namespace emit_detail
 
-// How values are put into a template.
+// How values are put into a template. A text of the document passes through charout, which prints "%%" as "%"; the
+// wrappers say where it is an argument of a formatted print instead, and comes out as it stands.
 
-/// As it stands, or `fallback` when null.
+/// Through charout, or `fallback` when null.
 struct Or {
   const Text& text;
   std::string_view fallback;
 };
-/// In double quotes, or `fallback` when null.
+/// Through stringout: in double quotes. `fallback` when null.
 struct Quoted {
   const Text& text;
   std::string_view fallback;
 };
-/// Through ptrout: per-cent signs stay as they are, null is "0".
+/// Through ptrout: as it stands, "0" when null.
 struct Verbatim {
   const char* text;
 };
-/// Through ptrsfxout: with a suffix, or "0" when null.
+/// Through ptrsfxout: as it stands, with a suffix; "0" when null.
 struct Suffixed {
   const char* text;
   const char* suffix;
