@@ -6,134 +6,132 @@ namespace {
 
 // The lists that families have, and the records they refer to.
 
-template <class Kind>
-class FamilyListTest : public KindTest<Kind> {};
-TYPED_TEST_SUITE(FamilyListTest, KindsOfFamilies, KindNames);
+class FamilyListTest : public KindTest {};
+FOR_KINDS(FamilyListTest, [](const ListKind& kind) { return kind.pool != nullptr; });
 
-TYPED_TEST(FamilyListTest, RefusesANullFamily) {
-  EXPECT_EQ(1, TypeParam::add_to(nullptr, "a"));
-  EXPECT_EQ(1, TypeParam::remove_from(nullptr, "a"));
-  EXPECT_EQ(nullptr, TypeParam::first_of(nullptr));
-  EXPECT_EQ(nullptr, TypeParam::ptr_in(nullptr, "a"));
-  EXPECT_EQ(0, TypeParam::count_of(nullptr));
-  EXPECT_EQ(nullptr, TypeParam::Pool::ptr("a"));
+TEST_P(FamilyListTest, RefusesANullFamily) {
+  EXPECT_EQ(1, kind.add_to(nullptr, "a"));
+  EXPECT_EQ(1, kind.remove_from(nullptr, "a"));
+  EXPECT_EQ(nullptr, kind.first_of(nullptr));
+  EXPECT_EQ(nullptr, kind.ptr_in(nullptr, "a"));
+  EXPECT_EQ(0, kind.count_of(nullptr));
+  EXPECT_EQ(nullptr, kind.pool->ptr("a"));
   EXPECT_FALSE(dirty);
 }
 
-TYPED_TEST(FamilyListTest, NamingARecordCreatesIt) {
-  EXPECT_EQ(0, TypeParam::add("a"));
-  auto* record = TypeParam::Pool::ptr("a");
+TEST_P(FamilyListTest, NamingARecordCreatesIt) {
+  EXPECT_EQ(0, kind.add("a"));
+  AnyElement record = kind.pool->ptr("a");
   ASSERT_NE(nullptr, record);
-  EXPECT_EQ(record, TypeParam::ptr("a")->record);
+  EXPECT_EQ(record, kind.record(kind.ptr("a")));
 }
 
-TYPED_TEST(FamilyListTest, RefersToTheRecordThatIsThere) {
-  TypeParam::Pool::add("a");
-  auto* record = TypeParam::Pool::ptr("a");
-  EXPECT_EQ(0, TypeParam::add("a"));
-  EXPECT_EQ(record, TypeParam::ptr("a")->record);
-  EXPECT_EQ(record, TypeParam::Pool::ptr("a"));
+TEST_P(FamilyListTest, RefersToTheRecordThatIsThere) {
+  kind.pool->add("a");
+  AnyElement record = kind.pool->ptr("a");
+  EXPECT_EQ(0, kind.add("a"));
+  EXPECT_EQ(record, kind.record(kind.ptr("a")));
+  EXPECT_EQ(record, kind.pool->ptr("a"));
 }
 
-TYPED_TEST(FamilyListTest, FamiliesShareARecord) {
-  Family* other = this->new_family("G");
-  TypeParam::add("a");
-  EXPECT_EQ(0, TypeParam::add_to(other, "a"));
-  EXPECT_EQ(TypeParam::ptr("a")->record, TypeParam::ptr_in(other, "a")->record);
+TEST_P(FamilyListTest, FamiliesShareARecord) {
+  Family* other = new_family("G");
+  kind.add("a");
+  EXPECT_EQ(0, kind.add_to(other, "a"));
+  EXPECT_EQ(kind.record(kind.ptr("a")), kind.record(kind.ptr_in(other, "a")));
 }
 
-TYPED_TEST(FamilyListTest, FamiliesHaveListsOfTheirOwn) {
-  Family* other = this->new_family("G");
-  TypeParam::add("a");
-  EXPECT_EQ(nullptr, TypeParam::ptr_in(other, "a"));
-  EXPECT_EQ(TypeParam::row.absent, TypeParam::remove_from(other, "a"));
-  EXPECT_EQ(1, TypeParam::count());
+TEST_P(FamilyListTest, FamiliesHaveListsOfTheirOwn) {
+  Family* other = new_family("G");
+  kind.add("a");
+  EXPECT_EQ(nullptr, kind.ptr_in(other, "a"));
+  EXPECT_EQ(kind.row.absent, kind.remove_from(other, "a"));
+  EXPECT_EQ(1, kind.count());
 }
 
-TYPED_TEST(FamilyListTest, DeletingFromOneFamilyLeavesTheOthers) {
-  Family* other = this->new_family("G");
-  TypeParam::add("a");
-  TypeParam::add_to(other, "a");
-  EXPECT_EQ(0, TypeParam::remove("a"));
-  ASSERT_NE(nullptr, TypeParam::ptr_in(other, "a"));
-  EXPECT_EQ(TypeParam::Pool::ptr("a"), TypeParam::ptr_in(other, "a")->record);
+TEST_P(FamilyListTest, DeletingFromOneFamilyLeavesTheOthers) {
+  Family* other = new_family("G");
+  kind.add("a");
+  kind.add_to(other, "a");
+  EXPECT_EQ(0, kind.remove("a"));
+  ASSERT_NE(nullptr, kind.ptr_in(other, "a"));
+  EXPECT_EQ(kind.pool->ptr("a"), kind.record(kind.ptr_in(other, "a")));
 }
 
-TYPED_TEST(FamilyListTest, DeletingAFamilyForgetsItsCurrentElement) {
-  TypeParam::add("a");
-  TypeParam::set_current(TypeParam::ptr("a"));
+TEST_P(FamilyListTest, DeletingAFamilyForgetsItsCurrentElement) {
+  kind.add("a");
+  kind.set_current(kind.ptr("a"));
   family_delete("F");
-  EXPECT_EQ(nullptr, TypeParam::current());
-  EXPECT_EQ(nullptr, TypeParam::next());
+  EXPECT_EQ(nullptr, kind.current());
+  EXPECT_EQ(nullptr, kind.next());
 }
 
-TYPED_TEST(FamilyListTest, DeletingAllFamiliesLeavesNoCursor) {
-  add_all<TypeParam>({"a", "b"});
-  TypeParam::set_current(TypeParam::ptr("b"));
-  TypeParam::first();
+TEST_P(FamilyListTest, DeletingAllFamiliesLeavesNoCursor) {
+  kind.add_all({"a", "b"});
+  kind.set_current(kind.ptr("b"));
+  kind.first();
   family_delete_all();
-  EXPECT_EQ(nullptr, TypeParam::next());
-  EXPECT_EQ(nullptr, TypeParam::current());
+  EXPECT_EQ(nullptr, kind.next());
+  EXPECT_EQ(nullptr, kind.current());
 }
 
 // Records that count their uses.
 
-template <class Kind>
-class UseCountTest : public KindTest<Kind> {
+class UseCountTest : public KindTest {
  protected:
-  Family* other = this->new_family("G");
+  Family* other = new_family("G");
 };
-TYPED_TEST_SUITE(UseCountTest, KindsThatCountUses, KindNames);
+FOR_KINDS(UseCountTest, [](const ListKind& kind) { return kind.uses != nullptr; });
 
-TYPED_TEST(UseCountTest, IsOneForEachFamily) {
-  TypeParam::Pool::add("a");
-  EXPECT_EQ(0, TypeParam::Pool::ptr("a")->uses);
-  TypeParam::add("a");
-  EXPECT_EQ(1, TypeParam::Pool::ptr("a")->uses);
-  TypeParam::add_to(this->other, "a");
-  EXPECT_EQ(2, TypeParam::Pool::ptr("a")->uses);
-  TypeParam::remove("a");
-  EXPECT_EQ(1, TypeParam::Pool::ptr("a")->uses);
+TEST_P(UseCountTest, IsOneForEachFamily) {
+  kind.pool->add("a");
+  EXPECT_EQ(0, kind.uses("a"));
+  kind.add("a");
+  EXPECT_EQ(1, kind.uses("a"));
+  kind.add_to(other, "a");
+  EXPECT_EQ(2, kind.uses("a"));
+  kind.remove("a");
+  EXPECT_EQ(1, kind.uses("a"));
 }
 
-TYPED_TEST(UseCountTest, IsNotRaisedByADuplicate) {
-  TypeParam::add("a");
-  TypeParam::add("a");
-  EXPECT_EQ(1, TypeParam::Pool::ptr("a")->uses);
+TEST_P(UseCountTest, IsNotRaisedByADuplicate) {
+  kind.add("a");
+  kind.add("a");
+  EXPECT_EQ(1, kind.uses("a"));
 }
 
-TYPED_TEST(UseCountTest, TakesTheRecordAwayWithItsLastUse) {
-  TypeParam::add("a");
-  TypeParam::add_to(this->other, "a");
-  TypeParam::remove("a");
-  EXPECT_NE(nullptr, TypeParam::Pool::ptr("a"));
-  TypeParam::remove_from(this->other, "a");
-  EXPECT_EQ(nullptr, TypeParam::Pool::ptr("a"));
+TEST_P(UseCountTest, TakesTheRecordAwayWithItsLastUse) {
+  kind.add("a");
+  kind.add_to(other, "a");
+  kind.remove("a");
+  EXPECT_NE(nullptr, kind.pool->ptr("a"));
+  kind.remove_from(other, "a");
+  EXPECT_EQ(nullptr, kind.pool->ptr("a"));
 }
 
-TYPED_TEST(UseCountTest, TakesTheRecordAwayWithItsLastFamily) {
-  TypeParam::add("a");
-  TypeParam::add_to(this->other, "a");
+TEST_P(UseCountTest, TakesTheRecordAwayWithItsLastFamily) {
+  kind.add("a");
+  kind.add_to(other, "a");
   family_delete("G");
-  EXPECT_NE(nullptr, TypeParam::Pool::ptr("a"));
+  EXPECT_NE(nullptr, kind.pool->ptr("a"));
   family_delete("F");
-  EXPECT_EQ(nullptr, TypeParam::Pool::ptr("a"));
+  EXPECT_EQ(nullptr, kind.pool->ptr("a"));
 }
 
-TYPED_TEST(UseCountTest, LeavesARecordThatNoFamilyEverUsed) {
-  TypeParam::Pool::add("unused");
-  TypeParam::add("a");
-  TypeParam::remove("a");
+TEST_P(UseCountTest, LeavesARecordThatNoFamilyEverUsed) {
+  kind.pool->add("unused");
+  kind.add("a");
+  kind.remove("a");
   family_delete_all();
-  EXPECT_NE(nullptr, TypeParam::Pool::ptr("unused"));
-  EXPECT_EQ(1, TypeParam::Pool::count());
+  EXPECT_NE(nullptr, kind.pool->ptr("unused"));
+  EXPECT_EQ(1, kind.pool->count());
 }
 
-TYPED_TEST(UseCountTest, StartsAnewWithARecordThatComesBack) {
-  TypeParam::add("a");
-  TypeParam::remove("a");
-  TypeParam::add("a");
-  EXPECT_EQ(1, TypeParam::Pool::ptr("a")->uses);
+TEST_P(UseCountTest, StartsAnewWithARecordThatComesBack) {
+  kind.add("a");
+  kind.remove("a");
+  kind.add("a");
+  EXPECT_EQ(1, kind.uses("a"));
 }
 
 class PopupsAndPages : public ModelTest {};

@@ -16,8 +16,8 @@ TEST_F(FamilyTest, StartsWithThePredefinedPagesAndPopups) {
   Family* family = new_family("F");
   EXPECT_EQ(predefined_pages, names_in(family->pages));
   EXPECT_EQ(predefined_popups, names_in(family->popups));
-  EXPECT_EQ(predefined_pages, walked<PagePool>());
-  EXPECT_EQ(predefined_popups, walked<PopupPool>());
+  EXPECT_EQ(predefined_pages, list_kind<PagePool>()->walked());
+  EXPECT_EQ(predefined_popups, list_kind<PopupPool>()->walked());
 }
 
 TEST_F(FamilyTest, StartsWithNothingElse) {
@@ -87,7 +87,7 @@ TEST_F(FamilyTest, DeletingOneLeavesTheOthersAsTheyAre) {
   widgetlist_add("W", family_ptr("F"));
   widgetlist_add("V", other);
   family_delete("F");
-  EXPECT_EQ(Names{"G"}, walked<FamilyPool>());
+  EXPECT_EQ(Names{"G"}, list_kind<FamilyPool>()->walked());
   EXPECT_EQ(Names{"V"}, names_in(other->widgets));
   EXPECT_EQ(predefined_pages, names_in(other->pages));
   EXPECT_EQ(predefined_popups, names_in(other->popups));

@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
+#include <type_traits>
+#include <vector>
 
 #include "support/model.h"
 #include "vqc/cmd/model/alias.h"
@@ -16,7 +19,8 @@
 #include "vqc/cmd/model/popup.h"
 #include "vqc/cmd/model/widgetedit.h"
 
-// One type for each kind of list, with the kind's functions under common names, its order and its failure codes.
+// One type for each kind of list, with the kind's functions under common names, its order and its failure codes; and
+// from each a ListKind, which tests take as their parameter, so that they are compiled once for all kinds.
 
 /// What is fixed for a kind of list.
 struct KindRow {
@@ -218,59 +222,150 @@ struct FamilyConfigHeaders : FamilyApi<confheaderlist_add, confheaderlist_delete
   static constexpr KindRow row{"FamilyConfigHeaders", false, 20, 17};
 };
 
-// The kinds, by what can be asked of them.
+// The same as values.
 
-using AllKinds = testing::Types<FamilyPool, WidgetPool, EnumPool, AliasPool, ConverterPool, PopupPool, PagePool,
-                                CodeHeaderPool, FamilyHeaderPool, ConfigHeaderPool, Resources, Entries, FamilyWidgets,
-                                FamilyEnums, FamilyAliases, FamilyConverters, FamilyPopups, FamilyPages,
-                                FamilyCodeHeaders, FamilyFamilyHeaders, FamilyConfigHeaders>;
-using KindsWithIndex =
-    testing::Types<Entries, FamilyWidgets, FamilyEnums, FamilyAliases, FamilyConverters, FamilyPopups, FamilyPages,
-                   FamilyCodeHeaders, FamilyFamilyHeaders, FamilyConfigHeaders>;
-using KindsWithCurrent =
-    testing::Types<FamilyPool, Resources, Entries, FamilyWidgets, FamilyEnums, FamilyAliases, FamilyConverters,
-                   FamilyPopups, FamilyPages, FamilyCodeHeaders, FamilyFamilyHeaders, FamilyConfigHeaders>;
-using KindsWithMoves = testing::Types<FamilyPool, Entries, FamilyWidgets, FamilyConverters, FamilyPages,
-                                      FamilyCodeHeaders, FamilyFamilyHeaders, FamilyConfigHeaders>;
-using KindsOfFamilies = testing::Types<FamilyWidgets, FamilyEnums, FamilyAliases, FamilyConverters, FamilyPopups,
-                                       FamilyPages, FamilyCodeHeaders, FamilyFamilyHeaders, FamilyConfigHeaders>;
-using KindsThatCountUses = testing::Types<FamilyWidgets, FamilyEnums, FamilyAliases, FamilyConverters,
-                                          FamilyCodeHeaders, FamilyFamilyHeaders, FamilyConfigHeaders>;
+/// An element of whatever kind; null for none.
+using AnyElement = void*;
 
-/// Names the tests of a kind after it.
-struct KindNames {
-  template <class Kind>
-  static std::string GetName(int) {
-    return Kind::row.name;
+/// The elements that on_current() of the kind under test has been called with.
+inline std::vector<AnyElement> told_elements;
+
+/// A kind of list. Null functions are what it cannot be asked.
+struct ListKind {
+  KindRow row;
+
+  void (*prepare)();
+  ErrorCode (*add)(const Text& name);
+  ErrorCode (*remove)(const Text& name);
+  AnyElement (*first)();
+  AnyElement (*next)();
+  AnyElement (*ptr)(const Text& name);
+  int (*count)();
+  const Text& (*name)(AnyElement element);
+
+  int (*index)(const Text& name) = nullptr;
+
+  void (*set_current)(AnyElement element) = nullptr;
+  AnyElement (*current)() = nullptr;
+  void (*listen)(bool on) = nullptr;  // to what becomes current
+
+  ErrorCode (*move_up)(const Text& name) = nullptr;
+  ErrorCode (*move_down)(const Text& name) = nullptr;
+
+  ErrorCode (*add_to)(Family* family, const Text& name) = nullptr;
+  ErrorCode (*remove_from)(Family* family, const Text& name) = nullptr;
+  AnyElement (*first_of)(Family* family) = nullptr;
+  AnyElement (*ptr_in)(Family* family, const Text& name) = nullptr;
+  int (*count_of)(Family* family) = nullptr;
+  AnyElement (*record)(AnyElement reference) = nullptr;
+  const ListKind* pool = nullptr;
+  int (*uses)(const Text& name) = nullptr;  // of the record of that name
+
+  /// The names of the list, by walking it.
+  Names walked() const {
+    Names names;
+    for (AnyElement element = first(); element; element = next()) names.emplace_back(name(element).view());
+    return names;
+  }
+  void add_all(const Names& names) const {
+    for (const std::string& each : names) EXPECT_EQ(0, add(each.c_str())) << each;
+  }
+  void remove_all() const {
+    while (AnyElement element = first()) remove(name(element));
   }
 };
 
-/// The names of a kind's list, by walking it.
+inline void PrintTo(const ListKind* kind, std::ostream* out) { *out << kind->row.name; }
+
+/// What every kind can be asked.
 template <class Kind>
-Names walked() {
-  Names names;
-  for (auto* element = Kind::first(); element; element = Kind::next()) names.emplace_back(name_of(*element).view());
-  return names;
+ListKind basic_list_kind() {
+  using Element = std::remove_pointer_t<decltype(Kind::first())>;
+  return {.row = Kind::row,
+          .prepare = Kind::prepare,
+          .add = Kind::add,
+          .remove = Kind::remove,
+          .first = []() -> AnyElement { return Kind::first(); },
+          .next = []() -> AnyElement { return Kind::next(); },
+          .ptr = [](const Text& name) -> AnyElement { return Kind::ptr(name); },
+          .count = Kind::count,
+          .name = [](AnyElement element) -> const Text& { return name_of(*static_cast<Element*>(element)); }};
 }
 
 template <class Kind>
-void add_all(const Names& names) {
-  for (const std::string& name : names) EXPECT_EQ(0, Kind::add(name.c_str())) << name;
+void add_current_element(ListKind& kind) {
+  using Element = typename std::remove_reference_t<decltype(Kind::object)>::Element;
+  kind.set_current = [](AnyElement element) { Kind::set_current(static_cast<Element*>(element)); };
+  kind.current = []() -> AnyElement { return Kind::current(); };
+  kind.listen = [](bool on) {
+    Kind::object.on_current = on ? +[](Element* element) { told_elements.push_back(element); } : nullptr;
+  };
 }
 
 template <class Kind>
-void remove_all() {
-  while (auto* element = Kind::first()) Kind::remove(name_of(*element));
+const ListKind* list_kind();
+
+template <class Kind>
+void add_families(ListKind& kind) {
+  using Reference = std::remove_pointer_t<decltype(Kind::first())>;
+  kind.add_to = Kind::add_to;
+  kind.remove_from = Kind::remove_from;
+  kind.first_of = [](Family* family) -> AnyElement { return Kind::first_of(family); };
+  kind.ptr_in = [](Family* family, const Text& name) -> AnyElement { return Kind::ptr_in(family, name); };
+  kind.count_of = Kind::count_of;
+  kind.record = [](AnyElement reference) -> AnyElement { return static_cast<Reference*>(reference)->record; };
+  kind.pool = list_kind<typename Kind::Pool>();
+  if constexpr (requires { Kind::Pool::ptr(nullptr)->uses; }) {
+    kind.uses = [](const Text& name) { return static_cast<int>(Kind::Pool::ptr(name)->uses); };
+  }
 }
+
+template <class Kind>
+const ListKind* list_kind() {
+  static const ListKind made = [] {
+    ListKind kind = basic_list_kind<Kind>();
+    if constexpr (requires { Kind::index(nullptr); }) kind.index = Kind::index;
+    if constexpr (requires { Kind::current(); }) add_current_element<Kind>(kind);
+    if constexpr (requires { Kind::move_up(nullptr); }) {
+      kind.move_up = Kind::move_up;
+      kind.move_down = Kind::move_down;
+    }
+    if constexpr (requires { typename Kind::Pool; }) add_families<Kind>(kind);
+    return kind;
+  }();
+  return &made;
+}
+
+/// Those of these kinds of which `wanted` is true.
+template <class... Kinds>
+std::vector<const ListKind*> those_of(bool (*wanted)(const ListKind& kind)) {
+  std::vector<const ListKind*> chosen;
+  for (const ListKind* kind : {list_kind<Kinds>()...}) {
+    if (wanted(*kind)) chosen.push_back(kind);
+  }
+  return chosen;
+}
+
+/// Those of all kinds.
+inline constexpr auto kinds =
+    those_of<FamilyPool, WidgetPool, EnumPool, AliasPool, ConverterPool, PopupPool, PagePool, CodeHeaderPool,
+             FamilyHeaderPool, ConfigHeaderPool, Resources, Entries, FamilyWidgets, FamilyEnums, FamilyAliases,
+             FamilyConverters, FamilyPopups, FamilyPages, FamilyCodeHeaders, FamilyFamilyHeaders, FamilyConfigHeaders>;
 
 /// A test of one kind of list, which begins with an empty list.
-template <class Kind>
-class KindTest : public ModelTest {
+class KindTest : public ModelTest, public testing::WithParamInterface<const ListKind*> {
  protected:
   KindTest() {
-    Kind::prepare();
+    kind.prepare();
     dirty = false;
   }
+
+  const ListKind& kind = *GetParam();
 };
+
+/// Runs the tests of a suite for the kinds of which `wanted` is true, and names them after the kinds.
+#define FOR_KINDS(Suite, wanted)                                           \
+  INSTANTIATE_TEST_SUITE_P(Kinds, Suite, testing::ValuesIn(kinds(wanted)), \
+                           [](const auto& each) { return std::string(each.param->row.name); })
 
 #endif

@@ -48,9 +48,8 @@ class PlainList {
 };
 
 /// What a list of the kind holds after names came in that order.
-template <class Kind>
-Names in_order_of(Names names) {
-  if (Kind::row.sorted) std::sort(names.begin(), names.end());
+Names in_order_of(const ListKind& kind, Names names) {
+  if (kind.row.sorted) std::sort(names.begin(), names.end());
   return names;
 }
 
@@ -62,374 +61,360 @@ Names numbered(int count) {
 
 // Every kind of list.
 
-template <class Kind>
-class OrderedListTest : public KindTest<Kind> {};
-TYPED_TEST_SUITE(OrderedListTest, AllKinds, KindNames);
+class OrderedListTest : public KindTest {};
+FOR_KINDS(OrderedListTest, [](const ListKind&) { return true; });
 
-TYPED_TEST(OrderedListTest, IsEmptyAtFirst) {
-  EXPECT_EQ(nullptr, TypeParam::first());
-  EXPECT_EQ(nullptr, TypeParam::next());
-  EXPECT_EQ(0, TypeParam::count());
-  EXPECT_EQ(nullptr, TypeParam::ptr("a"));
+TEST_P(OrderedListTest, IsEmptyAtFirst) {
+  EXPECT_EQ(nullptr, kind.first());
+  EXPECT_EQ(nullptr, kind.next());
+  EXPECT_EQ(0, kind.count());
+  EXPECT_EQ(nullptr, kind.ptr("a"));
 }
 
-TYPED_TEST(OrderedListTest, AddsAtThePlaceThatItsOrderGives) {
-  add_all<TypeParam>({"b", "a", "c"});
-  EXPECT_EQ(TypeParam::row.sorted ? (Names{"a", "b", "c"}) : (Names{"b", "a", "c"}), walked<TypeParam>());
+TEST_P(OrderedListTest, AddsAtThePlaceThatItsOrderGives) {
+  kind.add_all({"b", "a", "c"});
+  EXPECT_EQ(kind.row.sorted ? (Names{"a", "b", "c"}) : (Names{"b", "a", "c"}), kind.walked());
 }
 
-TYPED_TEST(OrderedListTest, TakesNamesInEveryOrderOfArrival) {
+TEST_P(OrderedListTest, TakesNamesInEveryOrderOfArrival) {
   Names names{"a", "b", "c", "d", "e"};
   do {
-    add_all<TypeParam>(names);
-    EXPECT_EQ(in_order_of<TypeParam>(names), walked<TypeParam>());
-    remove_all<TypeParam>();
+    kind.add_all(names);
+    EXPECT_EQ(in_order_of(kind, names), kind.walked());
+    kind.remove_all();
   } while (std::next_permutation(names.begin(), names.end()));
 }
 
-TYPED_TEST(OrderedListTest, IsInOrderAfterEachArrival) {
+TEST_P(OrderedListTest, IsInOrderAfterEachArrival) {
   Names names{"a", "b", "c", "d"};
   do {
     Names arrived;
     for (const std::string& name : names) {
-      TypeParam::add(name.c_str());
+      kind.add(name.c_str());
       arrived.push_back(name);
-      EXPECT_EQ(in_order_of<TypeParam>(arrived), walked<TypeParam>());
+      EXPECT_EQ(in_order_of(kind, arrived), kind.walked());
     }
-    remove_all<TypeParam>();
+    kind.remove_all();
   } while (std::next_permutation(names.begin(), names.end()));
 }
 
-TYPED_TEST(OrderedListTest, ComparesBytes) {
-  add_all<TypeParam>({"\xe9", "b", "a.b", "_", "B", "ab", "a"});
-  EXPECT_EQ(TypeParam::row.sorted ? (Names{"B", "_", "a", "a.b", "ab", "b", "\xe9"})
-                                  : (Names{"\xe9", "b", "a.b", "_", "B", "ab", "a"}),
-            walked<TypeParam>());
+TEST_P(OrderedListTest, ComparesBytes) {
+  kind.add_all({"\xe9", "b", "a.b", "_", "B", "ab", "a"});
+  EXPECT_EQ(kind.row.sorted ? (Names{"B", "_", "a", "a.b", "ab", "b", "\xe9"})
+                            : (Names{"\xe9", "b", "a.b", "_", "B", "ab", "a"}),
+            kind.walked());
 }
 
-TYPED_TEST(OrderedListTest, TellsCaseApart) {
-  EXPECT_EQ(0, TypeParam::add("name"));
-  EXPECT_EQ(0, TypeParam::add("NAME"));
-  EXPECT_EQ(2, TypeParam::count());
+TEST_P(OrderedListTest, TellsCaseApart) {
+  EXPECT_EQ(0, kind.add("name"));
+  EXPECT_EQ(0, kind.add("NAME"));
+  EXPECT_EQ(2, kind.count());
 }
 
-TYPED_TEST(OrderedListTest, RefusesANameTwice) {
-  add_all<TypeParam>({"b", "a"});
-  const Names before = walked<TypeParam>();
+TEST_P(OrderedListTest, RefusesANameTwice) {
+  kind.add_all({"b", "a"});
+  const Names before = kind.walked();
   dirty = false;
-  EXPECT_EQ(TypeParam::row.duplicate, TypeParam::add("a"));
-  EXPECT_EQ(TypeParam::row.duplicate, TypeParam::add("b"));
+  EXPECT_EQ(kind.row.duplicate, kind.add("a"));
+  EXPECT_EQ(kind.row.duplicate, kind.add("b"));
   EXPECT_FALSE(dirty);
-  EXPECT_EQ(before, walked<TypeParam>());
+  EXPECT_EQ(before, kind.walked());
 }
 
-TYPED_TEST(OrderedListTest, RefusesAnElementsOwnName) {
-  TypeParam::add("a");
-  EXPECT_EQ(TypeParam::row.duplicate, TypeParam::add(name_of(*TypeParam::ptr("a"))));
+TEST_P(OrderedListTest, RefusesAnElementsOwnName) {
+  kind.add("a");
+  EXPECT_EQ(kind.row.duplicate, kind.add(kind.name(kind.ptr("a"))));
 }
 
-TYPED_TEST(OrderedListTest, AddMarksTheDocumentChanged) {
-  TypeParam::add("a");
+TEST_P(OrderedListTest, AddMarksTheDocumentChanged) {
+  kind.add("a");
   EXPECT_TRUE(dirty);
 }
 
-TYPED_TEST(OrderedListTest, DeleteMarksTheDocumentChanged) {
-  TypeParam::add("a");
+TEST_P(OrderedListTest, DeleteMarksTheDocumentChanged) {
+  kind.add("a");
   dirty = false;
-  EXPECT_EQ(0, TypeParam::remove("a"));
+  EXPECT_EQ(0, kind.remove("a"));
   EXPECT_TRUE(dirty);
 }
 
-TYPED_TEST(OrderedListTest, DeleteOfAnAbsentNameChangesNothing) {
-  TypeParam::add("a");
+TEST_P(OrderedListTest, DeleteOfAnAbsentNameChangesNothing) {
+  kind.add("a");
   dirty = false;
-  EXPECT_EQ(TypeParam::row.absent, TypeParam::remove("b"));
+  EXPECT_EQ(kind.row.absent, kind.remove("b"));
   EXPECT_FALSE(dirty);
-  EXPECT_EQ(Names{"a"}, walked<TypeParam>());
+  EXPECT_EQ(Names{"a"}, kind.walked());
 }
 
-TYPED_TEST(OrderedListTest, DeletesAtEveryPlace) {
+TEST_P(OrderedListTest, DeletesAtEveryPlace) {
   for (const std::string& name : Names{"a", "b", "c", "d"}) {
-    add_all<TypeParam>({"a", "b", "c", "d"});
+    kind.add_all({"a", "b", "c", "d"});
     Names left{"a", "b", "c", "d"};
     left.erase(std::find(left.begin(), left.end(), name));
-    EXPECT_EQ(0, TypeParam::remove(name.c_str()));
-    EXPECT_EQ(left, walked<TypeParam>());
-    EXPECT_EQ(3, TypeParam::count());
-    remove_all<TypeParam>();
+    EXPECT_EQ(0, kind.remove(name.c_str()));
+    EXPECT_EQ(left, kind.walked());
+    EXPECT_EQ(3, kind.count());
+    kind.remove_all();
   }
 }
 
-TYPED_TEST(OrderedListTest, DeletesByTheElementsOwnName) {
-  add_all<TypeParam>({"a", "b"});
-  EXPECT_EQ(0, TypeParam::remove(name_of(*TypeParam::ptr("a"))));
-  EXPECT_EQ(Names{"b"}, walked<TypeParam>());
+TEST_P(OrderedListTest, DeletesByTheElementsOwnName) {
+  kind.add_all({"a", "b"});
+  EXPECT_EQ(0, kind.remove(kind.name(kind.ptr("a"))));
+  EXPECT_EQ(Names{"b"}, kind.walked());
 }
 
-TYPED_TEST(OrderedListTest, AddsAgainAfterTheLastElementWasDeleted) {
-  add_all<TypeParam>({"a", "b", "c"});
-  TypeParam::remove("c");
-  add_all<TypeParam>({"d", "c"});
-  EXPECT_EQ(TypeParam::row.sorted ? (Names{"a", "b", "c", "d"}) : (Names{"a", "b", "d", "c"}), walked<TypeParam>());
+TEST_P(OrderedListTest, AddsAgainAfterTheLastElementWasDeleted) {
+  kind.add_all({"a", "b", "c"});
+  kind.remove("c");
+  kind.add_all({"d", "c"});
+  EXPECT_EQ(kind.row.sorted ? (Names{"a", "b", "c", "d"}) : (Names{"a", "b", "d", "c"}), kind.walked());
 }
 
-TYPED_TEST(OrderedListTest, NextAfterTheEndStaysNull) {
-  TypeParam::add("a");
-  EXPECT_NE(nullptr, TypeParam::first());
-  EXPECT_EQ(nullptr, TypeParam::next());
-  EXPECT_EQ(nullptr, TypeParam::next());
+TEST_P(OrderedListTest, NextAfterTheEndStaysNull) {
+  kind.add("a");
+  EXPECT_NE(nullptr, kind.first());
+  EXPECT_EQ(nullptr, kind.next());
+  EXPECT_EQ(nullptr, kind.next());
 }
 
-TYPED_TEST(OrderedListTest, PtrMovesTheCursor) {
-  add_all<TypeParam>({"a", "b", "c"});
-  EXPECT_EQ("b", name_of(*TypeParam::ptr("b")).view());
-  EXPECT_EQ("c", name_of(*TypeParam::next()).view());
+TEST_P(OrderedListTest, PtrMovesTheCursor) {
+  kind.add_all({"a", "b", "c"});
+  EXPECT_EQ("b", kind.name(kind.ptr("b")).view());
+  EXPECT_EQ("c", kind.name(kind.next()).view());
 }
 
-TYPED_TEST(OrderedListTest, PtrMovesTheCursorToItsPlaceAmongNamesThatCameInAnyOrder) {
-  add_all<TypeParam>({"b", "a", "c"});
-  TypeParam::ptr("b");
-  auto* next = TypeParam::next();
+TEST_P(OrderedListTest, PtrMovesTheCursorToItsPlaceAmongNamesThatCameInAnyOrder) {
+  kind.add_all({"b", "a", "c"});
+  kind.ptr("b");
+  AnyElement next = kind.next();
   ASSERT_NE(nullptr, next);
-  EXPECT_EQ(TypeParam::row.sorted ? "c" : "a", name_of(*next).view());
+  EXPECT_EQ(kind.row.sorted ? "c" : "a", kind.name(next).view());
 }
 
-TYPED_TEST(OrderedListTest, PtrOfAnAbsentNameLeavesNoCursor) {
-  add_all<TypeParam>({"a", "b"});
-  TypeParam::first();
-  EXPECT_EQ(nullptr, TypeParam::ptr("c"));
-  EXPECT_EQ(nullptr, TypeParam::next());
+TEST_P(OrderedListTest, PtrOfAnAbsentNameLeavesNoCursor) {
+  kind.add_all({"a", "b"});
+  kind.first();
+  EXPECT_EQ(nullptr, kind.ptr("c"));
+  EXPECT_EQ(nullptr, kind.next());
 }
 
-TYPED_TEST(OrderedListTest, DeletingTheElementUnderTheCursorLeavesNoCursor) {
-  add_all<TypeParam>({"a", "b"});
-  TypeParam::ptr("a");
-  TypeParam::remove("a");
-  EXPECT_EQ(nullptr, TypeParam::next());
+TEST_P(OrderedListTest, DeletingTheElementUnderTheCursorLeavesNoCursor) {
+  kind.add_all({"a", "b"});
+  kind.ptr("a");
+  kind.remove("a");
+  EXPECT_EQ(nullptr, kind.next());
 }
 
-TYPED_TEST(OrderedListTest, AWalkMeetsOnlyWhatIsAddedAheadOfIt) {
-  add_all<TypeParam>({"a", "c"});
-  TypeParam::ptr("c");
-  TypeParam::add("b");
-  auto* next = TypeParam::next();
-  EXPECT_EQ(TypeParam::row.sorted ? "" : "b", next ? name_of(*next).view() : "");
+TEST_P(OrderedListTest, AWalkMeetsOnlyWhatIsAddedAheadOfIt) {
+  kind.add_all({"a", "c"});
+  kind.ptr("c");
+  kind.add("b");
+  AnyElement next = kind.next();
+  EXPECT_EQ(kind.row.sorted ? "" : "b", next ? kind.name(next).view() : "");
 }
 
-TYPED_TEST(OrderedListTest, FindsEveryNameOfALongList) {
+TEST_P(OrderedListTest, FindsEveryNameOfALongList) {
   Names names = numbered(1000);
   std::shuffle(names.begin(), names.end(), std::mt19937(1));
-  add_all<TypeParam>(names);
-  EXPECT_EQ(1000, TypeParam::count());
+  kind.add_all(names);
+  EXPECT_EQ(1000, kind.count());
   for (const std::string& name : names) {
-    auto* element = TypeParam::ptr(name.c_str());
+    AnyElement element = kind.ptr(name.c_str());
     ASSERT_NE(nullptr, element) << name;
-    EXPECT_EQ(name, name_of(*element).view());
-    EXPECT_EQ(TypeParam::row.duplicate, TypeParam::add(name.c_str()));
+    EXPECT_EQ(name, kind.name(element).view());
+    EXPECT_EQ(kind.row.duplicate, kind.add(name.c_str()));
   }
-  EXPECT_EQ(nullptr, TypeParam::ptr("n1000"));
-  EXPECT_EQ(in_order_of<TypeParam>(names), walked<TypeParam>());
+  EXPECT_EQ(nullptr, kind.ptr("n1000"));
+  EXPECT_EQ(in_order_of(kind, names), kind.walked());
 }
 
-TYPED_TEST(OrderedListTest, ForgetsWhatIsDeletedFromALongList) {
-  add_all<TypeParam>(numbered(100));
-  for (int i = 0; i < 100; i += 2) EXPECT_EQ(0, TypeParam::remove(("n" + std::to_string(i)).c_str()));
-  EXPECT_EQ(50, TypeParam::count());
-  EXPECT_EQ(nullptr, TypeParam::ptr("n98"));
-  EXPECT_NE(nullptr, TypeParam::ptr("n99"));
-  EXPECT_EQ(TypeParam::row.absent, TypeParam::remove("n98"));
-  EXPECT_EQ(0, TypeParam::add("n98"));
+TEST_P(OrderedListTest, ForgetsWhatIsDeletedFromALongList) {
+  kind.add_all(numbered(100));
+  for (int i = 0; i < 100; i += 2) EXPECT_EQ(0, kind.remove(("n" + std::to_string(i)).c_str()));
+  EXPECT_EQ(50, kind.count());
+  EXPECT_EQ(nullptr, kind.ptr("n98"));
+  EXPECT_NE(nullptr, kind.ptr("n99"));
+  EXPECT_EQ(kind.row.absent, kind.remove("n98"));
+  EXPECT_EQ(0, kind.add("n98"));
 }
 
-TYPED_TEST(OrderedListTest, IsTheSameAsThePlainestListWhateverIsDone) {
-  PlainList plain(TypeParam::row.sorted);
+TEST_P(OrderedListTest, IsTheSameAsThePlainestListWhateverIsDone) {
+  PlainList plain(kind.row.sorted);
   std::mt19937 random(7);
   for (int step = 0; step < 3000; ++step) {
     const std::string name = "n" + std::to_string(random() % 120);
     if (random() % 2) {
-      EXPECT_EQ(plain.add(name) ? 0 : TypeParam::row.duplicate, TypeParam::add(name.c_str()));
+      EXPECT_EQ(plain.add(name) ? 0 : kind.row.duplicate, kind.add(name.c_str()));
     } else {
-      EXPECT_EQ(plain.remove(name) ? 0 : TypeParam::row.absent, TypeParam::remove(name.c_str()));
+      EXPECT_EQ(plain.remove(name) ? 0 : kind.row.absent, kind.remove(name.c_str()));
     }
     if (random() % 4 == 0) {
-      ASSERT_EQ(plain.names(), walked<TypeParam>()) << "after step " << step;
+      ASSERT_EQ(plain.names(), kind.walked()) << "after step " << step;
     }
   }
 }
 
 // Kinds that know the place of a name.
 
-template <class Kind>
-class ListIndexTest : public KindTest<Kind> {};
-TYPED_TEST_SUITE(ListIndexTest, KindsWithIndex, KindNames);
+class ListIndexTest : public KindTest {};
+FOR_KINDS(ListIndexTest, [](const ListKind& kind) { return kind.index != nullptr; });
 
-TYPED_TEST(ListIndexTest, CountsFromOne) {
-  add_all<TypeParam>({"b", "a", "c"});
-  EXPECT_EQ(TypeParam::row.sorted ? 1 : 2, TypeParam::index("a"));
-  EXPECT_EQ(TypeParam::row.sorted ? 2 : 1, TypeParam::index("b"));
-  EXPECT_EQ(3, TypeParam::index("c"));
+TEST_P(ListIndexTest, CountsFromOne) {
+  kind.add_all({"b", "a", "c"});
+  EXPECT_EQ(kind.row.sorted ? 1 : 2, kind.index("a"));
+  EXPECT_EQ(kind.row.sorted ? 2 : 1, kind.index("b"));
+  EXPECT_EQ(3, kind.index("c"));
 }
 
-TYPED_TEST(ListIndexTest, IsZeroForAnAbsentNameAndAnEmptyList) {
-  EXPECT_EQ(0, TypeParam::index("a"));
-  TypeParam::add("b");
-  EXPECT_EQ(0, TypeParam::index("a"));
+TEST_P(ListIndexTest, IsZeroForAnAbsentNameAndAnEmptyList) {
+  EXPECT_EQ(0, kind.index("a"));
+  kind.add("b");
+  EXPECT_EQ(0, kind.index("a"));
 }
 
 // Kinds with a current element.
 
-template <class Element>
-struct Told {
-  inline static std::vector<Element*> elements;
-  static void record(Element* element) { elements.push_back(element); }
-};
-
-template <class Kind>
-class CurrentElementTest : public KindTest<Kind> {
+class CurrentElementTest : public KindTest {
  protected:
-  using Element = typename std::remove_reference_t<decltype(Kind::object)>::Element;
-  using ToldElements = Told<Element>;
-
   CurrentElementTest() {
-    ToldElements::elements.clear();
-    Kind::object.on_current = ToldElements::record;
+    told_elements.clear();
+    kind.listen(true);
   }
-  ~CurrentElementTest() override { Kind::object.on_current = nullptr; }
+  ~CurrentElementTest() override { kind.listen(false); }
 };
-TYPED_TEST_SUITE(CurrentElementTest, KindsWithCurrent, KindNames);
+FOR_KINDS(CurrentElementTest, [](const ListKind& kind) { return kind.current != nullptr; });
 
-TYPED_TEST(CurrentElementTest, IsTheOneThatWasSet) {
-  add_all<TypeParam>({"a", "b"});
-  EXPECT_EQ(nullptr, TypeParam::current());
-  TypeParam::set_current(TypeParam::ptr("b"));
-  EXPECT_EQ(TypeParam::ptr("b"), TypeParam::current());
+TEST_P(CurrentElementTest, IsTheOneThatWasSet) {
+  kind.add_all({"a", "b"});
+  EXPECT_EQ(nullptr, kind.current());
+  kind.set_current(kind.ptr("b"));
+  EXPECT_EQ(kind.ptr("b"), kind.current());
 }
 
-TYPED_TEST(CurrentElementTest, MayBeNone) {
-  TypeParam::add("a");
-  TypeParam::set_current(TypeParam::ptr("a"));
-  TypeParam::set_current(static_cast<typename TestFixture::Element*>(nullptr));
-  EXPECT_EQ(nullptr, TypeParam::current());
+TEST_P(CurrentElementTest, MayBeNone) {
+  kind.add("a");
+  kind.set_current(kind.ptr("a"));
+  kind.set_current(nullptr);
+  EXPECT_EQ(nullptr, kind.current());
 }
 
-TYPED_TEST(CurrentElementTest, DoesNotFollowTheCursor) {
-  add_all<TypeParam>({"a", "b"});
-  auto* chosen = TypeParam::ptr("b");
-  TypeParam::set_current(chosen);
-  TypeParam::first();
-  EXPECT_EQ(chosen, TypeParam::current());
+TEST_P(CurrentElementTest, DoesNotFollowTheCursor) {
+  kind.add_all({"a", "b"});
+  AnyElement chosen = kind.ptr("b");
+  kind.set_current(chosen);
+  kind.first();
+  EXPECT_EQ(chosen, kind.current());
 }
 
-TYPED_TEST(CurrentElementTest, IsNoneAfterItWasDeleted) {
-  add_all<TypeParam>({"a", "b"});
-  TypeParam::set_current(TypeParam::ptr("a"));
-  TypeParam::remove("a");
-  EXPECT_EQ(nullptr, TypeParam::current());
+TEST_P(CurrentElementTest, IsNoneAfterItWasDeleted) {
+  kind.add_all({"a", "b"});
+  kind.set_current(kind.ptr("a"));
+  kind.remove("a");
+  EXPECT_EQ(nullptr, kind.current());
 }
 
-TYPED_TEST(CurrentElementTest, StaysWhenAnotherIsDeleted) {
-  add_all<TypeParam>({"a", "b"});
-  TypeParam::set_current(TypeParam::ptr("a"));
-  TypeParam::remove("b");
-  EXPECT_EQ(TypeParam::ptr("a"), TypeParam::current());
+TEST_P(CurrentElementTest, StaysWhenAnotherIsDeleted) {
+  kind.add_all({"a", "b"});
+  kind.set_current(kind.ptr("a"));
+  kind.remove("b");
+  EXPECT_EQ(kind.ptr("a"), kind.current());
 }
 
-TYPED_TEST(CurrentElementTest, TellsOfEachChange) {
-  TypeParam::add("a");
-  auto* element = TypeParam::ptr("a");
-  TypeParam::set_current(element);
-  TypeParam::set_current(static_cast<typename TestFixture::Element*>(nullptr));
-  EXPECT_EQ((std::vector<typename TestFixture::Element*>{element, nullptr}), TestFixture::ToldElements::elements);
+TEST_P(CurrentElementTest, TellsOfEachChange) {
+  kind.add("a");
+  AnyElement element = kind.ptr("a");
+  kind.set_current(element);
+  kind.set_current(nullptr);
+  EXPECT_EQ((std::vector<AnyElement>{element, nullptr}), told_elements);
 }
 
-TYPED_TEST(CurrentElementTest, TellsOfItsDeletionOnly) {
-  add_all<TypeParam>({"a", "b"});
-  auto* element = TypeParam::ptr("a");
-  TypeParam::set_current(element);
-  TypeParam::remove("b");
-  TypeParam::remove("a");
-  EXPECT_EQ((std::vector<typename TestFixture::Element*>{element, nullptr}), TestFixture::ToldElements::elements);
+TEST_P(CurrentElementTest, TellsOfItsDeletionOnly) {
+  kind.add_all({"a", "b"});
+  AnyElement element = kind.ptr("a");
+  kind.set_current(element);
+  kind.remove("b");
+  kind.remove("a");
+  EXPECT_EQ((std::vector<AnyElement>{element, nullptr}), told_elements);
 }
 
 // Kinds whose elements can be moved.
 
-template <class Kind>
-class MoveTest : public KindTest<Kind> {
+class MoveTest : public KindTest {
  protected:
   MoveTest() {
-    add_all<Kind>({"a", "b", "c"});
+    kind.add_all({"a", "b", "c"});
     dirty = false;
   }
 };
-TYPED_TEST_SUITE(MoveTest, KindsWithMoves, KindNames);
+FOR_KINDS(MoveTest, [](const ListKind& kind) { return kind.move_up != nullptr; });
 
-TYPED_TEST(MoveTest, UpSwapsWithTheOneBefore) {
-  EXPECT_EQ(0, TypeParam::move_up("c"));
-  EXPECT_EQ((Names{"a", "c", "b"}), walked<TypeParam>());
-  EXPECT_EQ(0, TypeParam::move_up("c"));
-  EXPECT_EQ((Names{"c", "a", "b"}), walked<TypeParam>());
+TEST_P(MoveTest, UpSwapsWithTheOneBefore) {
+  EXPECT_EQ(0, kind.move_up("c"));
+  EXPECT_EQ((Names{"a", "c", "b"}), kind.walked());
+  EXPECT_EQ(0, kind.move_up("c"));
+  EXPECT_EQ((Names{"c", "a", "b"}), kind.walked());
 }
 
-TYPED_TEST(MoveTest, DownSwapsWithTheOneAfter) {
-  EXPECT_EQ(0, TypeParam::move_down("a"));
-  EXPECT_EQ((Names{"b", "a", "c"}), walked<TypeParam>());
-  EXPECT_EQ(0, TypeParam::move_down("a"));
-  EXPECT_EQ((Names{"b", "c", "a"}), walked<TypeParam>());
+TEST_P(MoveTest, DownSwapsWithTheOneAfter) {
+  EXPECT_EQ(0, kind.move_down("a"));
+  EXPECT_EQ((Names{"b", "a", "c"}), kind.walked());
+  EXPECT_EQ(0, kind.move_down("a"));
+  EXPECT_EQ((Names{"b", "c", "a"}), kind.walked());
 }
 
-TYPED_TEST(MoveTest, FirstUpAndLastDownStay) {
-  EXPECT_EQ(0, TypeParam::move_up("a"));
-  EXPECT_EQ(0, TypeParam::move_down("c"));
-  EXPECT_EQ((Names{"a", "b", "c"}), walked<TypeParam>());
+TEST_P(MoveTest, FirstUpAndLastDownStay) {
+  EXPECT_EQ(0, kind.move_up("a"));
+  EXPECT_EQ(0, kind.move_down("c"));
+  EXPECT_EQ((Names{"a", "b", "c"}), kind.walked());
 }
 
-TYPED_TEST(MoveTest, AnElementThatIsAloneStays) {
-  TypeParam::remove("a");
-  TypeParam::remove("c");
-  EXPECT_EQ(0, TypeParam::move_up("b"));
-  EXPECT_EQ(0, TypeParam::move_down("b"));
-  EXPECT_EQ(Names{"b"}, walked<TypeParam>());
+TEST_P(MoveTest, AnElementThatIsAloneStays) {
+  kind.remove("a");
+  kind.remove("c");
+  EXPECT_EQ(0, kind.move_up("b"));
+  EXPECT_EQ(0, kind.move_down("b"));
+  EXPECT_EQ(Names{"b"}, kind.walked());
 }
 
-TYPED_TEST(MoveTest, DoesNotMarkTheDocumentChanged) {
-  TypeParam::move_up("b");
-  TypeParam::move_down("b");
-  TypeParam::move_up("x");
+TEST_P(MoveTest, DoesNotMarkTheDocumentChanged) {
+  kind.move_up("b");
+  kind.move_down("b");
+  kind.move_up("x");
   EXPECT_FALSE(dirty);
 }
 
-TYPED_TEST(MoveTest, OfAnAbsentNameFails) {
-  EXPECT_NE(0, TypeParam::move_up("x"));
-  EXPECT_NE(0, TypeParam::move_down("x"));
-  EXPECT_EQ((Names{"a", "b", "c"}), walked<TypeParam>());
+TEST_P(MoveTest, OfAnAbsentNameFails) {
+  EXPECT_NE(0, kind.move_up("x"));
+  EXPECT_NE(0, kind.move_down("x"));
+  EXPECT_EQ((Names{"a", "b", "c"}), kind.walked());
 }
 
-TYPED_TEST(MoveTest, KeepsTheCurrentElement) {
-  auto* element = TypeParam::ptr("b");
-  TypeParam::set_current(element);
-  TypeParam::move_up("b");
-  EXPECT_EQ(element, TypeParam::current());
+TEST_P(MoveTest, KeepsTheCurrentElement) {
+  AnyElement element = kind.ptr("b");
+  kind.set_current(element);
+  kind.move_up("b");
+  EXPECT_EQ(element, kind.current());
 }
 
-TYPED_TEST(MoveTest, ANewNameGoesBeforeTheFirstThatIsNotLessOrToTheEnd) {
-  TypeParam::move_up("c");
-  TypeParam::move_up("c");  // c a b
-  TypeParam::add("bb");
-  TypeParam::add("d");
-  EXPECT_EQ(TypeParam::row.sorted ? (Names{"bb", "c", "a", "b", "d"}) : (Names{"c", "a", "b", "bb", "d"}),
-            walked<TypeParam>());
+TEST_P(MoveTest, ANewNameGoesBeforeTheFirstThatIsNotLessOrToTheEnd) {
+  kind.move_up("c");
+  kind.move_up("c");  // c a b
+  kind.add("bb");
+  kind.add("d");
+  EXPECT_EQ(kind.row.sorted ? (Names{"bb", "c", "a", "b", "d"}) : (Names{"c", "a", "b", "bb", "d"}), kind.walked());
 }
 
-TYPED_TEST(MoveTest, ANameThatStandsOutOfOrderIsStillADuplicate) {
-  TypeParam::move_up("c");
-  TypeParam::move_up("c");
-  EXPECT_EQ(TypeParam::row.duplicate, TypeParam::add("a"));
-  EXPECT_EQ(TypeParam::row.duplicate, TypeParam::add("c"));
-  EXPECT_EQ(3, TypeParam::count());
+TEST_P(MoveTest, ANameThatStandsOutOfOrderIsStillADuplicate) {
+  kind.move_up("c");
+  kind.move_up("c");
+  EXPECT_EQ(kind.row.duplicate, kind.add("a"));
+  EXPECT_EQ(kind.row.duplicate, kind.add("c"));
+  EXPECT_EQ(3, kind.count());
 }
 
-TYPED_TEST(MoveTest, IsTheSameAsInThePlainestListWhateverIsDone) {
-  PlainList plain(TypeParam::row.sorted);
+TEST_P(MoveTest, IsTheSameAsInThePlainestListWhateverIsDone) {
+  PlainList plain(kind.row.sorted);
   for (const char* name : {"a", "b", "c"}) plain.add(name);
   std::mt19937 random(11);
   for (int step = 0; step < 4000; ++step) {
@@ -437,19 +422,19 @@ TYPED_TEST(MoveTest, IsTheSameAsInThePlainestListWhateverIsDone) {
     switch (random() % 5) {
       case 0:
       case 1:
-        EXPECT_EQ(plain.add(name), TypeParam::add(name.c_str()) == 0);
+        EXPECT_EQ(plain.add(name), kind.add(name.c_str()) == 0);
         break;
       case 2:
-        EXPECT_EQ(plain.remove(name), TypeParam::remove(name.c_str()) == 0);
+        EXPECT_EQ(plain.remove(name), kind.remove(name.c_str()) == 0);
         break;
       case 3:
-        EXPECT_EQ(plain.move_up(name), TypeParam::move_up(name.c_str()) == 0);
+        EXPECT_EQ(plain.move_up(name), kind.move_up(name.c_str()) == 0);
         break;
       default:
-        EXPECT_EQ(plain.move_down(name), TypeParam::move_down(name.c_str()) == 0);
+        EXPECT_EQ(plain.move_down(name), kind.move_down(name.c_str()) == 0);
     }
     if (random() % 3 == 0) {
-      ASSERT_EQ(plain.names(), walked<TypeParam>()) << "after step " << step;
+      ASSERT_EQ(plain.names(), kind.walked()) << "after step " << step;
     }
   }
 }
