@@ -1,16 +1,15 @@
 #include "libkel/text.h"
 
-#include <X11/Intrinsic.h>
-
 #include <cstddef>
+#include <new>
 #include <vector>
 
 #include "libkel/blocks.h"
 
 namespace {
 
-void* allocate(std::size_t size) { return XtMalloc(static_cast<Cardinal>(size)); }
-void release(void* memory) { XtFree(static_cast<char*>(memory)); }
+void* allocate(std::size_t size) { return ::operator new(size); }
+void release(void* memory) { ::operator delete(memory); }
 using Memory = Blocks<allocate, release>;
 
 /// Any `Number` may begin at any character.
@@ -90,9 +89,10 @@ class Text::Table {
   /// No text has a NUL in it: only characters that were not found need to be searched for one.
   [[gnu::noinline]] Shared* insert(std::string_view s, std::uint32_t hash) {
     if (const std::size_t size = s.find('\0'); size != std::string_view::npos) return find_or_make(s.substr(0, size));
-    if (++used_ > slots_.size() / 4 * 3) grow();
+    if (used_ >= slots_.size() / 4 * 3) grow();
     Shared* text = make(s);
     slot_for(s, hash) = {text, hash};
+    ++used_;
     return text;
   }
 

@@ -11,7 +11,7 @@
 ///
 /// Equal strings share one copy of their characters, which lives as long as any Text holds it: a document names the
 /// same pages, popups and resources over and over. So copying is cheap, comparing compares addresses, a Text may be
-/// assigned its own characters, and hashing hashes addresses too. The characters come from the toolkit's allocator.
+/// assigned its own characters, and hashing hashes addresses too.
 class Text {
  public:
   Text() = default;

@@ -31,7 +31,7 @@ void give_large_memory_back() {
   mallopt(M_MMAP_THRESHOLD, kLarge);
 }
 
-/// Ends a run that is short of memory: going on would lose a part of the document without a word.
+/// Ends a batch run that is short of memory: going on would lose a part of the document without a word.
 [[noreturn]] void give_up_for_memory() {
   std::fputs("vqconfig: out of memory. Exiting...\n", stderr);
   std::_Exit(-1);

@@ -20,6 +20,7 @@
 #include "vqc/cmd/editors/file_commands.h"
 #include "vqc/cmd/editors/gendlg.h"
 #include "vqc/cmd/editors/kit/cursor.h"
+#include "vqc/cmd/editors/kit/memory.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
@@ -88,6 +89,7 @@ const char* open_display(int* argc, char** argv) {
 }
 
 bool start_session(int argc, char** argv) {
+  survive_short_memory();
   register_converters();
   family_dialog = create_family_dialog(display, argv[0], argc, argv);
   if (!family_dialog) return false;
@@ -98,7 +100,7 @@ bool start_session(int argc, char** argv) {
   if (!vqc_generate_options()) XtUnmanageChild(family_dialog[FAMILY_OPTIONS_CASCADE]);
   set_icon(shell);
   XtRealizeWidget(shell);
-  load_first_document(shell);
+  guarded([shell] { load_first_document(shell); });
   return true;
 }
 

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstring>
 #include <memory>
+#include <new>
 #include <vector>
 
 #include "libkel/text.h"
@@ -50,6 +51,11 @@ class NameList {
     settle();
     return head_;
   }
+  /// Any element, or null, for who takes all of them out: their order matters no more, and needs no memory.
+  Element* any() {
+    unsettled_after_ = nullptr;
+    return head_;
+  }
   unsigned size() const { return size_; }
   bool empty() const { return size_ == 0; }
 
@@ -78,7 +84,7 @@ class NameList {
     join(tail_, element);
     join(element, nullptr);
     ++size_;
-    if (index_) index_->insert(element);
+    if (index_) into_index(element);
   }
 
   /// Unlinks an element of this list.
@@ -195,6 +201,15 @@ class NameList {
     index_ = std::make_unique<Index>(size_);
     for (Element* each = head_; each; each = each->next) index_->insert(each);
     return index_->find(name);
+  }
+
+  /// Where memory is short there is no index until there is memory for one.
+  void into_index(Element* element) {
+    try {
+      index_->insert(element);
+    } catch (const std::bad_alloc&) {
+      index_.reset();
+    }
   }
 
   mutable Element* head_ = nullptr;

@@ -12,6 +12,12 @@
 using ErrorCode = int;
 inline constexpr ErrorCode kOutOfMemory = 99;
 
+/// Throws std::bad_alloc for that failure, where what follows cannot do without the element.
+inline ErrorCode with_memory(ErrorCode code) {
+  if (code == kOutOfMemory) throw std::bad_alloc();
+  return code;
+}
+
 /// The failures of one kind of list.
 struct Codes {
   ErrorCode duplicate;
@@ -92,7 +98,7 @@ class OrderedList {
   }
 
   void clear(List& list) {
-    while (Element* element = list.head()) remove(list, element);
+    while (Element* element = list.any()) remove(list, element);
   }
 
   ErrorCode move_up(List& list, const Text& name) {

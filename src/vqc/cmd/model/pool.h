@@ -65,7 +65,7 @@ class FamilyList
     }
   }
   void clear(Family* family) {
-    while (Element* reference = (family->*member).head()) remove(family, reference);
+    while (Element* reference = (family->*member).any()) remove(family, reference);
   }
   Element* first(const Family* family) { return family ? Base::first(family->*member) : nullptr; }
   Element* ptr(const Family* family, const Text& name) { return family ? Base::ptr(family->*member, name) : nullptr; }

@@ -2,6 +2,7 @@
 
 #include <strings.h>
 
+#include <new>
 #include <string>
 #include <utility>
 
@@ -216,8 +217,11 @@ bool Reader::header() {
 
 // Items.
 
-void Reader::items() {
+/// Where memory runs out, what has been read stays.
+void Reader::items() try {
   while (!lexer_.is(SaveFileToken::end_of_input) && item()) continue;
+} catch (const std::bad_alloc&) {
+  error_show("out_of_memory");
 }
 
 bool Reader::item() {
@@ -249,7 +253,7 @@ bool Reader::item() {
 template <auto& pool>
 auto* Reader::named() {
   Text name;
-  if (take_name(name)) pool.add(name);
+  if (take_name(name)) with_memory(pool.add(name));
   return name ? pool.ptr(name) : nullptr;
 }
 
@@ -290,7 +294,7 @@ bool Reader::converter() {
 }
 
 void Reader::rewrite_popup(const PopupDef& described) {
-  popup_add(described.name);
+  with_memory(popup_add(described.name));
   PopupDef* popup = popup_ptr(described.name);
   if (!popup) return;
   popup->dialog_init = described.dialog_init;
@@ -309,7 +313,7 @@ bool Reader::enumentry(EnumDef& owner) {
   lexer_.next_token();
   Text name;
   if (!take_name(name)) return false;
-  enumentry_add(name, &owner);
+  with_memory(enumentry_add(name, &owner));
   EnumEntry* entry = enumentry_ptr(&owner, name);
   return entry && record_block(enum_entry_fields, *entry);
 }
@@ -328,7 +332,7 @@ bool Reader::widget() {
 bool Reader::family() {
   Text name;
   if (!take_name(name)) return false;
-  family_add(name);
+  with_memory(family_add(name));
   Family* family = family_ptr(name);
   return family && block([&] { return family_field(*family); });
 }
@@ -368,7 +372,7 @@ bool Reader::family_list(Family& family) {
     lexer_.next_token();
     Text name;
     if (!assigned(name)) return false;
-    list.add(name, &family);
+    with_memory(list.add(name, &family));
     return true;
   }
   return misplaced();
@@ -379,9 +383,9 @@ bool Reader::family_converter(Family& family) {
   lexer_.next_token();
   Text name;
   if (!assigned(name)) return false;
-  converterlist_add(name, &family);
+  with_memory(converterlist_add(name, &family));
   const ConverterDef* converter = converter_ptr(name);
-  if (converter && converter->dialog) popuplist_add(converter->dialog, &family);
+  if (converter && converter->dialog) with_memory(popuplist_add(converter->dialog, &family));
   return true;
 }
 
@@ -442,7 +446,7 @@ bool Reader::resource_options(ResourceDef& resource, bool& another) {
 ResourceDef* Reader::named_resource(WidgetDef& widget) {
   const Text name(lexer_.text());
   lexer_.next_token();
-  we_resource_add(name, &widget);
+  with_memory(we_resource_add(name, &widget));
   return resource_ptr(&widget, name);
 }
 

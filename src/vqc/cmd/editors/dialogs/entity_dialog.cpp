@@ -252,9 +252,9 @@ Widget* create_entity_dialog(Widget parent) {
   Widget* record = build_dialog(parent, rows, ENTITY_SLOTS, links);
   if (!record) return nullptr;
   for (int view = ENTITY_VIEW_ALIASES; view <= ENTITY_VIEW_WIDGETS; ++view) {
-    XtAddCallback(record[view], XmNvalueChangedCallback, entity_do_show_page, record[page_of_view(view)]);
+    add_callback(record[view], XmNvalueChangedCallback, entity_do_show_page, record[page_of_view(view)]);
   }
-  XtAddCallback(record[CONVERT_POPUP_B], XmNactivateCallback, show_popups_cb, record[CONVERT_POPUP]);
+  add_callback(record[CONVERT_POPUP_B], XmNactivateCallback, show_popups_cb, record[CONVERT_POPUP]);
   settoggle(record[ENTITY_VIEW_WIDGETS], true);
   return record;
 }

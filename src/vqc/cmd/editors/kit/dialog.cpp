@@ -14,7 +14,28 @@
 #include <cstring>
 #include <vector>
 
+#include "vqc/cmd/editors/kit/memory.h"
+
 namespace {
+
+/// What the toolkit is given to call, in place of a callback of ours.
+struct GuardedCallback {
+  XtCallbackProc procedure;
+  const void* data;
+
+  static void call(Widget w, XtPointer callback, XtPointer call_data) {
+    const auto [procedure, data] = *static_cast<GuardedCallback*>(callback);
+    guarded([&] { procedure(w, const_cast<void*>(data), call_data); });
+  }
+  static void destroy(Widget, XtPointer callback, XtPointer) { delete static_cast<GuardedCallback*>(callback); }
+};
+
+/// It goes with the widget.
+GuardedCallback* guarded_callback(Widget w, XtCallbackProc procedure, const void* data) {
+  auto* callback = new GuardedCallback{procedure, data};
+  XtAddCallback(w, XmNdestroyCallback, GuardedCallback::destroy, callback);
+  return callback;
+}
 
 Arg argument(const char* name, XtArgVal value) { return Arg{const_cast<char*>(name), value}; }
 
@@ -76,7 +97,7 @@ class Builder {
       if (list == CLOSED) {
         on_close(widget, procedure);
       } else {
-        XtAddCallback(widget, list, procedure, const_cast<void*>(data));
+        add_callback(widget, list, procedure, data);
       }
     }
   }
@@ -144,10 +165,14 @@ Widget create_radio_menu(Widget parent, char* name, ArgList, Cardinal) {
   return XmCreatePulldownMenu(parent, name, radio, XtNumber(radio));
 }
 
+void add_callback(Widget w, const char* list, XtCallbackProc procedure, const void* data) {
+  XtAddCallback(w, list, GuardedCallback::call, guarded_callback(w, procedure, data));
+}
+
 void on_close(Widget shell, XtCallbackProc procedure) {
   XtVaSetValues(shell, XmNdeleteResponse, XmDO_NOTHING, nullptr);
-  XmAddWMProtocolCallback(shell, XInternAtom(XtDisplay(shell), const_cast<char*>("WM_DELETE_WINDOW"), False), procedure,
-                          nullptr);
+  XmAddWMProtocolCallback(shell, XInternAtom(XtDisplay(shell), const_cast<char*>("WM_DELETE_WINDOW"), False),
+                          GuardedCallback::call, guarded_callback(shell, procedure, nullptr));
 }
 
 Widget* build_dialog(Widget parent, std::span<const WidgetRow> rows, int slots, std::span<const WidgetLink> links) {

@@ -59,6 +59,9 @@ Widget create_plain_box(Widget parent, char* name, ArgList, Cardinal);
 /// A pulldown menu of toggles of which one is set.
 Widget create_radio_menu(Widget parent, char* name, ArgList, Cardinal);
 
+/// Adds a callback that survives a shortage of memory. `data` must outlive the widget.
+void add_callback(Widget w, const char* list, XtCallbackProc procedure, const void* data);
+
 /// Lets `procedure` answer the window manager's request to close a shell, which does nothing else then.
 void on_close(Widget shell, XtCallbackProc procedure);
 

@@ -1,0 +1,31 @@
+#include "vqc/cmd/editors/kit/memory.h"
+
+#include <cstddef>
+#include <memory>
+
+#include "libkel/message.h"
+
+namespace {
+
+constexpr std::size_t kReserve = std::size_t{1024} * 1024;  // a message box takes a part of it
+
+std::unique_ptr<char[]> reserve;
+
+/// Does not let the allocation try again: what is being done could use up the reserve.
+[[noreturn]] void run_short() {
+  reserve.reset();
+  throw std::bad_alloc();
+}
+
+}  // namespace
+
+void survive_short_memory() {
+  std::set_new_handler(run_short);
+  keep_reserve();
+}
+
+void keep_reserve() {
+  if (!reserve) reserve.reset(new (std::nothrow) char[kReserve]);
+}
+
+void report_short_memory() { error_show("out_of_memory"); }

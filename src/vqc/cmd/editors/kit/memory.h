@@ -1,0 +1,28 @@
+#ifndef VQC_CMD_EDITORS_KIT_MEMORY_H
+#define VQC_CMD_EDITORS_KIT_MEMORY_H
+
+#include <new>
+
+// A session that is short of memory goes on: what the user asked for is dropped, and he is told. A little memory is set
+// aside for telling him.
+
+/// From now on an allocation that fails throws std::bad_alloc.
+void survive_short_memory();
+
+/// Sets memory aside again, if it has been used.
+void keep_reserve();
+/// Tells the user that memory is short.
+void report_short_memory();
+
+/// Does `work`; when memory runs out, drops the rest of it and says so. Nothing may be thrown into the toolkit.
+template <class Work>
+void guarded(Work work) {
+  keep_reserve();
+  try {
+    work();
+  } catch (const std::bad_alloc&) {
+    report_short_memory();
+  }
+}
+
+#endif

@@ -1,0 +1,95 @@
+#include "gui/hands.h"
+#include "gui/looks.h"
+#include "gui/memory.h"
+#include "gui/session.h"
+
+// A session that runs short of memory drops what was asked for, says so, and goes on.
+
+namespace {
+
+constexpr std::size_t kKilobyte = 1024;
+constexpr int kMany = 20000;
+
+/// A family whose names take some megabytes.
+std::string large_document() {
+  std::string text = "VQconfig family 'Large' {";
+  for (int i = 0; i < kMany; ++i) text += " header='a/folder/of/the/header/" + std::to_string(i) + ".h'";
+  return text + " }";
+}
+
+class ShortOfMemory : public Session {
+ protected:
+  ShortOfMemory() {
+    open_document("VQconfig\nfamily 'Dials' {\n\twidget='Dial'\n}\n");
+    folder.with("large.vqc", large_document());
+  }
+
+  void expect_told() {
+    EXPECT_EQ(resource_text("out_of_memory"), error_shown());
+    EXPECT_NE("out_of_memory", error_shown());
+    press("error_messageb.Cancel");
+    EXPECT_FALSE(exit_status);
+  }
+};
+
+TEST_F(ShortOfMemory, OpenStopsReadingAndKeepsWhatItHasRead) {
+  {
+    const ShortMemory memory(kKilobyte * kKilobyte);
+    open_file(folder / "large.vqc");
+    expect_told();
+  }
+  EXPECT_EQ(Items{"Large"}, items("family_selection"));
+  const std::vector<std::string> names = saved_names("Large", "header");
+  EXPECT_LT(100U, names.size());
+  EXPECT_GT(static_cast<std::size_t>(kMany), names.size());
+}
+
+TEST_F(ShortOfMemory, ReadKeepsTheDocumentInMemory) {
+  {
+    const ShortMemory memory(kKilobyte * kKilobyte);
+    read_into(folder / "large.vqc");
+    expect_told();
+  }
+  EXPECT_EQ((Items{"Dials", "Large"}), items("family_selection"));
+  EXPECT_EQ((std::vector<std::string>{"Dial"}), saved_names("Dials", "widget"));
+}
+
+TEST_F(ShortOfMemory, AnActionIsDropped) {
+  enter("family_selection", std::string(2000, 'n'));
+  {
+    const ShortMemory memory(1500);
+    press_apply("family_selection");
+    expect_told();
+  }
+  EXPECT_EQ(Items{"Dials"}, items("family_selection"));
+  EXPECT_FALSE(dirty);
+  add_family("Gauges");
+  EXPECT_EQ((Items{"Dials", "Gauges"}), items("family_selection"));
+}
+
+TEST_F(ShortOfMemory, TheSameOpensWhenThereIsMemoryAgain) {
+  {
+    const ShortMemory memory(kKilobyte * kKilobyte);
+    open_file(folder / "large.vqc");
+    expect_told();
+  }
+  open_file(folder / "large.vqc");
+  EXPECT_EQ("", error_shown());
+  EXPECT_EQ(static_cast<std::size_t>(kMany), saved_names("Large", "header").size());
+}
+
+TEST_F(ShortOfMemory, SurvivesWhereverItRunsOut) {
+  for (std::size_t kilobytes = 200; kilobytes < 3000; kilobytes += 113) {
+    {
+      const ShortMemory memory(kilobytes * kKilobyte);
+      read_into(folder / "large.vqc");
+    }
+    ASSERT_EQ(resource_text("out_of_memory"), error_shown()) << kilobytes;
+    press("family_newb");
+    press("savechanges_nob");
+    add_family("After");
+    EXPECT_EQ(Items{"After"}, items("family_selection")) << kilobytes;
+  }
+}
+
+}  // namespace
