@@ -166,6 +166,20 @@ TEST_F(Help, ComesUpAtAClick) {
   EXPECT_TRUE(wait_for([this] { return page() == "Families" && is_viewable(display, viewer()); }, kStarting));
 }
 
+class UsersHelp : public Help, public testing::WithParamInterface<const char*> {};
+
+TEST_P(UsersHelp, IsWhereHisResourcesSay) {
+  folder.with("vqc_family.html", "<html><head><title>My Families</title></head><body>Mine</body></html>\n");
+  const std::string resource = std::string(GetParam()) + "helpDir: " + (folder / "%N%S") + "\n";
+  setenv("XENVIRONMENT", folder.with("mine", resource).c_str(), 1);
+  start();
+  expect_page_of_button("family_selection.Help", "My Families");
+}
+
+INSTANTIATE_TEST_SUITE_P(With, UsersHelp, testing::Values("*", "VQconfig*"), [](const auto& row) {
+  return std::string(row.param) == "*" ? "ALooseBinding" : "TheClassOfTheProgram";
+});
+
 TEST_F(Help, IsGermanForAGermanUser) {
   std::filesystem::create_directory_symlink("/usr/lib/locale/C.utf8", folder / "de_DE.UTF-8");  // only the name counts
   setenv("LOCPATH", folder.path().c_str(), 1);

@@ -15,6 +15,8 @@
 #include <cstdlib>
 #include <filesystem>
 #include <map>
+#include <set>
+#include <tuple>
 
 #include "gui/hands.h"
 #include "gui/looks.h"
@@ -179,6 +181,55 @@ TEST_P(Language, EveryMessageHasItsPlaces) {
   for (const auto& [name, arguments] : messages) {
     EXPECT_NE("", file.of_program(name)) << name;
     EXPECT_EQ(arguments, places(file.of_program(name))) << name;
+  }
+}
+
+class UsersTexts : public Session, public testing::WithParamInterface<std::tuple<const char*, const char*>> {
+ protected:
+  /// Starts the program in one of the languages, with a text of the user's own for each message.
+  void start_with_own_texts() {
+    const auto& [language, binding] = GetParam();
+    std::string mine;
+    for (const auto& [name, arguments] : messages) mine += binding + name + ": my " + name + "\n";
+    setenv("XFILESEARCHPATH", (std::string(RESOURCE_FILES) + "/" + language + "%T/%N%S").c_str(), 1);
+    setenv("XENVIRONMENT", folder.with("mine", mine).c_str(), 1);
+    start();
+  }
+};
+
+TEST_P(UsersTexts, WinOverThoseOfTheLanguage) {
+  start_with_own_texts();
+  EXPECT_NE("family_newb", label("family_newb")) << "the language's own texts are missing";
+  for (const auto& [name, arguments] : messages) EXPECT_EQ("my " + name, resource_text(name));
+}
+
+INSTANTIATE_TEST_SUITE_P(Over, UsersTexts,
+                         testing::Combine(testing::Values("", "de/", "fr/", "ja/"), testing::Values("*", "VQconfig*")),
+                         [](const testing::TestParamInfo<UsersTexts::ParamType>& row) {
+                           const std::string folder = std::get<0>(row.param);
+                           const std::string binding = std::get<1>(row.param);
+                           return (folder.empty() ? "en" : folder.substr(0, 2)) +
+                                  (binding == "*" ? "Loosely" : "ByClass");
+                         });
+
+/// The names of the resources of a class of widgets.
+std::set<std::string> resources_of(Widget w, void (*list)(WidgetClass, XtResourceList*, Cardinal*)) {
+  XtResourceList found = nullptr;
+  Cardinal count = 0;
+  list(XtClass(w), &found, &count);
+  std::set<std::string> names;
+  for (Cardinal i = 0; i < count; ++i) names.insert({found[i].resource_name, found[i].resource_class});
+  XtFree(reinterpret_cast<char*>(found));
+  return names;
+}
+
+TEST_F(EveryDialog, HasNoWidgetThatTakesAMessageForItsOwnResource) {
+  open_every_dialog();
+  for (const auto& row : promised_widgets()) {
+    std::set<std::string> names = resources_of(widget(row.name), XtGetResourceList);
+    names.merge(resources_of(widget(row.name), XtGetConstraintResourceList));
+    for (const auto& [name, arguments] : messages) EXPECT_FALSE(names.contains(name)) << row.name << ": " << name;
+    EXPECT_FALSE(names.contains("helpDir")) << row.name;
   }
 }
 

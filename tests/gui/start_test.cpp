@@ -115,6 +115,19 @@ TEST_F(Start, TheUsersResourcesComeFirst) {
   EXPECT_NE("family_openb", label("family_openb"));
 }
 
+TEST_F(Start, TheUsersMessagesComeFirst) {
+  setenv("XENVIRONMENT", folder.with("mine", "*bad_save_file: Not one of mine\n").c_str(), 1);
+  open_document("Dear Sir\n");
+  EXPECT_EQ("Not one of mine", error_shown());
+}
+
+TEST_F(Start, TheUsersTitlesComeFirst) {
+  setenv("XENVIRONMENT", folder.with("mine", "VQconfig*family_title: All of %s\n").c_str(), 1);
+  open_document(athena);
+  edit_family("Athena");
+  EXPECT_EQ("All of Athena", title("entity_dialog"));
+}
+
 TEST_F(Start, AnEmptyNameResourceCountsAsNone) {
   start({"-xrm", "VQconfig.familyTableString:", "-xrm", "VQconfig.xwidgetArrayString: mine"});
   EXPECT_STREQ("xw_families", vqc_get_family_table_variable());

@@ -40,6 +40,11 @@ TEST_P(Translation, HasEveryTextWithTheSamePlaces) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, Translation, testing::Values("de", "fr", "ja"));
+TEST_P(Translation, LeavesTheLastWordToTheUser) {
+  for (const auto& [name, text] : texts_of(std::string(GetParam()) + "/app-defaults/Vqhelp"))
+    EXPECT_TRUE(name.starts_with('*')) << name << " would win over the user's own *" << name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, Translation, testing::Values(".", "de", "fr", "ja"));
 
 }  // namespace
