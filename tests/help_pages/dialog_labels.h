@@ -17,12 +17,12 @@
 /// A row of a dialog's table, as far as help is concerned.
 struct DialogRow {
   std::string name, creator, parent;
-  std::string topic;  // that its Help callback names, or ""
+  std::string topic;  // of the dialogs' own that its Help callback names, or ""
 };
 
 inline std::vector<DialogRow> rows_of(const std::string& source) {
   static const std::regex row(R"re(\{"([^"]+)",\s*((?!XmN)\w+),\s*(?:"([^"]+)"|nullptr))re");
-  static const std::regex topic(R"re(vqc_do_help, "(\w+)")re");
+  static const std::regex topic(R"re(vqc_do_help, "(vqc_\w+)")re");
   const std::string table = source.substr(0, source.find("const WidgetLink links"));
   std::vector<DialogRow> rows;
   for (std::sregex_iterator match(table.begin(), table.end(), row), none; match != none;) {
@@ -69,6 +69,22 @@ inline Labels labels_in(const std::string& resource_file) {
     labels[(*match)[1]] = (*match)[2];
   }
   return labels;
+}
+
+/// What a page calls a message: its first line, with dots for what is filled in.
+inline std::string headline(const std::string& message) {
+  const std::string line = message.substr(0, message.find("\\n"));
+  return std::regex_replace(std::regex_replace(line, std::regex("[.:]$"), ""), std::regex("%[sd]"), "...");
+}
+
+/// The headlines of the messages of errors in a resource file. That of a syntax error is completed by those of "se_".
+inline std::set<std::string> errors_in(const std::string& resource_file) {
+  static const std::regex line(R"re((?:^|\n)\*(se_\w+|file_\w+_fail|bad_save_file|no_help_topic):[ \t]*([^\n]*))re");
+  std::set<std::string> errors;
+  for (std::sregex_iterator match(resource_file.begin(), resource_file.end(), line), none; match != none; ++match) {
+    errors.insert(headline((*match)[2]));
+  }
+  return errors;
 }
 
 /// The class under which a row's texts may stand as well.

@@ -113,6 +113,13 @@ TEST_P(HelpPages, HaveEveryFieldAndButtonOfTheirDialog) {
   }
 }
 
+TEST_P(HelpPages, ExplainEveryError) {
+  const std::set<std::string> errors = errors_in(read_file(resources + GetParam().texts));
+  EXPECT_EQ(12U, errors.size());
+  const HtmlPage& page = pages.at("vqc_error.html");
+  for (const std::string& error : errors) EXPECT_TRUE(page.emphasised.contains(error)) << error;
+}
+
 TEST_P(HelpPages, AreWellFormed) {
   for (const auto& [file, page] : pages) EXPECT_EQ(Complaints{}, page.faults) << file;
 }

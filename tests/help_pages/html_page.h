@@ -23,6 +23,7 @@ struct HtmlPage {
   std::set<std::string> anchors;
   std::vector<std::string> links;
   std::set<std::string> bold;         // the texts in bold, which are labels
+  std::set<std::string> emphasised;   // messages among them
   std::vector<std::string> outline;   // the elements that structure the page, in order
   std::vector<std::string> examples;  // the texts that stand as they are
   std::vector<std::string> faults;
@@ -92,6 +93,7 @@ class HtmlReader {
     const std::string text = text_of(name);
     if (name == "title") page_.title = text;
     if (name == "b") page_.bold.insert(in_one_line(text));
+    if (name == "em") page_.emphasised.insert(in_one_line(text));
     if (name == "pre") page_.examples.push_back(text);
   }
 
