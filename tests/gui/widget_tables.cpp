@@ -50,6 +50,9 @@ const PromisedWidget promised[] = {
     {"family_help_menu", "XmRowColumn", "family_menubar"},
     {"family_helpaboutb", "XmPushButton", "family_help_menu", pressed},
     {"family_helpgenb", "XmPushButton", "family_help_menu", pressed},
+    {"family_helpcontentsb", "XmPushButton", "family_help_menu", pressed},
+    {"family_helptutorialb", "XmPushButton", "family_help_menu", pressed},
+    {"family_helpkeyboardb", "XmPushButton", "family_help_menu", pressed},
 
     // About the program, and errors
     {"about_dialog", "XmDialogShell", "vqconfig"},
@@ -348,6 +351,9 @@ const HelpButton buttons[] = {
     {"popupedit_selection.Help", "vqc_popup_edit", "Popups"},
     {"widgetedit_helpb", "vqc_w_edit", "Widget Editor"},
     {"family_helpgenb", "vqc_family", "Families"},
+    {"family_helpcontentsb", "entry", "VQconfig Help"},
+    {"family_helptutorialb", "tutorial", "Tutorial"},
+    {"family_helpkeyboardb", "keyboard", "Keyboard"},
 };
 
 void open_editors() {
