@@ -9,7 +9,8 @@
 
 /*
  * The generated tables, under the names that vqconfig gives them unless the description has its own.
- * A description without a stop list has "char *vq_config_stop_list" in place of the array.
+ * A description without a stop list has "char *vq_config_stop_list = (char *) 0" in place of the array: its zero bytes
+ * read as an empty text here.
  */
 extern XFamily_t xw_families[];
 extern char* xw_family_names[];
