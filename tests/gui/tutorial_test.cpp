@@ -68,17 +68,26 @@ class Tutorial : public Session {
     press("widgetedit_applyb");
   }
 
+  static void type_and_add_widget(const std::string& name) {
+    type(name);
+    click("widgetlist_selection.Apply");
+    click("widgetlist_selection.Text");
+  }
+
   static void make_the_family() {
     name_and_press("family_selection", "Labels", "Apply");
     select("family_selection", "Labels");
     press_ok("family_selection");
-    name_and_press("widgetlist_selection", "labelWidgetClass", "Apply");
-    name_and_press("widgetlist_selection", "commandWidgetClass", "Apply");
+    type_and_add_widget("labelWidgetClass");
+    EXPECT_EQ("labelWidgetClass", text("widgetlist_selection")) << "the field keeps it";
+    key("ctrl+a");
+    type_and_add_widget("commandWidgetClass");
   }
 
   static void describe_the_label() {
     select("widgetlist_selection", "labelWidgetClass");
     press_ok("widgetlist_selection");
+    EXPECT_EQ("Widget: labelWidgetClass", title("widgetedit_dialog"));
     update_class("X11/Xaw/Label.h");
     choose_free_modes("dont", "free");
     update_resource("XtNlabel", "vq_string_dialog_create", "settings");
@@ -99,6 +108,8 @@ class Tutorial : public Session {
 
   static void describe_the_button() {
     select("widgetlist_selection", "commandWidgetClass");
+    EXPECT_EQ("Widget: commandWidgetClass", title("widgetedit_dialog"));
+    EXPECT_EQ("", text("widgetedit_include_filename") + text("we_resource_t") + text("widgetedit_page_t"));
     update_class("X11/Xaw/Command.h");
     choose_free_modes("dont", "dont");
     update_resource("XtNcallback", "", "callbacks");
@@ -111,6 +122,8 @@ class Tutorial : public Session {
     name_and_press("enumlist_selection", "Justify", "OK");
     enter("enumedit_type", "XtRJustify");
     update_value("left", "XtJustifyLeft", "left");
+    EXPECT_EQ("left", text("enumedit_selection"));
+    EXPECT_EQ("XtRJustify", text("enumedit_type"));
     update_value("centre", "XtJustifyCenter", "center");
     update_value("right", "XtJustifyRight", "right");
     press("enumedit_quitb");
