@@ -120,6 +120,7 @@ class Tutorial : public Session {
     choose_menu("entity_viewb", "entity_opt_enums_t");
     name_and_press("enumlist_selection", "Justify", "Apply");
     name_and_press("enumlist_selection", "Justify", "OK");
+    EXPECT_EQ("Enumeration: (none)", title("enumedit_dialog"));
     enter("enumedit_type", "XtRJustify");
     update_value("left", "XtJustifyLeft", "left");
     EXPECT_EQ("left", text("enumedit_selection"));
