@@ -150,6 +150,7 @@ const std::map<std::string, std::string> messages = {
     {"se_free_get", ""},
     {"se_bad_resource", ""},
     {"no_help_topic", ""},
+    {"out_of_memory", ""},
     {"sbf_open", "s"},
     {"sbf_new", "s"},
     {"sbf_exit", "s"},
