@@ -1,0 +1,17 @@
+#include <gtest/gtest.h>
+
+#include "application/run_program.h"
+
+// What the program offers to code that is loaded into it.
+
+namespace {
+
+class Links : public ProgramTest {};
+
+TEST_F(Links, AllAreFoundByNameInTheProgram) {
+  const std::vector<std::string> finder = {std::string("LD_PRELOAD=") + LINK_FINDER,
+                                           "ASAN_OPTIONS=verify_asan_link_order=0"};
+  EXPECT_EQ((Outcome{0, "", ""}), run({}, {.environment = finder}));
+}
+
+}  // namespace
