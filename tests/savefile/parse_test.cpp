@@ -59,11 +59,13 @@ TEST_F(ParseIt, AFileThatCannotBeOpenedLosesItsNameAndLeavesTheModel) {
   EXPECT_EQ(Messages{"cannot open " + file + ": " + std::strerror(ENOENT)}, messages.shown);
 }
 
-TEST_F(ParseIt, AFolderIsNoDocument) {
+TEST_F(ParseIt, AFolderCannotBeOpenedAndLeavesTheModel) {
+  alias_add("A");
   EXPECT_EQ(0, parse(folder.path()));
-  EXPECT_EQ(1u, messages.shown.size());
   EXPECT_EQ(nullptr, path.c_str());
+  EXPECT_EQ(1, alias_count());
   EXPECT_EQ(Names{}, titles);
+  EXPECT_EQ(Messages{"cannot open " + folder.path() + ": " + std::strerror(EISDIR)}, messages.shown);
 }
 
 TEST_F(ParseIt, AFreshDocumentReplacesTheModel) {

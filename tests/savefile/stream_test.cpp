@@ -121,10 +121,12 @@ TEST_F(StreamTest, CannotBeOpenedInAMissingFolder) {
   EXPECT_EQ(ENOENT, errno);
 }
 
-TEST_F(StreamTest, CannotBeOpenedOnAFolderForWriting) {
-  errno = 0;
-  EXPECT_EQ(nullptr, Stream::open(folder.path().c_str(), "w"));
-  EXPECT_EQ(EISDIR, errno);
+TEST_F(StreamTest, CannotBeOpenedOnAFolder) {
+  for (const char* mode : {"r", "w"}) {
+    errno = 0;
+    EXPECT_EQ(nullptr, Stream::open(folder.path().c_str(), mode)) << mode;
+    EXPECT_EQ(EISDIR, errno) << mode;
+  }
 }
 
 TEST_F(StreamTest, TellsWhatItCannotWriteAndWhy) {

@@ -1,6 +1,7 @@
 #include "vqc/cmd/savefile/stream.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -11,12 +12,22 @@ namespace {
 constexpr int kNotOpen = -1;
 constexpr mode_t kReadWriteAll = 0666;  // less what the user's umask takes
 
+bool is_folder(int descriptor) {
+  struct stat status {};
+  return fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode);
+}
+
 }  // namespace
 
 std::unique_ptr<Stream> Stream::open(const char* path, const char* mode) {
   const int flags = *mode == 'w' ? O_WRONLY | O_CREAT | O_TRUNC : O_RDONLY;
   const int descriptor = ::open(path, flags | O_CLOEXEC, kReadWriteAll);
-  return std::unique_ptr<Stream>(descriptor == kNotOpen ? nullptr : new Stream(descriptor));
+  if (descriptor == kNotOpen) return nullptr;
+  std::unique_ptr<Stream> stream(new Stream(descriptor));
+  if (!is_folder(descriptor)) return stream;
+  stream.reset();
+  errno = EISDIR;  // the system opens a folder, and only refuses to read it
+  return nullptr;
 }
 
 Stream::Stream(int descriptor) : descriptor_(descriptor), buffer_(new char[kSize + kNulsBehind]) {}
