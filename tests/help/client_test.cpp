@@ -68,6 +68,17 @@ TEST_F(HelpClient, SendsTheRequestWhenTheViewerAnnouncesItself) {
   EXPECT_EQ(with_nul("/first.html"), viewer.request());
 }
 
+TEST_F(HelpClient, HearsAViewerThatAnnouncesItselfAtOnce) {
+  install_fake();
+  Widget board = XtVaCreateManagedWidget("board", xmBulletinBoardWidgetClass, shell, nullptr);
+  settle();
+  FakeViewer viewer;
+  EXPECT_EQ(0, VQHelp(board, "/a.html"));
+  viewer.announce_on(board);
+  EXPECT_TRUE(wait_for([&] { return viewer.request() == with_nul("/a.html"); }));
+  EXPECT_TRUE(wait_for_launches(1));
+}
+
 TEST_F(HelpClient, SendsOnlyTheLastOfTheRequestsThatWaited) {
   install_fake();
   FakeViewer viewer;

@@ -74,6 +74,7 @@ void viewer_announced(Widget w, XtPointer, XEvent* event, Boolean*) {
 /// Launches a viewer in the background. A command there never fails, so that whether there is a viewer is asked first.
 int start_viewer(Widget w) {
   XtAddEventHandler(w, PropertyChangeMask, False, viewer_announced, nullptr);
+  XSync(XtDisplay(w), False);  // a viewer may announce itself before anything else is sent to the server
   starting = true;
   const std::string command =
       "[ -x \"$VQROOT/bin/vqhelp\" ] || exit 1\n\"$VQROOT/bin/vqhelp\" -wid " + std::to_string(XtWindow(w)) + " &";
