@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <X11/IntrinsicP.h>
 #include <Xm/MenuShell.h>
 #include <Xm/PushB.h>
 #include <Xm/PushBG.h>
@@ -14,12 +13,15 @@
 #include "gui/hands.h"
 #include "gui/looks.h"
 #include "gui/outside.h"
+#include "gui/parts.h"
 #include "gui/session.h"
 #include "gui/widget_tables.h"
 #include "libkel/installation.h"
+#include "libkel/message.h"
 #include "support/windows.h"
 #include "vqc/cmd/application/help.h"
 #include "vqc/cmd/application/session.h"
+#include "vqc/cmd/editors/kit/session_hooks.h"
 
 // Help as a user has it: the installed viewer with the installed pages, next to the dialogs.
 
@@ -59,16 +61,6 @@ void overlook_leaks_of_libraries() {
 Widget window_of(const std::string& button) {
   Widget shell = shell_of(widget(button));
   return XmIsMenuShell(shell) ? shell_of(XtParent(shell)) : shell;
-}
-
-/// Calls a function for a widget and all that there is below it.
-void for_each_below(Widget w, const std::function<void(Widget)>& function) {
-  function(w);
-  if (!XtIsWidget(w)) return;
-  for (Cardinal i = 0; i < w->core.num_popups; ++i) for_each_below(w->core.popup_list[i], function);
-  if (!XtIsComposite(w)) return;
-  const auto& composite = reinterpret_cast<CompositeWidget>(w)->composite;
-  for (Cardinal i = 0; i < composite.num_children; ++i) for_each_below(composite.children[i], function);
 }
 
 /// A session whose user asks for help.
@@ -158,6 +150,80 @@ TEST_F(HelpButtons, AreAllThatSayHelp) {
       EXPECT_TRUE(known.contains(w)) << XtName(XtParent(w)) << "." << XtName(w);
     }
   });
+}
+
+/// What has been asked for; nobody shows it.
+std::vector<std::string> topics;
+
+class HelpRequests : public Session {
+ protected:
+  HelpRequests() {
+    open_document("VQconfig\nwidget 'W' {\n}\nenumeration 'E' {\n}\nfamily 'F' {\nwidget='W'\nenumeration='E'\n}\n");
+    session_hooks.help = [](Widget, const char* topic) { topics.emplace_back(topic); };
+  }
+
+  /// Clicks on the Help button of a box, and goes to it and presses its keys.
+  static void expect_one_request(const std::string& box, const std::string& topic) {
+    const std::vector<std::string> once = {topic};
+    topics.clear();
+    click(box + ".Help");
+    EXPECT_EQ(once, topics) << box;
+    topics.clear();
+    XmProcessTraversal(widget(box + ".Help"), XmTRAVERSE_CURRENT);
+    key("space");
+    EXPECT_EQ(once, topics) << box;
+    topics.clear();
+    key("F1");
+    EXPECT_EQ(once, topics) << box;
+  }
+};
+
+TEST_F(HelpRequests, OfTheMainWindowAreMadeOnce) { expect_one_request("family_selection", "vqc_family"); }
+
+TEST_F(HelpRequests, OfTheListsOfAFamilyAreMadeOnce) {
+  edit_family("F");
+  expect_one_request("widgetlist_selection", "vqc_classw");
+  toggle("entity_opt_aliases_t", true);
+  expect_one_request("aliaslist_selection", "vqc_aliases");
+  toggle("entity_opt_converters_t", true);
+  expect_one_request("converter_selection", "vqc_converter");
+  toggle("entity_opt_enums_t", true);
+  expect_one_request("enumlist_selection", "vqc_enums");
+  toggle("entity_opt_code_headers_t", true);
+  expect_one_request("codeheaderlist_selection", "vqc_code_hdrs");
+  toggle("entity_opt_config_headers_t", true);
+  expect_one_request("confheaderlist_selection", "vqc_conf_hdrs");
+  toggle("entity_opt_family_headers_t", true);
+  expect_one_request("familyheaderlist_selection", "vqc_family_hdrs");
+}
+
+TEST_F(HelpRequests, OfAnEnumerationAreMadeOnce) {
+  edit_family("F");
+  enter("enumlist_selection", "E");
+  press_ok("enumlist_selection");
+  expect_one_request("enumedit_selection", "vqc_enum_edit");
+}
+
+TEST_F(HelpRequests, OfThePickersAreMadeOnce) {
+  edit_family("F");
+  enter("widgetlist_selection", "W");
+  press_ok("widgetlist_selection");
+  press("widgetedit_page_b");
+  expect_one_request("pageedit_selection", "vqc_page_edit");
+  press_cancel("pageedit_selection");
+  press("widgetedit_popup_b");
+  expect_one_request("popupedit_selection", "vqc_popup_edit");
+}
+
+TEST_F(HelpRequests, OfFilesAndQuestionsAreMadeOnce) {
+  press("family_openb");
+  expect_one_request("open_fsb", "vqc_open");
+  press_cancel("open_fsb");
+  press("family_genconfigb");
+  expect_one_request("gen_fsb", "vqc_gen");
+  press_cancel("gen_fsb");
+  error_show("bad_save_file");
+  expect_one_request("error_messageb", "vqc_error");
 }
 
 TEST_F(Help, ComesUpAtAClick) {

@@ -11,6 +11,8 @@
 Widget list_in(const std::string& list_or_box);
 /// The text field of that name, or the name field of the selection box of that name.
 Widget field_in(const std::string& field_or_box);
+/// Calls a function for a widget and all that there is below it.
+void for_each_below(Widget w, const std::function<void(Widget)>& function);
 /// Whether a realised widget's window is on the screen.
 bool is_window_viewable(Widget w);
 

@@ -24,7 +24,7 @@ const WidgetRow rows[] = {
       {XmNapplyCallback, enumentry_do_add},
       {XmNcancelCallback, enumentry_do_delete},
       {XmNhelpCallback, vqc_do_help, "vqc_enum_edit"}}},
-    {"Help", found, "enumedit_selection", NO_SLOT, {{XmNactivateCallback, vqc_do_help, "vqc_enum_edit"}}},
+    {"Help", found_button, "enumedit_selection", NO_SLOT, {{XmNactivateCallback, vqc_do_help, "vqc_enum_edit"}}},
     {"*ItemsList", found, "enumedit_selection", NO_SLOT, {{XmNbrowseSelectionCallback, enumentry_do_display}}},
     {"enumedit_work_form", create_form, "enumedit_selection"},
     {"enumedit_arrowbox", XmCreateRowColumn, "enumedit_work_form"},

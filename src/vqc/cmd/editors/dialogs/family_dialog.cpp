@@ -94,7 +94,7 @@ const WidgetRow rows[] = {
       {XmNapplyCallback, family_do_add},
       {XmNcancelCallback, family_do_delete},
       {XmNhelpCallback, vqc_do_help, "vqc_family"}}},
-    {"Help", found, "family_selection", NO_SLOT, {{XmNactivateCallback, vqc_do_help, "vqc_family"}}},
+    {"Help", found_button, "family_selection", NO_SLOT, {{XmNactivateCallback, vqc_do_help, "vqc_family"}}},
     {"*ItemsList", found, "family_selection", FAMILY_LIST, {{XmNbrowseSelectionCallback, family_do_select}}},
     {"Text", found, "family_selection", FAMILY_TEXT},
     {"family_arrowbox", XmCreateRowColumn, "family_selection"},

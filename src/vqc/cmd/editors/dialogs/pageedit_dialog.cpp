@@ -20,7 +20,7 @@ const WidgetRow rows[] = {
      {{XmNapplyCallback, pagelist_do_apply},
       {XmNcancelCallback, pagelist_do_hide},
       {XmNhelpCallback, vqc_do_help, "vqc_page_edit"}}},
-    {"Help", found, "pageedit_selection", NO_SLOT, {{XmNactivateCallback, vqc_do_help, "vqc_page_edit"}}},
+    {"Help", found_button, "pageedit_selection", NO_SLOT, {{XmNactivateCallback, vqc_do_help, "vqc_page_edit"}}},
     {"*ItemsList", found, "pageedit_selection", NO_SLOT, {{XmNbrowseSelectionCallback, pagelist_do_display}}},
     {"OK", unwanted, "pageedit_selection"},
     {"Apply", found, "pageedit_selection"},

@@ -21,7 +21,7 @@ const WidgetRow rows[] = {
      {{XmNapplyCallback, popuplist_do_apply},
       {XmNcancelCallback, popuplist_do_hide},
       {XmNhelpCallback, vqc_do_help, "vqc_popup_edit"}}},
-    {"Help", found, "popupedit_selection", NO_SLOT, {{XmNactivateCallback, vqc_do_help, "vqc_popup_edit"}}},
+    {"Help", found_button, "popupedit_selection", NO_SLOT, {{XmNactivateCallback, vqc_do_help, "vqc_popup_edit"}}},
     {"*ItemsList", found, "popupedit_selection", NO_SLOT, {{XmNbrowseSelectionCallback, popuplist_do_display}}},
     {"OK", unwanted, "popupedit_selection"},
     {"Apply", found, "popupedit_selection"},

@@ -122,6 +122,12 @@ Widget shell_of(Widget contents) {
 
 Widget found(Widget parent, char* name, ArgList, Cardinal) { return XtNameToWidget(parent, name); }
 
+Widget found_button(Widget parent, char* name, ArgList, Cardinal) {
+  Widget button = XtNameToWidget(parent, name);
+  if (button) XtRemoveAllCallbacks(button, XmNactivateCallback);
+  return button;
+}
+
 Widget unwanted(Widget parent, char* name, ArgList, Cardinal) {
   if (Widget child = XtNameToWidget(parent, name)) XtUnmanageChild(child);
   return nullptr;

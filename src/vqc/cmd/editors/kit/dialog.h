@@ -41,6 +41,8 @@ struct WidgetLink {
 
 /// Finds a child that its parent has made for itself, and sees that it is managed.
 Widget found(Widget parent, char* name, ArgList, Cardinal);
+/// Finds a button that its parent has made for itself, and lets it call nothing but what its row says.
+Widget found_button(Widget parent, char* name, ArgList, Cardinal);
 /// Finds such a child and unmanages it. Null, so that nothing else is done with it.
 Widget unwanted(Widget parent, char* name, ArgList, Cardinal);
 /// A form that stays where it is whatever is pressed in it.
