@@ -11,28 +11,18 @@
 
 namespace {
 
-constexpr std::string_view kSuffix = ".vqc";
-
 struct Request {
   const bool& wanted;
   const char* const& name;
-  const char* suffix;
   FileKind kind;
 };
 
 /// In the order in which they are generated.
 const Request requests[] = {
-    {batch_config, batch_config_file, "_config.c", CONFIG_FILE},
-    {batch_code, batch_code_file, "_code.c", CODE_FILE},
-    {batch_stubs, batch_stubs_file, "_stubs.c", STUBS_FILE},
+    {batch_config, batch_config_file, CONFIG_FILE},
+    {batch_code, batch_code_file, CODE_FILE},
+    {batch_stubs, batch_stubs_file, STUBS_FILE},
 };
-
-/// The name that a generated file has when none is given.
-std::string batch_file_name(const char* suffix) {
-  std::string name = batch_save_file;
-  if (name.ends_with(kSuffix)) name.resize(name.size() - kSuffix.size());
-  return name + suffix;
-}
 
 int fail(const char* what) {
   std::fprintf(stderr, "%s%s\n", what, batch_save_file);
@@ -40,7 +30,7 @@ int fail(const char* what) {
 }
 
 bool generate_requested(const Request& request) {
-  const std::string name = request.name ? request.name : batch_file_name(request.suffix);
+  const std::string name = request.name ? request.name : batch_file_name(batch_save_file, request.kind);
   return batch_generate(name.c_str(), request.kind);
 }
 

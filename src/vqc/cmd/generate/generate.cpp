@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <memory>
+#include <string_view>
 
 #include "vqc/cmd/generate/code_file.h"
 #include "vqc/cmd/generate/config_file.h"
@@ -12,17 +13,18 @@ namespace {
 
 struct OutputFile {
   int kind;
-  const char* name;  // as messages put it, with a blank behind
+  const char* name;    // as messages put it, with a blank behind
+  const char* suffix;  // of a name that is made from the document's
   void (*set_name)(const Text& name);
   void (*write)(Run& run);
 };
 
 constexpr OutputFile output_files[] = {
-    {CONFIG_FILE, "configuration ", set_config_file, write_config_file},
-    {CODE_FILE, "code ", set_code_file, write_code_file},
-    {STUBS_FILE, "stubs ", set_stubs_file, write_stubs_file},
+    {CONFIG_FILE, "configuration ", "_config.c", set_config_file, write_config_file},
+    {CODE_FILE, "code ", "_code.c", set_code_file, write_code_file},
+    {STUBS_FILE, "stubs ", "_stubs.c", set_stubs_file, write_stubs_file},
 };
-constexpr OutputFile other_file{0, "", set_stubs_file, write_stubs_file};
+constexpr OutputFile other_file{0, "", "_stubs.c", set_stubs_file, write_stubs_file};
 
 const OutputFile& output_file(int kind) {
   for (const OutputFile& file : output_files) {
@@ -40,6 +42,13 @@ void choose_families(bool interactive) {
 }
 
 }  // namespace
+
+std::string batch_file_name(const char* document, int kind) {
+  constexpr std::string_view kSuffix = ".vqc";
+  std::string name = document;
+  if (name.ends_with(kSuffix)) name.resize(name.size() - kSuffix.size());
+  return name + output_file(kind).suffix;
+}
 
 bool generate(const char* name, bool interactive, int kind) {
   const OutputFile& file = output_file(kind);
