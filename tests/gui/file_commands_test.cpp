@@ -4,6 +4,7 @@
 #include "gui/hands.h"
 #include "gui/looks.h"
 #include "gui/session.h"
+#include "libkel/leafnm.h"
 
 namespace {
 
@@ -228,6 +229,144 @@ TEST_F(FileCommands, AFileBoxShowsWhatIsThereWheneverItIsShown) {
   press("family_openb");
   EXPECT_EQ(1, std::ranges::count(items("open_fsb"), "late.vqc") +
                    std::ranges::count(items("open_fsb"), folder / "late.vqc"));
+}
+
+/// What a file box shows: the folder, and the name that it offers.
+std::vector<std::string> shown_in(const std::string& box) { return {text(box + ".DirText"), text(box)}; }
+
+using Shown = std::vector<std::string>;
+
+TEST_F(FileCommands, TheFileBoxesOpenInTheFolderOfTheDocument) {
+  std::filesystem::create_directory(folder / "sub");
+  start({folder.with("sub/mine.vqc", demo)});
+  press("family_openb");
+  EXPECT_EQ((Shown{folder / "sub/", ""}), shown_in("open_fsb"));
+  EXPECT_EQ(Items{"mine.vqc"}, items("open_fsb"));
+  press("family_readb");
+  EXPECT_EQ((Shown{folder / "sub/", ""}), shown_in("read_fsb"));
+  press("family_saveasb");
+  EXPECT_EQ((Shown{folder / "sub/", "mine.vqc"}), shown_in("save_fsb"));
+}
+
+TEST_F(FileCommands, TheFileBoxesOpenInTheWorkingDirectoryWhileThereIsNoName) {
+  start();
+  for (const auto& [command, box] : {std::pair("family_openb", "open_fsb"), std::pair("family_readb", "read_fsb"),
+                                     std::pair("family_saveb", "save_fsb"), std::pair("family_saveasb", "save_fsb")}) {
+    press(command);
+    EXPECT_EQ((Shown{folder.path() + "/", ""}), shown_in(box)) << command;
+  }
+}
+
+TEST_F(FileCommands, AFileBoxComesBackToTheFolderOfTheDocument) {
+  std::filesystem::create_directory(folder / "sub");
+  open_document(demo);
+  press("family_openb");
+  enter("open_fsb.DirText", folder / "sub");
+  press_apply("open_fsb");
+  ASSERT_EQ((Shown{folder / "sub/", ""}), shown_in("open_fsb"));
+  press_cancel("open_fsb");
+  press("family_openb");
+  EXPECT_EQ((Shown{folder.path() + "/", ""}), shown_in("open_fsb"));
+  choose_file("open_fsb", folder.with("sub/other.vqc", demo));
+  press("family_openb");
+  EXPECT_EQ((Shown{folder / "sub/", ""}), shown_in("open_fsb"));
+}
+
+TEST_F(FileCommands, ADocumentNamedFromTheWorkingDirectoryHasItsFolder) {
+  std::filesystem::create_directory(folder / "sub");
+  folder.with("sub/mine.vqc", demo);
+  start({"sub/mine.vqc"});
+  press("family_saveasb");
+  EXPECT_EQ((Shown{folder / "sub/", "mine.vqc"}), shown_in("save_fsb"));
+  press_ok("save_fsb");
+  EXPECT_EQ(folder / "sub/mine.vqc", save_file.view());
+}
+
+TEST_F(FileCommands, TheFileBoxesOpenSomewhereWhenTheFolderHasGone) {
+  std::filesystem::create_directory(folder / "sub");
+  start({folder.with("sub/mine.vqc", demo)});
+  std::filesystem::remove_all(folder / "sub");
+  press("family_saveasb");
+  EXPECT_EQ("mine.vqc", text("save_fsb"));
+  choose_file("save_fsb", folder / "mine.vqc");
+  EXPECT_EQ("vqconfig: mine.vqc", title());
+}
+
+TEST_F(FileCommands, TypingReplacesTheNameThatSaveAsOffers) {
+  open_document(demo);
+  for (const char* name : {"first.vqc", "second.vqc"}) {
+    press("family_saveasb");
+    ASSERT_TRUE(has_keyboard("save_dialog"));
+    EXPECT_EQ(leafnm(save_file.c_str()), text("save_fsb"));
+    type(name);
+    EXPECT_EQ(name, text("save_fsb"));
+    key("Return");
+    EXPECT_EQ(folder / name, save_file.view());
+  }
+}
+
+TEST_F(FileCommands, ANameThatSaveAsOffersAndCannotShowIsTakenAsItIs) {
+  start({folder.with("d\xfc.vqc", demo)});
+  add_family("Extra");
+  press("family_saveasb");
+  EXPECT_EQ("d?.vqc", text("save_fsb"));
+  press_ok("save_fsb");
+  EXPECT_EQ(folder / "d\xfc.vqc", save_file.view());
+  EXPECT_NE(demo, read_file(folder / "d\xfc.vqc"));
+}
+
+/// What a file box says when its user has typed nothing.
+void expect_no_file_told() { EXPECT_TRUE(error_shown().ends_with("\nNo such file or directory")) << error_shown(); }
+
+TEST_F(FileCommands, OpenWithoutANameIsToldAndCloses) {
+  open_document(athena);
+  press("family_openb");
+  ASSERT_TRUE(is_shown("open_dialog"));
+  click("open_fsb.OK");
+  expect_no_file_told();
+  EXPECT_FALSE(is_shown("open_dialog"));
+  EXPECT_EQ(Items{"Athena"}, items("family_selection"));
+  EXPECT_EQ("vqconfig: document.vqc", title());
+  EXPECT_FALSE(save_file);
+  EXPECT_FALSE(dirty);
+}
+
+TEST_F(FileCommands, ReadWithoutANameIsToldAndCloses) {
+  open_document(athena);
+  press("family_readb");
+  ASSERT_TRUE(is_shown("read_dialog"));
+  click("read_fsb.OK");
+  expect_no_file_told();
+  EXPECT_FALSE(is_shown("read_dialog"));
+  EXPECT_EQ(Items{"Athena"}, items("family_selection"));
+  EXPECT_EQ(folder / "document.vqc", save_file.view());
+  EXPECT_FALSE(dirty);
+}
+
+TEST_F(FileCommands, SaveWithoutANameIsToldAndCloses) {
+  change_document();
+  press("family_saveasb");
+  ASSERT_TRUE(has_keyboard("save_dialog"));
+  key("Delete");
+  click("save_fsb.OK");
+  expect_no_file_told();
+  EXPECT_FALSE(is_shown("save_dialog"));
+  EXPECT_TRUE(dirty);
+  EXPECT_EQ("vqconfig: document.vqc", title());
+  EXPECT_EQ(athena, read_file(folder / "document.vqc"));
+  save_as(folder / "document.vqc");
+  EXPECT_FALSE(dirty);
+}
+
+TEST_F(FileCommands, AFolderInTheNameFieldIsToldAndCloses) {
+  open_document(athena);
+  std::filesystem::create_directory(folder / "sub");
+  press("family_readb");
+  enter("read_fsb", "sub");
+  press_ok("read_fsb");
+  EXPECT_NE(std::string::npos, error_shown().find(folder / "sub")) << error_shown();
+  EXPECT_NE(std::string::npos, error_shown().find("Is a directory")) << error_shown();
+  EXPECT_FALSE(is_shown("read_dialog"));
 }
 
 TEST_F(FileCommands, AcceleratorsReachTheFileMenu) {

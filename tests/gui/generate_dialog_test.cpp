@@ -18,14 +18,15 @@ struct Kind {
   const char* item;
   const char* title;
   const char* keyword;
-  const char* mark;  // what of family A's widget is found in the file
+  const char* suffix;  // of the name that is derived
+  const char* mark;    // what of family A's widget is found in the file
 };
 void PrintTo(const Kind& kind, std::ostream* stream) { *stream << kind.keyword; }
 
 const Kind kinds[] = {
-    {"family_genconfigb", "generate_config_title", "config_name", "\"A\""},
-    {"family_gencodeb", "generate_code_title", "code_name", "xw_Dial"},
-    {"family_genstubs_b", "generate_stubs_title", "stubs_name", "dial_realise"},
+    {"family_genconfigb", "generate_config_title", "config_name", "_config.c", "\"A\""},
+    {"family_gencodeb", "generate_code_title", "code_name", "_code.c", "xw_Dial"},
+    {"family_genstubs_b", "generate_stubs_title", "stubs_name", "_stubs.c", "dial_realise"},
 };
 
 struct FamilyToggle {
@@ -93,6 +94,40 @@ TEST_P(Generate, AFailedRunLeavesTheOldName) {
   EXPECT_FALSE(is_shown("gen_dialog"));
   press(GetParam().item);
   EXPECT_EQ(folder / "out.c", text("gen_fsb"));
+}
+
+TEST_P(Generate, OffersTheNameThatARunWithoutAUserTakes) {
+  press(GetParam().item);
+  EXPECT_EQ(folder.path() + "/", text("gen_fsb.DirText"));
+  EXPECT_EQ("document" + std::string(GetParam().suffix), text("gen_fsb"));
+  press_ok("gen_fsb");
+  EXPECT_TRUE(has_text(folder / "document" + GetParam().suffix, GetParam().mark));
+}
+
+TEST_P(Generate, TypingReplacesTheNameThatIsOffered) {
+  for (const char* name : {"first.c", "second.c"}) {
+    press(GetParam().item);
+    ASSERT_TRUE(has_keyboard("gen_dialog"));
+    type(name);
+    EXPECT_EQ(name, text("gen_fsb"));
+    key("Return");
+    EXPECT_TRUE(has_text(folder / name, GetParam().mark));
+  }
+}
+
+TEST_P(Generate, WithoutANameIsToldAndCloses) {
+  press(GetParam().item);
+  enter("gen_fsb", "");
+  press_ok("gen_fsb");
+  EXPECT_TRUE(error_shown().ends_with("\nNo such file or directory")) << error_shown();
+  EXPECT_FALSE(is_shown("gen_dialog"));
+  EXPECT_EQ(std::string::npos, saved().find(GetParam().keyword)) << "no name is remembered";
+}
+
+TEST_P(Generate, OffersNothingWhileTheDocumentHasNoName) {
+  press("family_newb");
+  press(GetParam().item);
+  EXPECT_EQ("", text("gen_fsb"));
 }
 
 TEST_P(Generate, AFamilyWhoseToggleIsOffIsLeftOut) {

@@ -38,6 +38,17 @@ TEST_F(PageEditor, OpensOnThePageOfTheField) {
   EXPECT_EQ(all_pages, items("pageedit_selection"));
 }
 
+TEST_F(PageEditor, TypingReplacesThePageThatItOpensOn) {
+  for (const char* name : {"first", "second"}) {
+    click("widgetedit_page_b");
+    ASSERT_TRUE(has_keyboard("pageedit_dialog"));
+    type(name);
+    EXPECT_EQ(name, text("pageedit_selection"));
+    click("pageedit_selection.Cancel");
+    ASSERT_TRUE(has_keyboard("widgetedit_dialog"));
+  }
+}
+
 TEST_F(PageEditor, OpensEmptyOnAnUnknownPage) {
   enter("widgetedit_page_t", "unknown");
   press("widgetedit_page_b");

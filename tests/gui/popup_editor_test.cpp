@@ -55,6 +55,17 @@ TEST_F(PopupEditor, OpensOnThePopupOfTheField) {
   expect_fields("mine", "mine_init", "mine_update");
 }
 
+TEST_F(PopupEditor, TypingReplacesThePopupThatItOpensOn) {
+  for (const char* name : {"first", "second"}) {
+    click("widgetedit_popup_b");
+    ASSERT_TRUE(has_keyboard("popupedit_dialog"));
+    type(name);
+    EXPECT_EQ(name, text("popupedit_selection"));
+    click("popupedit_selection.Cancel");
+    ASSERT_TRUE(has_keyboard("widgetedit_dialog"));
+  }
+}
+
 TEST_F(PopupEditor, OpensEmptyOnAnUnknownPopup) {
   press("widgetedit_popup_b");
   enter("widgetedit_popup_t", "unknown");

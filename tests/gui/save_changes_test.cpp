@@ -162,6 +162,30 @@ TEST_F(SaveChanges, SaveThenNewEmptiesTheDocument) {
   EXPECT_TRUE(mentions_extra(file()));
 }
 
+TEST_F(SaveChanges, AskingLeavesAnOpenSaveAsBoxOpen) {
+  change_named();
+  press("family_saveasb");
+  press("family_exitb");
+  EXPECT_TRUE(is_shown("savechanges_dialog"));
+  EXPECT_TRUE(is_shown("save_dialog"));
+  press_cancel("savechanges_messagebox");
+  ASSERT_TRUE(is_shown("save_dialog"));
+  choose_file("save_fsb", folder / "mine.vqc");
+  EXPECT_FALSE(exit_status);
+  EXPECT_EQ("vqconfig: mine.vqc", title());
+}
+
+TEST_F(SaveChanges, ASaveAsBoxClosesWithTheDocumentThatItWasToSave) {
+  change_named();
+  press("family_saveasb");
+  press("family_newb");
+  press("savechanges_nob");
+  EXPECT_FALSE(is_shown("save_dialog"));
+  add_family("Later");
+  save_as(folder / "later.vqc");
+  EXPECT_EQ(Items{"Later"}, items("family_selection"));
+}
+
 TEST_F(SaveChanges, TheQuestionHasToBeAnsweredFirst) {
   change_named();
   press("family_exitb");

@@ -383,7 +383,7 @@ void EveryDialog::open_every_dialog() {
   open_editors();
   add_family("Extra");
   press("family_exitb");
-  press("family_saveasb");  // which that would have closed
+  press("family_saveasb");
   error_show("bad_save_file");
   settle();
 }

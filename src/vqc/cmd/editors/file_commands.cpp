@@ -21,6 +21,7 @@ void really_exit() {
 }  // namespace
 
 void run_save_op() {
+  if (save_op != SaveOp::none) close_save_dialog();  // what it would save is about to go
   switch (save_op) {
     case SaveOp::none:
       return;

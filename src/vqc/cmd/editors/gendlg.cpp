@@ -39,6 +39,12 @@ void rebuild_toggles(Widget container) {
   XtManageChild(container);
 }
 
+/// What the box offers where no file of the kind has been generated: the name that a run without a user would take.
+Text derived_name(Widget box, FileKind kind) {
+  if (save_file.empty()) return nullptr;
+  return name_in_box(box, batch_file_name(save_file, kind).c_str());
+}
+
 void gen_popup(Widget w, FileKind kind, const char* name, const char* title) {
   const BusyCursor busy(w);
   if (!made(gen_dialog, create_gen_dialog, family_dialog[FAMILY_SHELL])) return;
@@ -46,10 +52,8 @@ void gen_popup(Widget w, FileKind kind, const char* name, const char* title) {
   Widget box = gen_dialog[GEN_FSB];
   title_file_box(box, title);
   XtVaSetValues(box, XmNpattern, static_cast<XmString>(CompoundString("*.c")), nullptr);
-  XmFileSelectionDoSearch(box, nullptr);
-  if (name) settextf(XmFileSelectionBoxGetChild(box, XmDIALOG_TEXT), name);
   rebuild_toggles(gen_dialog[GEN_TOGGLES]);
-  show_dialog(box);
+  show_file_box(box, save_file, name ? Text(name) : derived_name(box, kind));
 }
 
 }  // namespace
@@ -70,8 +74,7 @@ void genstubs_do_popup(Widget w, XtPointer, XtPointer) {
 
 void gen_do_generate(Widget w, XtPointer, XtPointer call) {
   const BusyCursor busy(w);
-  const Text path = chosen_path(call);
-  if (!path) return;
+  const Text path = chosen_path(w, call);
   hide_dialog(gen_dialog[GEN_FSB]);  // first: a message could not be answered behind a modal dialog
   generate(path, true, pending_kind);
 }

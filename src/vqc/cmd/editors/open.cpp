@@ -20,14 +20,13 @@ void open_do_popup(Widget w, XtPointer, XtPointer) {
 }
 
 void really_open_popup() {
-  if (made(open_dialog, create_open_dialog, family_dialog[FAMILY_SHELL])) show_file_box(open_dialog[OPEN_FSB]);
+  if (made(open_dialog, create_open_dialog, family_dialog[FAMILY_SHELL]))
+    show_file_box(open_dialog[OPEN_FSB], save_file);
 }
 
 void do_open(Widget w, XtPointer, XtPointer call) {
   const BusyCursor busy(w);
-  const Text path = chosen_path(call);
-  if (!path) return;
-  save_file = path;
+  save_file = chosen_path(w, call);
   parseit(&save_file, 1);
   dirty = false;
   hide_dialog(open_dialog[OPEN_FSB]);

@@ -16,6 +16,7 @@ void open_picker(Picker& picker, Widget field, Widget parent) {
   show_all_names(picker);
   picker.show(gettextf(field));
   show_dialog(picker.editor.box());
+  offer_text(picker.editor.name_field());
 }
 
 int show_all_names(const Picker& picker) {

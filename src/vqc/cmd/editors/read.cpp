@@ -6,17 +6,18 @@
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/file_box.h"
 #include "vqc/cmd/editors/options.h"
+#include "vqc/cmd/model/document.h"
 #include "vqc/cmd/savefile/parse.h"
 
 void read_do_popup(Widget w, XtPointer, XtPointer) {
   const BusyCursor busy(w);
-  if (made(read_dialog, create_read_dialog, family_dialog[FAMILY_SHELL])) show_file_box(read_dialog[READ_FSB]);
+  if (made(read_dialog, create_read_dialog, family_dialog[FAMILY_SHELL]))
+    show_file_box(read_dialog[READ_FSB], save_file);
 }
 
 void do_read(Widget w, XtPointer, XtPointer call) {
   const BusyCursor busy(w);
-  Text path = chosen_path(call);
-  if (!path) return;
+  Text path = chosen_path(w, call);
   parseit(&path, 0);
   hide_dialog(read_dialog[READ_FSB]);
   show_document();

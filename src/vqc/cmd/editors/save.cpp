@@ -14,8 +14,9 @@ namespace {
 
 void show_save_dialog(const char* title) {
   if (!made(save_dialog, create_save_dialog, family_dialog[FAMILY_SHELL])) return;
-  title_file_box(save_dialog[SAVE_FSB], title);
-  show_file_box(save_dialog[SAVE_FSB]);
+  Widget box = save_dialog[SAVE_FSB];
+  title_file_box(box, title);
+  show_file_box(box, save_file, name_in_box(box, save_file));
 }
 
 /// The question's text for each operation, for a document with a name and one without.
@@ -60,23 +61,24 @@ void really_save_popup() {
   }
 }
 
+void close_save_dialog() {
+  if (save_dialog) hide_dialog(save_dialog[SAVE_FSB]);
+}
+
 void do_save(Widget w, XtPointer, XtPointer call) {
   const BusyCursor busy(w);
-  const Text path = chosen_path(call);
-  if (!path) return;
-  save_file = path;
-  hide_dialog(save_dialog[SAVE_FSB]);
+  save_file = chosen_path(w, call);
+  close_save_dialog();
   write_save_file(save_file);
 }
 
 void save_do_hide(Widget, XtPointer, XtPointer) {
   save_op = SaveOp::none;
-  hide_dialog(save_dialog[SAVE_FSB]);
+  close_save_dialog();
 }
 
 void savechanges_popup(SaveOp operation) {
   save_op = operation;
-  if (save_dialog) hide_dialog(save_dialog[SAVE_FSB]);  // what it would save is asked about now
   if (!made(savechanges_dialog, create_savechanges_dialog, family_dialog[FAMILY_SHELL])) return;
   const std::string question = question_text(operation);
   XtVaSetValues(savechanges_dialog[SAVECHANGES_BOX], XmNmessageString, CompoundString::of_lines(question.c_str()).get(),

@@ -12,6 +12,8 @@ void saveas_do_popup(Widget w, XtPointer, XtPointer);
 /// Saves the document, after asking for a file if it has none.
 void really_save_popup();
 void do_save(Widget w, XtPointer, XtPointer call);
+/// Closes the box that asks for a file, if it is open.
+void close_save_dialog();
 /// Gives up saving, and with it the operation that waits for it.
 void save_do_hide(Widget w, XtPointer, XtPointer);
 

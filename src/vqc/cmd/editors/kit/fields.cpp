@@ -67,6 +67,17 @@ int settext(Widget w, const char* text) {
   return 1;
 }
 
+void offer_name(Widget field, const char* name) {
+  settext(field, name);
+  offer_text(field);
+}
+
+void offer_text(Widget field) {
+  const XmTextPosition end = XmTextFieldGetLastPosition(field);
+  XmTextFieldSetSelection(field, 0, end, XtLastTimestampProcessed(XtDisplay(field)));
+  XmProcessTraversal(field, XmTRAVERSE_CURRENT);
+}
+
 Text undistorted(Widget w, const Text& shown) {
   const auto distorted = distorted_texts().find(w);
   return distorted != distorted_texts().end() && distorted->second.shown == shown ? distorted->second.text : shown;

@@ -9,6 +9,11 @@
 int settext(Widget w, const char* text);
 inline int settextf(Widget w, const char* text) { return settext(w, text); }
 
+/// Shows a name in a text field that the user may take as it is, or type over.
+void offer_name(Widget field, const char* name);
+/// Selects what stands in a text field, so that typing replaces it, and gives it the keyboard.
+void offer_text(Widget field);
+
 /// What stands in a text field or text widget; null when there is no widget. What settext() could not show as it is
 /// comes back as it was, unless the user has changed it. A `field` gets the text too, as null when it is empty.
 Text gettextf(Widget w, Text* field = nullptr);

@@ -2,17 +2,47 @@
 
 #include <Xm/FileSB.h>
 
+#include <filesystem>
+#include <string>
+
+#include "libkel/leafnm.h"
 #include "libkel/message.h"
 #include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/dialog.h"
+#include "vqc/cmd/editors/kit/fields.h"
 
-void show_file_box(Widget box) {
-  XmFileSelectionDoSearch(box, nullptr);
-  show_dialog(box);
+namespace {
+
+std::string folder_of(const char* document) {
+  std::error_code unknown;
+  const bool named = document && *document;
+  return std::filesystem::absolute(named ? document : "any name", unknown).parent_path();
 }
 
-Text chosen_path(XtPointer call) {
-  return non_empty(text_of(static_cast<XmFileSelectionBoxCallbackStruct*>(call)->value));
+}  // namespace
+
+void show_file_box(Widget box, const char* document, const char* name) {
+  XtVaSetValues(box, XmNdirectory, CompoundString(folder_of(document).c_str()).get(), nullptr);
+  XmFileSelectionDoSearch(box, nullptr);
+  show_dialog(box);
+  offer_name(XmFileSelectionBoxGetChild(box, XmDIALOG_TEXT), name);
+}
+
+const char* name_in_box(Widget box, const char* path) {
+  unsigned char mode = XmPATH_MODE_FULL;
+  XtVaGetValues(box, XmNpathMode, &mode, nullptr);
+  return path && mode == XmPATH_MODE_RELATIVE ? leafnm(path) : path;
+}
+
+Text chosen_path(Widget box, XtPointer call) {
+  const Text path = text_of(static_cast<XmFileSelectionBoxCallbackStruct*>(call)->value);
+  if (path.empty()) return "";
+  // The box has put it together from what its field shows, which may not be all of the name that was offered.
+  Widget field = XmFileSelectionBoxGetChild(box, XmDIALOG_TEXT);
+  const Text whole = undistorted(field, path);
+  if (whole != path) return whole;
+  const char* leaf = leafnm(path.c_str());
+  return std::string(path.c_str(), leaf).append(undistorted(field, leaf).view()).c_str();
 }
 
 void title_file_box(Widget box, const char* resource_name) {
