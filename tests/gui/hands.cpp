@@ -144,6 +144,14 @@ KeySym modifier_named(const std::string& name) {
   throw std::runtime_error("no modifier is called " + name);
 }
 
+void strike_combination(const std::string& combination) {
+  std::istringstream words(combination);
+  std::vector<KeySym> modifiers;
+  std::string word;
+  while (std::getline(words, word, '+') && !words.eof()) modifiers.push_back(modifier_named(word));
+  strike({stroke_for(XStringToKeysym(word.c_str())).code, false}, modifiers);
+}
+
 void close_shell(Widget shell) {
   const long messages = events_seen(ClientMessage);
   close_by_manager(display, XtWindow(shell));
@@ -202,11 +210,28 @@ void type(std::string_view text) {
 
 void key(const std::string& combination) {
   wait_for(keyboard_is_ours);
-  std::istringstream words(combination);
-  std::vector<KeySym> modifiers;
-  std::string word;
-  while (std::getline(words, word, '+') && !words.eof()) modifiers.push_back(modifier_named(word));
-  strike({stroke_for(XStringToKeysym(word.c_str())).code, false}, modifiers);
+  strike_combination(combination);
+  settle();
+}
+
+void type_with(const std::string& modifiers, std::string_view letters) {
+  wait_for(keyboard_is_ours);
+  for (char letter : letters) strike_combination(modifiers + '+' + letter);
+  settle();
+}
+
+void turn_to(Widget shell) {
+  wait_for([shell] { return is_viewable(shell); });
+  XRaiseWindow(display, XtWindow(shell));
+  XSetInputFocus(display, XtWindow(shell), RevertToPointerRoot, CurrentTime);
+  has_keyboard(shell);
+  settle();
+}
+
+void switch_lock(const char* name) {
+  const KeyCode code = XKeysymToKeycode(display, XStringToKeysym(name));
+  send(code, true);
+  send(code, false);
   settle();
 }
 

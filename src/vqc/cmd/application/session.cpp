@@ -20,6 +20,7 @@
 #include "vqc/cmd/editors/file_commands.h"
 #include "vqc/cmd/editors/gendlg.h"
 #include "vqc/cmd/editors/kit/cursor.h"
+#include "vqc/cmd/editors/kit/keys.h"
 #include "vqc/cmd/editors/kit/memory.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/pagelist.h"
@@ -91,6 +92,7 @@ const char* open_display(int* argc, char** argv) {
 bool start_session(int argc, char** argv) {
   survive_short_memory();
   register_converters();
+  use_keys(display, file_command_keys());
   family_dialog = create_family_dialog(display, argv[0], argc, argv);
   if (!family_dialog) return false;
   Widget shell = family_dialog[FAMILY_SHELL];

@@ -66,6 +66,12 @@ void do_exit(Widget w, XtPointer, XtPointer) {
   }
 }
 
+std::span<const CommandKey> file_command_keys() {
+  static constexpr CommandKey keys[] = {
+      {'o', open_do_popup}, {'s', save_do_popup}, {'S', saveas_do_popup}, {'q', do_exit}};
+  return keys;
+}
+
 void show_document() {
   family_display();
   family_setcurrent(nullptr);

@@ -3,6 +3,10 @@
 
 #include <Xm/Xm.h>
 
+#include <span>
+
+#include "vqc/cmd/editors/kit/keys.h"
+
 // What the File menu does with the document as a whole, and what waits while the user is asked whether to save it.
 
 /// The operation that waits for the document to be saved.
@@ -17,6 +21,9 @@ void document_saved();
 void do_new(Widget w, XtPointer, XtPointer);
 void really_do_new();
 void do_exit(Widget w, XtPointer, XtPointer);
+
+/// The commands that a letter with Ctrl gives in every window.
+std::span<const CommandKey> file_command_keys();
 
 /// Shows what a load has left in the model, with no family current.
 void show_document();

@@ -11,6 +11,8 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "vqc/cmd/editors/kit/undo.h"
+
 namespace {
 
 /// A text that cannot be shown as it is, with what the field makes of it.
@@ -58,6 +60,7 @@ int settext(Widget w, const char* text) {
   } else {
     XmTextSetString(w, characters.data());
   }
+  forget_typing(w);
   const Text shown = shown_text(w);
   if (shown == whole) {
     distorted_texts().erase(w);

@@ -1,0 +1,133 @@
+#include "vqc/cmd/editors/kit/keys.h"
+
+#include <X11/XKBlib.h>
+#include <X11/keysym.h>
+#include <Xm/DialogS.h>
+#include <Xm/MenuShell.h>
+#include <Xm/RowColumn.h>
+#include <Xm/Text.h>
+#include <Xm/TextF.h>
+
+#include <algorithm>
+#include <cctype>
+
+#include "vqc/cmd/editors/kit/memory.h"
+#include "vqc/cmd/editors/kit/modal.h"
+#include "vqc/cmd/editors/kit/undo.h"
+
+namespace {
+
+std::span<const CommandKey> command_keys;
+XtEventDispatchProc usual_dispatch = nullptr;
+int menus_up = 0;
+
+char lower(char letter) { return static_cast<char>(std::tolower(letter)); }
+
+/// The letter that is pressed with Ctrl, a capital if Shift is held too; NUL for any other key. A keyboard without
+/// Latin letters has them where the C locale's are.
+char letter_with_control(XKeyEvent& key) {
+  constexpr char kLast = 'z' - 'a' + 1;
+  if (!(key.state & ControlMask) || key.state & Mod1Mask) return '\0';
+  char byte = '\0';
+  KeySym symbol = NoSymbol;
+  if (XLookupString(&key, &byte, 1, &symbol, nullptr) != 1) return '\0';
+  const bool is_letter = byte > 0 && byte <= kLast && symbol < XK_BackSpace;  // Tab and Return are no letters
+  return is_letter ? static_cast<char>(byte - 1 + (key.state & ShiftMask ? 'A' : 'a')) : '\0';
+}
+
+bool is_text(Widget w) { return w && (XmIsTextField(w) || XmIsText(w)); }
+
+/// Does to a field what a letter with Ctrl does. False when that is nothing.
+bool edit(Widget field, char letter, XEvent* event) {
+  struct Action {
+    char letter;
+    const char* name;
+  };
+  static constexpr Action actions[] = {
+      {'a', "select-all"}, {'c', "copy-clipboard"}, {'x', "cut-clipboard"}, {'v', "paste-clipboard"}};
+  if (letter == 'z') {
+    if (is_text(field)) take_back(field);
+    return true;
+  }
+  const auto action = std::ranges::find(actions, letter, &Action::letter);
+  if (action == std::end(actions)) return false;
+  if (is_text(field)) XtCallActionProc(field, action->name, event, nullptr, 0);
+  return true;
+}
+
+/// Closes a window as the window manager does.
+void close_window(Widget shell) {
+  Display* display = XtDisplay(shell);
+  XEvent request{};
+  request.xclient.type = ClientMessage;
+  request.xclient.display = display;
+  request.xclient.window = XtWindow(shell);
+  request.xclient.message_type = XInternAtom(display, "WM_PROTOCOLS", False);
+  request.xclient.format = 32;
+  request.xclient.data.l[0] = static_cast<long>(XInternAtom(display, "WM_DELETE_WINDOW", False));
+  request.xclient.data.l[1] = static_cast<long>(XtLastTimestampProcessed(display));
+  XtDispatchEvent(&request);
+}
+
+const CommandKey* command_of(char letter) {
+  for (char candidate : {letter, lower(letter)}) {
+    const auto key = std::ranges::find(command_keys, candidate, &CommandKey::letter);
+    if (key != command_keys.end()) return &*key;
+  }
+  return nullptr;
+}
+
+/// Does what a letter with Ctrl does in a window. False when that is nothing.
+bool act(Widget shell, char letter, XEvent* event) {
+  Widget first = modal_shell();
+  if (first && first != shell) return true;
+  if (edit(XmGetFocusWidget(shell), lower(letter), event)) return true;
+  const CommandKey* key = command_of(letter);
+  if (lower(letter) == 'w') {
+    close_window(shell);
+  } else if (key && !first) {
+    guarded([&] { key->command(shell, nullptr, nullptr); });
+  }
+  return key || lower(letter) == 'w';
+}
+
+/// The window that a key is pressed in; null while a menu has the keyboard.
+Widget window_of(const XKeyEvent& key) {
+  Widget w = menus_up == 0 ? XtWindowToWidget(key.display, key.window) : nullptr;
+  while (w && !XtIsShell(w)) w = XtParent(w);
+  return w;
+}
+
+Boolean dispatch_key(XEvent* event) {
+  XKeyEvent& key = event->xkey;
+  const char letter = letter_with_control(key);
+  Widget shell = letter ? window_of(key) : nullptr;
+  if (shell && act(shell, letter, event)) return True;
+  return usual_dispatch(event);
+}
+
+void menu_is_up(Widget, XtPointer, XtPointer) { ++menus_up; }
+
+void menu_is_down(Widget, XtPointer, XtPointer) { --menus_up; }
+
+bool is_menu(Widget w) { return XmIsRowColumn(w) && XmIsMenuShell(XtParent(w)); }
+
+void watch_menu(Widget menu) {
+  XtAddCallback(menu, XmNmapCallback, menu_is_up, nullptr);
+  XtAddCallback(menu, XmNunmapCallback, menu_is_down, nullptr);
+}
+
+void watch(Widget, XtPointer, XtPointer call) {
+  Widget w = static_cast<XtCreateHookData>(call)->widget;
+  if (is_menu(w)) watch_menu(w);
+  if (is_text(w)) watch_typing(w);
+  if (XmIsDialogShell(w)) watch_modality(w);
+}
+
+}  // namespace
+
+void use_keys(Display* display, std::span<const CommandKey> commands) {
+  command_keys = commands;
+  usual_dispatch = XtSetEventDispatcher(display, KeyPress, dispatch_key);
+  XtAddCallback(XtHooksOfDisplay(display), XtNcreateHook, watch, nullptr);
+}

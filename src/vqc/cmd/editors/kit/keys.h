@@ -1,0 +1,19 @@
+#ifndef VQC_CMD_EDITORS_KIT_KEYS_H
+#define VQC_CMD_EDITORS_KIT_KEYS_H
+
+#include <Xm/Xm.h>
+
+#include <span>
+
+/// A command that a letter gives together with Ctrl, in whatever window it is pressed.
+struct CommandKey {
+  char letter;  // a capital is one with Shift; where there is none, Shift makes no difference
+  XtCallbackProc command;
+};
+
+/// Lets the letters with Ctrl mean the same in every window that is made from now on: the `commands`, which a dialog
+/// that has to be answered first keeps waiting, W to close the window, and A, C, X, V and Z to select all, copy, cut,
+/// paste and take back in a text field. What else is typed with Ctrl is left to menus, and never becomes text.
+void use_keys(Display* display, std::span<const CommandKey> commands);
+
+#endif

@@ -1,0 +1,11 @@
+#ifndef VQC_CMD_EDITORS_KIT_MODAL_H
+#define VQC_CMD_EDITORS_KIT_MODAL_H
+
+#include <Xm/Xm.h>
+
+/// The dialog shell that the user has to finish with before he can use any other window; null when there is none. Only
+/// shells that are watched count.
+Widget modal_shell();
+void watch_modality(Widget dialog_shell);
+
+#endif

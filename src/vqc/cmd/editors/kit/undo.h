@@ -1,0 +1,15 @@
+#ifndef VQC_CMD_EDITORS_KIT_UNDO_H
+#define VQC_CMD_EDITORS_KIT_UNDO_H
+
+#include <Xm/Xm.h>
+
+/// From now on remembers what a text field held before the last run of typing or erasing in one place, or before the
+/// last text that was pasted or cut. A key that is pressed with Ctrl types nothing.
+void watch_typing(Widget field);
+/// Forgets it: what the program has written into the field cannot be taken back.
+void forget_typing(Widget field);
+
+/// Puts back what is remembered of a field. Doing so again takes that back.
+void take_back(Widget field);
+
+#endif
