@@ -2,6 +2,7 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 #include "libkel/message.h"
+#include "vqc/cmd/editors/kit/session_hooks.h"
 
 // The error box.
 
@@ -80,6 +81,81 @@ TEST_F(ErrorBox, WorkGoesOnWhileItIsShown) {
   click("family_selection.Apply");
   EXPECT_EQ(Items{"F"}, items("family_selection"));
   EXPECT_TRUE(is_shown("error_dialog"));
+}
+
+/// Closes the error box with the mouse, though another dialog has to be answered first.
+void read_and_close_error(const std::string& text) {
+  EXPECT_EQ(text, error_shown());
+  EXPECT_TRUE(has_keyboard("error_dialog"));
+  click("error_messageb.Cancel");
+  EXPECT_FALSE(is_shown("error_dialog"));
+}
+
+class ErrorDuringAQuestion : public ErrorBox {
+ protected:
+  static void ask() {
+    add_family("F");
+    press("family_exitb");
+    ASSERT_TRUE(is_shown("savechanges_dialog"));
+  }
+  static void expect_question_still_first() {
+    ASSERT_TRUE(is_shown("savechanges_dialog"));
+    move_aside("savechanges_dialog");
+    enter("family_selection", "Another");
+    click_in_vain("family_selection.Apply");
+    EXPECT_EQ(Items{"F"}, items("family_selection"));
+    click("savechanges_messagebox.Cancel");
+    EXPECT_FALSE(is_shown("savechanges_dialog"));
+    click("family_selection.Apply");
+    EXPECT_EQ((Items{"F", "Another"}), items("family_selection"));
+  }
+};
+
+TEST_F(ErrorDuringAQuestion, IsReadAndClosedAtOnce) {
+  ask();
+  error_show("message");
+  read_and_close_error("message");
+  expect_question_still_first();
+}
+
+TEST_F(ErrorDuringAQuestion, IsReadAndClosedThoughAnEarlierErrorWasUp) {
+  error_show("first_message");
+  ask();
+  error_show("second_message");
+  read_and_close_error("second_message");
+  expect_question_still_first();
+}
+
+TEST_F(ErrorDuringAQuestion, TheSecondReplacesTheFirst) {
+  ask();
+  error_show("first_message");
+  error_show("second_message");
+  read_and_close_error("second_message");
+  expect_question_still_first();
+}
+
+TEST_F(ErrorDuringAQuestion, LaterErrorsDoNotHaveToBeAnsweredFirst) {
+  ask();
+  error_show("message");
+  press_cancel("error_messageb");
+  press_cancel("savechanges_messagebox");
+  error_show("later_message");
+  ASSERT_TRUE(is_shown("error_dialog"));
+  move_aside("error_dialog");
+  enter("family_selection", "Another");
+  click("family_selection.Apply");
+  EXPECT_EQ((Items{"F", "Another"}), items("family_selection"));
+  EXPECT_TRUE(is_shown("error_dialog"));
+}
+
+TEST_F(ErrorBox, OfHelpThatIsMissingIsClosedBeforeTheGenerateBox) {
+  session_hooks.help = [](Widget, const char*) { error_show("no_help_topic"); };
+  press("family_genconfigb");
+  ASSERT_TRUE(is_shown("gen_dialog"));
+  click("gen_fsb.Help");
+  read_and_close_error(resource_text("no_help_topic"));
+  click("gen_fsb.Cancel");
+  EXPECT_FALSE(is_shown("gen_dialog"));
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "vqc/cmd/editors/dialogs/error_dialog.h"
 #include "vqc/cmd/editors/dialogs/family_dialog.h"
 #include "vqc/cmd/editors/kit/compound.h"
+#include "vqc/cmd/editors/kit/modal.h"
 
 namespace {
 
@@ -18,11 +19,20 @@ const char* text_of_resource(const char* name) {
   return text;
 }
 
+/// Lets the box be read and closed although another dialog has to be answered first, by giving it that rank.
+void let_be_used(Widget box) {
+  if (modal_shell() == XtParent(box)) return;
+  hide_dialog(box);  // the rank of what is up cannot change
+  XtVaSetValues(box, XmNdialogStyle, modal_shell() ? XmDIALOG_FULL_APPLICATION_MODAL : XmDIALOG_MODELESS, nullptr);
+}
+
 void show_in_box(const char* text) {
   if (!family_dialog) return;
   if (!made(error_dialog, create_error_dialog, family_dialog[FAMILY_SHELL])) return;
-  XtVaSetValues(error_dialog[ERROR_BOX], XmNmessageString, CompoundString::of_lines(text).get(), nullptr);
-  show_dialog(error_dialog[ERROR_BOX]);
+  Widget box = error_dialog[ERROR_BOX];
+  XtVaSetValues(box, XmNmessageString, CompoundString::of_lines(text).get(), nullptr);
+  let_be_used(box);
+  show_dialog(box);
 }
 
 }  // namespace
