@@ -165,6 +165,7 @@ class HelpRequests : public Session {
   /// Clicks on the Help button of a box, and goes to it and presses its keys.
   static void expect_one_request(const std::string& box, const std::string& topic) {
     const std::vector<std::string> once = {topic};
+    turn_to(shell_of(widget(box)));
     topics.clear();
     click(box + ".Help");
     EXPECT_EQ(once, topics) << box;

@@ -39,7 +39,7 @@ Text chosen_path(Widget box, XtPointer call) {
   if (path.empty()) return "";
   // The box has put it together from what its field shows, which may not be all of the name that was offered.
   Widget field = XmFileSelectionBoxGetChild(box, XmDIALOG_TEXT);
-  const Text whole = undistorted(field, path);
+  Text whole = undistorted(field, path);
   if (whole != path) return whole;
   const char* leaf = leafnm(path.c_str());
   return std::string(path.c_str(), leaf).append(undistorted(field, leaf).view()).c_str();

@@ -1,6 +1,5 @@
 #include "vqc/cmd/editors/kit/keys.h"
 
-#include <X11/XKBlib.h>
 #include <X11/keysym.h>
 #include <Xm/DialogS.h>
 #include <Xm/MenuShell.h>
@@ -23,8 +22,8 @@ int menus_up = 0;
 
 char lower(char letter) { return static_cast<char>(std::tolower(letter)); }
 
-/// The letter that is pressed with Ctrl, a capital if Shift is held too; NUL for any other key. A keyboard without
-/// Latin letters has them where the C locale's are.
+/// The letter that is pressed with Ctrl, a capital if Shift is held too; NUL for any other key. It is taken from the
+/// control byte, which does not depend on the locks, and which keys have on keyboards of other scripts too.
 char letter_with_control(XKeyEvent& key) {
   constexpr char kLast = 'z' - 'a' + 1;
   if (!(key.state & ControlMask) || key.state & Mod1Mask) return '\0';
