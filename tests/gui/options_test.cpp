@@ -46,6 +46,20 @@ TEST_F(Options, ShowsTheBuiltInNames) {
   for (const auto& [field, keyword, builtin] : options) EXPECT_EQ(builtin, text(field)) << field;
 }
 
+TEST_F(Options, ReadLeavesTheOpenDialogAsItIs) {
+  edit();
+  enter("family_table_text", "typed");
+  toggle("options_comment_code", true);
+  read_into(folder.with("more.vqc", "VQconfig\ngenerate_alias_string='of_file'\nfamily 'F' {\n}\n"));
+  EXPECT_EQ("typed", text("family_table_text"));
+  EXPECT_EQ("aliases", text("alias_array_text"));
+  EXPECT_TRUE(is_set("options_comment_code"));
+  press("options_cancel");
+  press("family_generate_options_b");
+  EXPECT_EQ("of_file", text("alias_array_text"));
+  EXPECT_EQ("xw_families", text("family_table_text"));
+}
+
 TEST_F(Options, ShowsTheNamesOfTheDocument) {
   std::string header;
   for (const OptionRow& row : options) header += std::string(row.keyword) + "='my_" + row.builtin + "'\n";

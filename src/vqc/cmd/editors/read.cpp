@@ -5,7 +5,6 @@
 #include "vqc/cmd/editors/file_commands.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/file_box.h"
-#include "vqc/cmd/editors/options.h"
 #include "vqc/cmd/model/document.h"
 #include "vqc/cmd/savefile/parse.h"
 
@@ -21,7 +20,6 @@ void do_read(Widget w, XtPointer, XtPointer call) {
   parseit(&path, 0);
   hide_dialog(read_dialog[READ_FSB]);
   show_document();
-  options_dialog_load();
 }
 
 void read_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(read_dialog[READ_FSB]); }
