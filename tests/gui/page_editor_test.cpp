@@ -177,6 +177,18 @@ TEST_F(PageEditor, APageThatTheFamilyHasNotDoesNotMove) {
   EXPECT_EQ(pages_of_family, saved_names("F", "page"));
 }
 
+TEST_F(PageEditor, ReturnAppliesNothing) {
+  press("widgetedit_page_b");
+  ASSERT_TRUE(is_shown("pageedit_dialog"));
+  click_item("pageedit_selection", "margins");
+  key("Return");
+  click("pageedit_selection.Text");
+  key("Return");
+  EXPECT_EQ("display", text("widgetedit_page_t"));
+  EXPECT_FALSE(dirty);
+  EXPECT_TRUE(is_shown("pageedit_dialog"));
+}
+
 TEST_F(PageEditor, OkWhichDoesNothingIsNotShown) {
   press("widgetedit_page_b");
   ASSERT_TRUE(is_shown("pageedit_dialog"));

@@ -129,6 +129,19 @@ TEST_F(PopupEditor, AddPutsAPopupAtItsSortedPlace) {
   EXPECT_EQ(saved_expected, saved_names("F", "popup"));
 }
 
+TEST_F(PopupEditor, ReturnAppliesNothing) {
+  press("widgetedit_popup_b");
+  ASSERT_TRUE(is_shown("popupedit_dialog"));
+  click_item("popupedit_selection", "unused");
+  for (const char* field : {"popupedit_selection.Text", "dialog_init", "dialog_update"}) {
+    click(field);
+    key("Return");
+    EXPECT_EQ("mine", text("widgetedit_popup_t")) << field;
+  }
+  EXPECT_FALSE(dirty);
+  EXPECT_TRUE(is_shown("popupedit_dialog"));
+}
+
 TEST_F(PopupEditor, UpdateChangesThePopupAndLeavesTheDocumentClean) {
   press("widgetedit_popup_b");
   fill("mine", "other_init", "");

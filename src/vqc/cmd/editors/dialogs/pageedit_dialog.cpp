@@ -39,10 +39,6 @@ const WidgetRow rows[] = {
      {{XmNactivateCallback, pagelist_do_delete}}},
 };
 
-const WidgetLink links[] = {
-    {"pageedit_selection", XmNdefaultButton, "Apply"},
-};
-
 }  // namespace
 
-Widget* create_pageedit_dialog(Widget parent) { return build_dialog(parent, rows, PAGEEDIT_SLOTS, links); }
+Widget* create_pageedit_dialog(Widget parent) { return build_dialog(parent, rows, PAGEEDIT_SLOTS); }

@@ -42,10 +42,6 @@ const WidgetRow rows[] = {
      {{XmNactivateCallback, popuplist_do_delete}}},
 };
 
-const WidgetLink links[] = {
-    {"popupedit_selection", XmNdefaultButton, "Apply"},
-};
-
 }  // namespace
 
-Widget* create_popupedit_dialog(Widget parent) { return build_dialog(parent, rows, POPUPEDIT_SLOTS, links); }
+Widget* create_popupedit_dialog(Widget parent) { return build_dialog(parent, rows, POPUPEDIT_SLOTS); }
