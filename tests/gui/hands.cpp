@@ -24,6 +24,7 @@
 #include "gui/parts.h"
 #include "support/windows.h"
 #include "vqc/cmd/application/session.h"
+#include "vqc/cmd/editors/kit/shown_names.h"
 
 namespace {
 
@@ -69,6 +70,17 @@ void point_at(Widget w, int x, int y) {
   }
   const Point point = on_screen(w, x, y);
   XTestFakeMotionEvent(display, -1, point.x, point.y, CurrentTime);
+}
+
+/// A point of the item at a place of a list, which is scrolled there if need be.
+Point row_point(Widget list, int place) {
+  Position x = 0;
+  Position y = 0;
+  Dimension width = 0;
+  Dimension height = 0;
+  if (!XmListPosToBounds(list, place, &x, &y, &width, &height)) XmListSetPos(list, place);
+  XmListPosToBounds(list, place, &x, &y, &width, &height);
+  return {x + 10, y + height / 2};
 }
 
 void press_mouse_button() {
@@ -159,20 +171,8 @@ void close_shell(Widget shell) {
   settle();
 }
 
-class Compound {
- public:
-  explicit Compound(const std::string& text) : string_(XmStringCreateLocalized(const_cast<char*>(text.c_str()))) {}
-  Compound(const Compound&) = delete;
-  Compound& operator=(const Compound&) = delete;
-  ~Compound() { XmStringFree(string_); }
-  XmString get() const { return string_; }
-
- private:
-  XmString string_;
-};
-
 int position_of(const std::string& list_or_box, const std::string& item) {
-  const int position = XmListItemPos(list_in(list_or_box), Compound(item).get());
+  const int position = list_position(list_in(list_or_box), item.c_str());
   if (position == 0) throw std::runtime_error(list_or_box + " does not show " + item);
   return position;
 }
@@ -189,15 +189,19 @@ void click_in_vain(const std::string& name) {
 }
 
 void click_item(const std::string& list_or_box, const std::string& item) {
-  Widget list = list_in(list_or_box);
-  const int position = position_of(list_or_box, item);
-  Position x = 0;
-  Position y = 0;
-  Dimension width = 0;
-  Dimension height = 0;
-  if (!XmListPosToBounds(list, position, &x, &y, &width, &height)) XmListSetPos(list, position);
-  XmListPosToBounds(list, position, &x, &y, &width, &height);
-  click_at(list, x + 10, y + height / 2);
+  click_row(list_or_box, position_of(list_or_box, item));
+}
+
+void click_row(const std::string& list_or_box, int place) {
+  const Point point = row_point(list_in(list_or_box), place);
+  click_at(list_in(list_or_box), point.x, point.y);
+}
+
+void double_click_row(const std::string& list_or_box, int place) {
+  const Point point = row_point(list_in(list_or_box), place);
+  point_at(list_in(list_or_box), point.x, point.y);
+  press_mouse_button();
+  click_at(list_in(list_or_box), point.x, point.y);
 }
 
 void choose_menu(const std::string& cascade, const std::string& item) { choose_from(widget(cascade), item); }
@@ -233,6 +237,11 @@ void switch_lock(const char* name) {
   send(code, true);
   send(code, false);
   settle();
+}
+
+void tab_to(const std::string& inside, const std::string& name) {
+  for (int i = 0; i < 50 && focus(inside) != name; ++i) key("Tab");
+  if (focus(inside) != name) throw std::runtime_error("Tab does not come to " + name);
 }
 
 void paste() {

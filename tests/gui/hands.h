@@ -14,6 +14,10 @@ void click(const std::string& name);
 void click_in_vain(const std::string& name);
 /// Clicks on an item of a list.
 void click_item(const std::string& list_or_box, const std::string& item);
+/// Clicks on the item at a place of a list, counted from 1.
+void click_row(const std::string& list_or_box, int place);
+/// The same twice, fast enough for a session that has been started with a longer multiClickTime.
+void double_click_row(const std::string& list_or_box, int place);
 /// Opens the menu of the cascade button, and clicks on its item.
 void choose_menu(const std::string& cascade, const std::string& item);
 /// Types a text into whatever has the keyboard.
@@ -26,6 +30,8 @@ void type_with(const std::string& modifiers, std::string_view letters);
 void turn_to(Widget shell);
 /// Switches Caps Lock or Num Lock, on or off.
 void switch_lock(const char* name);
+/// Moves the keyboard from field to field until the one of that name has it, in the window that `inside` is in.
+void tab_to(const std::string& inside, const std::string& name);
 /// Presses the key that pastes. Motif forgets some memory then.
 void paste();
 /// Moves a dialog away from what it covers.

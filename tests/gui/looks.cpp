@@ -77,6 +77,12 @@ int first_row(const std::string& list_or_box) { return value_of<int>(list_in(lis
 
 int rows(const std::string& list_or_box) { return value_of<int>(list_in(list_or_box), XmNvisibleItemCount); }
 
+bool is_in_view(const std::string& list_or_box, const std::string& item) {
+  const Items all = items(list_or_box);
+  const auto place = static_cast<int>(std::ranges::find(all, item) - all.begin()) + 1;
+  return place >= first_row(list_or_box) && place < first_row(list_or_box) + rows(list_or_box);
+}
+
 std::string text(const std::string& field_or_box) {
   Widget field = field_in(field_or_box);
   return taken(XmIsTextField(field) ? XmTextFieldGetString(field) : XmTextGetString(field));
@@ -159,7 +165,7 @@ std::string chosen(const std::string& option_menu) {
   return label(value_of<Widget>(widget(option_menu), XmNmenuHistory));
 }
 
-std::string focus(const std::string& shell) {
-  Widget w = XmGetFocusWidget(widget(shell));
+std::string focus(const std::string& inside) {
+  Widget w = XmGetFocusWidget(widget(inside));
   return w ? XtName(w) : "";
 }

@@ -19,6 +19,8 @@ Items selected(const std::string& list_or_box);
 /// The first item that can be seen, and how many can; from 1.
 int first_row(const std::string& list_or_box);
 int rows(const std::string& list_or_box);
+/// Whether an item can be seen.
+bool is_in_view(const std::string& list_or_box, const std::string& item);
 
 /// What stands in a text field, or in the name field of a selection box.
 std::string text(const std::string& field_or_box);
@@ -53,7 +55,7 @@ std::vector<std::string> left_to_right(std::vector<std::string> names);
 std::vector<std::string> top_to_bottom(std::vector<std::string> names);
 /// The label of the button that an option menu shows.
 std::string chosen(const std::string& option_menu);
-/// The widget that has the keyboard in this shell, by name.
-std::string focus(const std::string& shell);
+/// The widget that has the keyboard in the window that `inside` is or is in, by name.
+std::string focus(const std::string& inside);
 
 #endif

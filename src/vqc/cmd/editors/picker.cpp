@@ -1,8 +1,5 @@
 #include "vqc/cmd/editors/picker.h"
 
-#include <Xm/List.h>
-
-#include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/fields.h"
@@ -29,9 +26,7 @@ int show_all_names(const Picker& picker) {
 void name_into_family(const Picker& picker, const Text& name) {
   const ListEditor& editor = picker.editor;
   if (editor.names.has(name) || editor.names.add(name) != 0 || !editor.dialog) return;
-  if (!XmListItemExists(editor.list(), CompoundString(name))) {
-    list_insert(editor.list(), name, editor.names.position(name));
-  }
+  if (list_position(editor.list(), name) == 0) list_insert(editor.list(), name, editor.names.position(name));
 }
 
 void apply_picked(Widget w, const Picker& picker) {

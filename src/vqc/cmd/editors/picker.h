@@ -50,7 +50,7 @@ void do_hide(Widget, XtPointer, XtPointer) {
 }
 template <Picker& picker>
 void do_show(Widget w, XtPointer, XtPointer call) {
-  with_name(w, call, picker.editor, [](const ListEditor&, const Text& name) { show_picked(picker, name); });
+  with_clicked_name(w, call, picker.editor, [](const ListEditor&, const Text& name) { show_picked(picker, name); });
 }
 template <Picker& picker>
 void do_remove(Widget w, XtPointer, XtPointer) {

@@ -5,10 +5,9 @@
 #include "vqc/cmd/editors/dialogs/family_dialog.h"
 #include "vqc/cmd/editors/dialogs/resource_warn_dialog.h"
 #include "vqc/cmd/editors/dialogs/widgetedit_dialog.h"
-#include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
-#include "vqc/cmd/editors/kit/list_editor.h"
+#include "vqc/cmd/editors/kit/shown_names.h"
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
 #include "vqc/cmd/editors/title.h"
@@ -131,6 +130,7 @@ void show_resource(const Text& name) {
   show_resource_texts(resource);
   show_free_modes(resource);
   show_resource_toggles(resource);
+  mark_text(at(WE_RESOURCE));
   resource_changed = false;
 }
 
@@ -224,7 +224,7 @@ void widget_do_undo(Widget w, XtPointer, XtPointer) {
 
 void we_select_cb(Widget w, XtPointer, XtPointer call) {
   const BusyCursor busy(w);
-  const Text name = text_of(static_cast<XmListCallbackStruct*>(call)->item);
+  const Text name = clicked_name(w, *static_cast<XmListCallbackStruct*>(call));
   if (resource_changed) {
     pending_resource = name;
     ask_about_resource(Pending::show_resource);

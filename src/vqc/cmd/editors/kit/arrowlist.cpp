@@ -2,7 +2,7 @@
 
 #include <Xm/List.h>
 
-#include "vqc/cmd/editors/kit/compound.h"
+#include "vqc/cmd/editors/kit/shown_names.h"
 
 namespace {
 
@@ -40,15 +40,10 @@ void keep_in_sight(Widget list, int position, bool down) {
 int arrowlist_action(Widget list, Move move, bool down, bool wrap) {
   const int position = selected_position(list);
   if (position == 0) return 0;
-  XmString* items = nullptr;
-  int count = 0;
-  XtVaGetValues(list, XmNitems, &items, XmNitemCount, &count, nullptr);
-  const int new_position = moved_position(position, count, down, wrap);
-  if (new_position == 0) return 0;
-  const Text name = text_of(items[position - 1]);
-  if (move(name, wrap) != 0) return 0;
-  XmListDeletePos(list, position);
-  XmListAddItem(list, CompoundString(name), new_position);
+  const std::vector<Text>& names = list_names(list);
+  const int new_position = moved_position(position, static_cast<int>(names.size()), down, wrap);
+  if (new_position == 0 || move(names[static_cast<std::size_t>(position) - 1], wrap) != 0) return 0;
+  list_move(list, position, new_position);
   XmListSelectPos(list, new_position, False);
   keep_in_sight(list, new_position, down);
   return 1;

@@ -1,5 +1,8 @@
 #include "vqc/cmd/editors/kit/compound.h"
 
+#include <cwchar>
+#include <string_view>
+
 namespace {
 
 /// Makes a component of a compound string the character `pattern` again. The mapping keeps the address of the pattern.
@@ -29,4 +32,18 @@ Text text_of(XmString string) {
   Text text = plain;
   XtFree(plain);
   return text;
+}
+
+std::string displayable(const Text& whole) {
+  std::string_view text = whole.view();
+  std::string result;
+  std::mbstate_t state{};
+  while (!text.empty()) {
+    const std::size_t length = std::mbrlen(text.data(), text.size(), &state);
+    const bool character = length != 0 && length <= text.size();
+    if (!character) state = {};
+    result += character ? text.substr(0, length) : "?";
+    text.remove_prefix(character ? length : 1);
+  }
+  return result;
 }

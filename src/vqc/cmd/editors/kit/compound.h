@@ -3,6 +3,7 @@
 
 #include <Xm/Xm.h>
 
+#include <string>
 #include <utility>
 
 #include "libkel/text.h"
@@ -30,5 +31,8 @@ class CompoundString {
 
 /// The plain text of a compound string, lines and all; null when there is none.
 Text text_of(XmString string);
+
+/// The text with a question mark for each byte that is no character of the locale.
+std::string displayable(const Text& whole);
 
 #endif

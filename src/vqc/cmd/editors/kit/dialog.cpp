@@ -113,6 +113,17 @@ class Builder {
   std::vector<Widget> made_;
 };
 
+/// A double click presses the default button, on the name that its first click has put into the field. The box's own
+/// callback copies what can be seen of that name. (Return, which calls this too, presses the button by itself.)
+void press_default_button(Widget, XtPointer box, XtPointer call) {
+  XEvent* event = static_cast<XmListCallbackStruct*>(call)->event;
+  Widget button = nullptr;
+  XtVaGetValues(static_cast<Widget>(box), XmNdefaultButton, &button, nullptr);
+  if (event->type == KeyPress || !XtIsManaged(button) || !XtIsSensitive(button)) return;
+  XmPushButtonCallbackStruct press{XmCR_ACTIVATE, event, 1};
+  XtCallCallbacks(button, XmNactivateCallback, &press);
+}
+
 Widget shell_of(Widget contents) {
   while (!XtIsShell(contents)) contents = XtParent(contents);
   return contents;
@@ -142,6 +153,9 @@ Widget create_editor_box(Widget parent, char* name, ArgList, Cardinal) {
   Arg stays_open[] = {argument(XmNautoUnmanage, False), argument(XmNmustMatch, False)};
   Widget box = XmCreateSelectionBox(parent, name, stays_open, XtNumber(stays_open));
   XtManageChild(XmSelectionBoxGetChild(box, XmDIALOG_APPLY_BUTTON));
+  Widget list = XmSelectionBoxGetChild(box, XmDIALOG_LIST);
+  XtRemoveAllCallbacks(list, XmNdefaultActionCallback);
+  XtAddCallback(list, XmNdefaultActionCallback, press_default_button, box);
   return box;
 }
 

@@ -1,45 +1,45 @@
 #include "vqc/cmd/editors/kit/fields.h"
 
+#include <X11/Xatom.h>
 #include <Xm/Gadget.h>
 #include <Xm/Text.h>
 #include <Xm/TextF.h>
 #include <Xm/ToggleB.h>
 #include <Xm/ToggleBG.h>
 
-#include <cwchar>
 #include <string>
-#include <string_view>
 #include <unordered_map>
+#include <utility>
 
+#include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/undo.h"
 
 namespace {
 
-/// A text that cannot be shown as it is, with what the field makes of it.
-struct Distorted {
+/// A text, with what a field makes of it.
+struct Given {
   Text text;
   Text shown;
+  bool typed_over = false;
 };
 
 /// By field. A document may hold what the locale has no characters for, and a field of one line has no line breaks;
 /// nothing of that must be lost because it has been looked at.
-std::unordered_map<Widget, Distorted>& distorted_texts() {
-  static std::unordered_map<Widget, Distorted> texts;
+std::unordered_map<Widget, Given>& given_texts() {
+  static std::unordered_map<Widget, Given> texts;
   return texts;
 }
 
-/// The text with a question mark for each byte that is no character of the locale.
-std::string displayable(std::string_view text) {
-  std::string result;
-  std::mbstate_t state{};
-  while (!text.empty()) {
-    const std::size_t length = std::mbrlen(text.data(), text.size(), &state);
-    const bool character = length != 0 && length <= text.size();
-    if (!character) state = {};
-    result += character ? text.substr(0, length) : "?";
-    text.remove_prefix(character ? length : 1);
-  }
-  return result;
+/// What is typed in the place of the whole text is meant as it stands, unless that is taken back.
+void watch_typing_over(Widget w, XtPointer, XtPointer call) {
+  const auto& change = *static_cast<XmTextVerifyCallbackStruct*>(call);
+  const bool whole = change.startPos == 0 && change.endPos == XmTextGetLastPosition(w);
+  if (whole && change.doit) given_texts()[w].typed_over = change.event != nullptr;
+}
+
+void remember(Widget w, Given given) {
+  const auto [place, is_first] = given_texts().insert_or_assign(w, std::move(given));
+  if (is_first) XtAddCallback(w, XmNmodifyVerifyCallback, watch_typing_over, nullptr);
 }
 
 Text shown_text(Widget w) {
@@ -49,24 +49,31 @@ Text shown_text(Widget w) {
   return text;
 }
 
+void select_text(Widget field, XtPointer, XtPointer) {
+  XtRemoveCallback(field, XmNfocusCallback, select_text, nullptr);
+  const XmTextPosition end = XmTextFieldGetLastPosition(field);
+  XmTextFieldSetSelection(field, 0, end, XtLastTimestampProcessed(XtDisplay(field)));
+}
+
+/// Whether nobody else loses a selection when the field gets it.
+bool may_select(Widget field) {
+  const Window owner = XGetSelectionOwner(XtDisplay(field), XA_PRIMARY);
+  return owner == None || owner == XtWindow(field) || XmGetFocusWidget(field) == field;
+}
+
 }  // namespace
 
 int settext(Widget w, const char* text) {
   if (!w) return 0;
   const Text whole = text ? text : "";
-  std::string characters = displayable(whole.view());
+  std::string characters = displayable(whole);
   if (XtIsSubclass(w, xmTextFieldWidgetClass)) {
     XmTextFieldSetString(w, characters.data());
   } else {
     XmTextSetString(w, characters.data());
   }
   forget_typing(w);
-  const Text shown = shown_text(w);
-  if (shown == whole) {
-    distorted_texts().erase(w);
-  } else {
-    distorted_texts()[w] = {whole, shown};
-  }
+  remember(w, {whole, shown_text(w)});
   return 1;
 }
 
@@ -76,14 +83,22 @@ void offer_name(Widget field, const char* name) {
 }
 
 void offer_text(Widget field) {
-  const XmTextPosition end = XmTextFieldGetLastPosition(field);
-  XmTextFieldSetSelection(field, 0, end, XtLastTimestampProcessed(XtDisplay(field)));
+  select_text(field, nullptr, nullptr);
   XmProcessTraversal(field, XmTRAVERSE_CURRENT);
 }
 
+void mark_text(Widget field) {
+  if (may_select(field)) return select_text(field, nullptr, nullptr);
+  XmTextFieldSetHighlight(field, 0, XmTextFieldGetLastPosition(field), XmHIGHLIGHT_SELECTED);
+  XtRemoveCallback(field, XmNfocusCallback, select_text, nullptr);
+  XtAddCallback(field, XmNfocusCallback, select_text, nullptr);
+}
+
 Text undistorted(Widget w, const Text& shown) {
-  const auto distorted = distorted_texts().find(w);
-  return distorted != distorted_texts().end() && distorted->second.shown == shown ? distorted->second.text : shown;
+  const auto found = given_texts().find(w);
+  if (found == given_texts().end()) return shown;
+  const Given& given = found->second;
+  return given.shown == shown && !given.typed_over ? given.text : shown;
 }
 
 Text gettextf(Widget w, Text* field) {

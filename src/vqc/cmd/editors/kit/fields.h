@@ -13,6 +13,9 @@ inline int settextf(Widget w, const char* text) { return settext(w, text); }
 void offer_name(Widget field, const char* name);
 /// Selects what stands in a text field, so that typing replaces it, and gives it the keyboard.
 void offer_text(Widget field);
+/// Selects it without giving the field the keyboard. What somebody else has selected stays selected until the field
+/// gets that.
+void mark_text(Widget field);
 
 /// What stands in a text field or text widget; null when there is no widget. What settext() could not show as it is
 /// comes back as it was, unless the user has changed it. A `field` gets the text too, as null when it is empty.

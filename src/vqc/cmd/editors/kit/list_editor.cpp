@@ -1,6 +1,5 @@
 #include "vqc/cmd/editors/kit/list_editor.h"
 
-#include <Xm/List.h>
 #include <Xm/SelectioB.h>
 
 #include "vqc/cmd/editors/kit/compound.h"
@@ -12,24 +11,6 @@ Widget ListEditor::list() const { return box() ? XmSelectionBoxGetChild(box(), X
 Widget ListEditor::name_field() const { return box() ? XmSelectionBoxGetChild(box(), XmDIALOG_TEXT) : nullptr; }
 
 void ListEditor::clear_name() const { settextf(name_field(), nullptr); }
-
-void list_show(Widget list, const std::vector<Text>& names) {
-  std::vector<CompoundString> strings(names.begin(), names.end());
-  std::vector<XmString> items;
-  items.reserve(strings.size());
-  for (const CompoundString& string : strings) {
-    if (string) items.push_back(string);
-  }
-  XmListDeleteAllItems(list);
-  XtVaSetValues(list, XmNitems, items.data(), XmNitemCount, static_cast<int>(items.size()), nullptr);
-}
-
-void list_insert(Widget list, const Text& name, int position) { XmListAddItem(list, CompoundString(name), position); }
-
-void list_delete(Widget list, const Text& name) {
-  const CompoundString item(name);
-  if (XmListItemExists(list, item)) XmListDeleteItem(list, item);
-}
 
 void set_family(ListEditor& editor, const Family* family) {
   if (!editor.box()) return;
@@ -68,26 +49,26 @@ void accept_name(const ListEditor& editor, const Text& name) {
   }
 }
 
-void select_name(const ListEditor& editor, const Text& name) { editor.selected(name); }
-
-namespace {
-
-/// A click fills the name field, which remembers what it cannot show of the name.
-Text clicked_name(Widget field, const XmListCallbackStruct& call) {
-  Text name = text_of(call.item);
-  settextf(field, name);
-  return name;
+void select_name(const ListEditor& editor, const Text& name) {
+  if (editor.selected) editor.selected(name);
 }
 
-}  // namespace
-
 void with_name(Widget w, XtPointer call, const ListEditor& editor, void (*action)(const ListEditor&, const Text&)) {
-  Widget field = editor.name_field();
-  const Text name = XmIsList(w) ? clicked_name(field, *static_cast<XmListCallbackStruct*>(call))
-                                : undistorted(field, text_of(static_cast<XmSelectionBoxCallbackStruct*>(call)->value));
+  const auto* box_call = static_cast<XmSelectionBoxCallbackStruct*>(call);
+  const Text name = undistorted(editor.name_field(), text_of(box_call->value));
   if (name.empty()) return;
   const BusyCursor busy(w);
   action(editor, name);
+}
+
+void with_clicked_name(Widget list, XtPointer call, const ListEditor& editor,
+                       void (*action)(const ListEditor&, const Text&)) {
+  const Text name = clicked_name(list, *static_cast<XmListCallbackStruct*>(call));
+  if (name.empty()) return;
+  const BusyCursor busy(list);
+  settextf(editor.name_field(), name);
+  action(editor, name);
+  mark_text(editor.name_field());
 }
 
 void move_selected(Widget w, const ListEditor& editor, bool down) {

@@ -7,6 +7,7 @@
 
 #include "libkel/text.h"
 #include "vqc/cmd/editors/kit/arrowlist.h"
+#include "vqc/cmd/editors/kit/shown_names.h"
 #include "vqc/cmd/model/family.h"
 #include "vqc/cmd/model/kinds.h"
 
@@ -73,13 +74,6 @@ struct ListEditor {
   void clear_name() const;
 };
 
-/// Shows `names`, and nothing else, in a list.
-void list_show(Widget list, const std::vector<Text>& names);
-/// Puts a name at a place counted from 1, or at the end for 0.
-void list_insert(Widget list, const Text& name, int position);
-/// Takes a name out if it is there.
-void list_delete(Widget list, const Text& name);
-
 /// Shows the current family's list, from which `family` has been chosen; null empties the box and switches it off.
 /// Another family than before leaves nothing current.
 void set_family(ListEditor& editor, const Family* family);
@@ -92,8 +86,11 @@ void delete_name(const ListEditor& editor, const Text& name);
 void accept_name(const ListEditor& editor, const Text& name);
 void select_name(const ListEditor& editor, const Text& name);
 
-/// Calls `action` with the name that a box's callback or a click on its list brings, if there is one.
+/// Calls `action` with the name that a box's callback brings, if there is one.
 void with_name(Widget w, XtPointer call, const ListEditor& editor, void (*action)(const ListEditor&, const Text&));
+/// The same with the name that has been clicked in its list. It stands in the name field then, to be typed over.
+void with_clicked_name(Widget list, XtPointer call, const ListEditor& editor,
+                       void (*action)(const ListEditor&, const Text&));
 void move_selected(Widget w, const ListEditor& editor, bool down);
 
 // The same as callbacks.
@@ -112,7 +109,7 @@ void do_accept(Widget w, XtPointer, XtPointer call) {
 }
 template <ListEditor& editor>
 void do_select(Widget w, XtPointer, XtPointer call) {
-  with_name(w, call, editor, select_name);
+  with_clicked_name(w, call, editor, select_name);
 }
 template <ListEditor& editor>
 void do_up(Widget w, XtPointer, XtPointer) {

@@ -1,0 +1,98 @@
+#include "vqc/cmd/editors/kit/shown_names.h"
+
+#include <algorithm>
+#include <string>
+#include <unordered_map>
+#include <utility>
+
+#include "vqc/cmd/editors/kit/compound.h"
+
+namespace {
+
+/// What another hand has put into a list is what can be read there.
+std::vector<Text>& names_in(Widget list) {
+  static std::unordered_map<Widget, std::vector<Text>> lists;
+  XmString* items = nullptr;
+  int count = 0;
+  XtVaGetValues(list, XmNitems, &items, XmNitemCount, &count, nullptr);
+  std::vector<Text>& names = lists[list];
+  const auto known = std::min(names.size(), static_cast<std::size_t>(count));
+  names.resize(known);
+  for (auto i = known; i < static_cast<std::size_t>(count); ++i) names.push_back(text_of(items[i]));
+  return names;
+}
+
+/// In one line, or all rows of the list would be as high as this one.
+CompoundString item(const Text& name) {
+  std::string line = displayable(name);
+  std::ranges::replace_if(
+      line, [](unsigned char c) { return c < ' '; }, '?');
+  return CompoundString(line.c_str());
+}
+
+/// Scrolls no further than the item needs.
+void bring_into_view(Widget list, int position) {
+  int top = 0;
+  int visible = 0;
+  XtVaGetValues(list, XmNtopItemPosition, &top, XmNvisibleItemCount, &visible, nullptr);
+  if (position < top) XmListSetPos(list, position);
+  if (position >= top + visible) XmListSetBottomPos(list, position);
+}
+
+}  // namespace
+
+void list_show(Widget list, const std::vector<Text>& names) {
+  std::vector<Text> shown;
+  std::vector<CompoundString> strings;
+  for (const Text& name : names) {
+    CompoundString string = item(name);
+    if (!string) continue;
+    shown.push_back(name);
+    strings.push_back(std::move(string));
+  }
+  std::vector<XmString> items(strings.begin(), strings.end());
+  std::vector<Text>& shown_before = names_in(list);
+  XmListDeleteAllItems(list);
+  XtVaSetValues(list, XmNitems, items.data(), XmNitemCount, static_cast<int>(items.size()), nullptr);
+  shown_before = std::move(shown);
+}
+
+void list_insert(Widget list, const Text& name, int position) {
+  std::vector<Text>& shown = names_in(list);
+  const auto count = static_cast<int>(shown.size());
+  const int place = position == 0 || position > count ? count + 1 : position;
+  const CompoundString string = item(name);
+  shown.insert(shown.begin() + place - 1, name);
+  XmListAddItem(list, string, place);
+  bring_into_view(list, place);
+}
+
+void list_delete(Widget list, const Text& name) {
+  const int position = list_position(list, name);
+  if (position == 0) return;
+  std::vector<Text>& shown = names_in(list);
+  shown.erase(shown.begin() + position - 1);
+  XmListDeletePos(list, position);
+}
+
+void list_move(Widget list, int from, int to) {
+  std::vector<Text>& shown = names_in(list);
+  const Text name = shown[static_cast<std::size_t>(from) - 1];
+  const CompoundString string = item(name);
+  shown.erase(shown.begin() + from - 1);
+  shown.insert(shown.begin() + to - 1, name);
+  XmListDeletePos(list, from);
+  XmListAddItem(list, string, to);
+}
+
+const std::vector<Text>& list_names(Widget list) { return names_in(list); }
+
+int list_position(Widget list, const Text& name) {
+  const std::vector<Text>& shown = names_in(list);
+  const auto place = std::ranges::find(shown, name);
+  return place == shown.end() ? 0 : static_cast<int>(place - shown.begin()) + 1;
+}
+
+Text clicked_name(Widget list, const XmListCallbackStruct& call) {
+  return names_in(list)[static_cast<std::size_t>(call.item_position) - 1];
+}

@@ -1,0 +1,28 @@
+#ifndef VQC_CMD_EDITORS_KIT_SHOWN_NAMES_H
+#define VQC_CMD_EDITORS_KIT_SHOWN_NAMES_H
+
+#include <Xm/List.h>
+
+#include <vector>
+
+#include "libkel/text.h"
+
+// The names that a list shows. Not all that is in a name can be displayed, and two names may look the same, so the
+// place of an item tells its name, never what is displayed. Places are counted from 1.
+
+/// Shows `names`, and nothing else, in a list.
+void list_show(Widget list, const std::vector<Text>& names);
+/// Puts a name at a place, or at the end for 0, and scrolls so that it is seen.
+void list_insert(Widget list, const Text& name, int position);
+/// Takes a name out if it is there.
+void list_delete(Widget list, const Text& name);
+/// Takes the name at one place out and puts it in at another.
+void list_move(Widget list, int from, int to);
+
+const std::vector<Text>& list_names(Widget list);
+/// The place of a name; 0 when it is absent.
+int list_position(Widget list, const Text& name);
+/// The name that a click on a list means.
+Text clicked_name(Widget list, const XmListCallbackStruct& call);
+
+#endif
