@@ -93,12 +93,34 @@ TEST_F(PageEditor, AddAppendsAPageToTheFamily) {
   type("extra");
   click("pageedit_updateb");
   Items expected = all_pages;
-  expected.insert(expected.begin() + 6, "extra");  // the place that it has in the family
+  expected.push_back("extra");
   EXPECT_EQ(expected, items("pageedit_selection"));
   EXPECT_TRUE(dirty);
   Names saved_expected = pages_of_family;
   saved_expected.push_back("extra");
   EXPECT_EQ(saved_expected, saved_names("F", "page"));
+}
+
+TEST_F(PageEditor, ANewPageComesLastAmongThoseOfAllFamilies) {
+  press("widgetedit_page_b");
+  add("extra");
+  add_family("G");
+  select("family_selection", "G");
+  press("widgetedit_page_b");
+  add("other");
+  add("geometry");
+  Items expected = all_pages;
+  expected.insert(expected.end(), {"extra", "other"});
+  EXPECT_EQ(expected, items("pageedit_selection"));
+  EXPECT_EQ((Names{"display", "margins", "settings", "callbacks", "misc", "other", "geometry"}),
+            saved_names("G", "page"));
+}
+
+TEST_F(PageEditor, ARemovedPageComesBackToItsPlace) {
+  press("widgetedit_page_b");
+  remove("geometry");
+  add("geometry");
+  EXPECT_EQ(all_pages, items("pageedit_selection"));
 }
 
 TEST_F(PageEditor, AddOfAPageThatIsThereDoesNothing) {
@@ -177,6 +199,54 @@ TEST_F(PageEditor, APageThatTheFamilyHasNotDoesNotMove) {
   EXPECT_EQ(pages_of_family, saved_names("F", "page"));
 }
 
+TEST_F(PageEditor, TheFirstPageOfTheFamilyDoesNotMoveUp) {
+  press("widgetedit_page_b");
+  select("pageedit_selection", "display");
+  press("pageedit_up_arrow");
+  EXPECT_EQ(all_pages, items("pageedit_selection"));
+  EXPECT_EQ(pages_of_family, saved_names("F", "page"));
+}
+
+TEST_F(PageEditor, TheLastPageOfTheFamilyDoesNotMoveDown) {
+  press("widgetedit_page_b");
+  select("pageedit_selection", "geometry");
+  press("pageedit_down_arrow");
+  EXPECT_EQ(all_pages, items("pageedit_selection"));
+  EXPECT_EQ(pages_of_family, saved_names("F", "page"));
+}
+
+TEST_F(PageEditor, WithNothingOrTwoPagesSelectedNothingMoves) {
+  press("widgetedit_page_b");
+  press("pageedit_up_arrow");
+  press("pageedit_down_arrow");
+  select_too("pageedit_selection", "margins");
+  select_too("pageedit_selection", "settings");
+  press("pageedit_up_arrow");
+  press("pageedit_down_arrow");
+  EXPECT_EQ(all_pages, items("pageedit_selection"));
+  EXPECT_EQ(pages_of_family, saved_names("F", "page"));
+  EXPECT_FALSE(dirty);
+}
+
+TEST_F(PageEditor, AMovedPageStaysInView) {
+  press("widgetedit_page_b");
+  for (int i = 10; i < 40; ++i) add("p" + std::to_string(i));
+  ASSERT_LT(rows("pageedit_selection"), 30);
+  select("pageedit_selection", "misc");
+  for (int i = 0; i < 30; ++i) {
+    const int top = first_row("pageedit_selection");
+    press("pageedit_down_arrow");
+    EXPECT_TRUE(is_in_view("pageedit_selection", "misc"));
+    EXPECT_LE(first_row("pageedit_selection"), top + 1);
+  }
+  EXPECT_LT(20, first_row("pageedit_selection"));
+  for (int i = 0; i < 30; ++i) {
+    press("pageedit_up_arrow");
+    EXPECT_TRUE(is_in_view("pageedit_selection", "misc"));
+  }
+  EXPECT_EQ(Items{"misc"}, selected("pageedit_selection"));
+}
+
 TEST_F(PageEditor, ReturnAppliesNothing) {
   press("widgetedit_page_b");
   ASSERT_TRUE(is_shown("pageedit_dialog"));
@@ -187,6 +257,34 @@ TEST_F(PageEditor, ReturnAppliesNothing) {
   EXPECT_EQ("display", text("widgetedit_page_t"));
   EXPECT_FALSE(dirty);
   EXPECT_TRUE(is_shown("pageedit_dialog"));
+}
+
+TEST_F(PageEditor, ApplyWithoutAWidgetChangesNothing) {
+  press("widgetedit_page_b");
+  select("pageedit_selection", "margins");
+  select("family_selection", "F");
+  enter("widgetlist_selection", "W");
+  press_cancel("widgetlist_selection");
+  EXPECT_EQ("", text("widgetedit_page_t"));
+  saved();
+  press_apply("pageedit_selection");
+  EXPECT_EQ("", text("widgetedit_page_t"));
+  EXPECT_FALSE(dirty);
+}
+
+TEST_F(PageEditor, WhatIsTypedSurvivesAnotherFamilyAndRead) {
+  press("widgetedit_page_b");
+  ASSERT_TRUE(is_shown("pageedit_dialog"));
+  click("pageedit_selection.Text");
+  key("ctrl+a");
+  type("typed");
+  add_family("G");
+  EXPECT_EQ("typed", text("pageedit_selection"));
+  read_into(folder.with("more.vqc", "VQconfig\npage 'of_file'\n"));
+  EXPECT_EQ("typed", text("pageedit_selection"));
+  Items expected = all_pages;
+  expected.push_back("of_file");
+  EXPECT_EQ(expected, items("pageedit_selection"));
 }
 
 TEST_F(PageEditor, OkWhichDoesNothingIsNotShown) {

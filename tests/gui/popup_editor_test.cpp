@@ -129,6 +129,31 @@ TEST_F(PopupEditor, AddPutsAPopupAtItsSortedPlace) {
   EXPECT_EQ(saved_expected, saved_names("F", "popup"));
 }
 
+TEST_F(PopupEditor, ANewPopupIsSortedAmongThoseOfAllFamilies) {
+  press("widgetedit_popup_b");
+  fill("nearly", "", "");
+  press("popupedit_applytb");
+  add_family("G");
+  select("family_selection", "G");
+  press("widgetedit_popup_b");
+  for (const char* name : {"zebra", "new", "unused", "aa"}) {
+    fill(name, "", "");
+    press("popupedit_applytb");
+  }
+  Items expected = all_popups;
+  expected.insert(expected.end(), {"nearly", "zebra", "new", "aa"});
+  std::ranges::sort(expected);
+  EXPECT_EQ(expected, items("popupedit_selection"));
+}
+
+TEST_F(PopupEditor, ADeletedPopupComesBackToItsPlace) {
+  press("widgetedit_popup_b");
+  enter("popupedit_selection", "mine");
+  press("popupedit_deletetb");
+  press("popupedit_applytb");
+  EXPECT_EQ(all_popups, items("popupedit_selection"));
+}
+
 TEST_F(PopupEditor, ReturnAppliesNothing) {
   press("widgetedit_popup_b");
   ASSERT_TRUE(is_shown("popupedit_dialog"));
@@ -140,6 +165,49 @@ TEST_F(PopupEditor, ReturnAppliesNothing) {
   }
   EXPECT_FALSE(dirty);
   EXPECT_TRUE(is_shown("popupedit_dialog"));
+}
+
+TEST_F(PopupEditor, ApplyWithoutAWidgetChangesNothing) {
+  press("widgetedit_popup_b");
+  select("popupedit_selection", "unused");
+  enter("widgetlist_selection", "W");
+  press_cancel("widgetlist_selection");
+  saved();
+  press_apply("popupedit_selection");
+  EXPECT_EQ("", text("widgetedit_popup_t"));
+  EXPECT_FALSE(dirty);
+}
+
+TEST_F(PopupEditor, AConverterNeedsNoWidgetForApply) {
+  enter("widgetlist_selection", "W");
+  press_cancel("widgetlist_selection");
+  press("convert_popup_b");
+  select("popupedit_selection", "unused");
+  press_apply("popupedit_selection");
+  EXPECT_EQ("unused", text("convert_popup_t"));
+}
+
+TEST_F(PopupEditor, WithoutAFamilyApplyLeavesTheConverterPageAlone) {
+  press("convert_popup_b");
+  select("popupedit_selection", "unused");
+  enter("family_selection", "F");
+  press_cancel("family_selection");
+  saved();
+  press_apply("popupedit_selection");
+  EXPECT_EQ("", text("convert_popup_t"));
+  EXPECT_FALSE(dirty);
+}
+
+TEST_F(PopupEditor, WhatIsTypedSurvivesAnotherFamilyAndRead) {
+  press("widgetedit_popup_b");
+  fill("typed", "typed_init", "typed_update");
+  add_family("G");
+  expect_fields("typed", "typed_init", "typed_update");
+  read_into(folder.with("more.vqc", "VQconfig\npopup 'of_file' {\n}\n"));
+  expect_fields("typed", "typed_init", "typed_update");
+  Items expected = all_popups;
+  expected.insert(expected.begin() + 1, "of_file");
+  EXPECT_EQ(expected, items("popupedit_selection"));
 }
 
 TEST_F(PopupEditor, UpdateChangesThePopupAndLeavesTheDocumentClean) {

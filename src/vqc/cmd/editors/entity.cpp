@@ -45,6 +45,8 @@ void map_page(Widget shown) {
   XmProcessTraversal(first_field(shown), XmTRAVERSE_CURRENT);
 }
 
+bool has_current_family() { return family_getcurrent() != nullptr; }
+
 bool create_on_first_use() {
   if (entity_dialog) return true;
   if (!made(entity_dialog, create_entity_dialog, family_dialog[FAMILY_SHELL])) return false;
@@ -85,7 +87,7 @@ int entity_setfamily(Family* family) {
 
 void show_popups_cb(Widget w, XtPointer field, XtPointer) {
   const BusyCursor busy(w);
-  popupdlg_set_initial_state(static_cast<Widget>(field), XtParent(entity_dialog[ENTITY_SHELL]));
+  popupdlg_set_initial_state(static_cast<Widget>(field), XtParent(entity_dialog[ENTITY_SHELL]), has_current_family);
 }
 
 void familyinit_setfamily(const Family* family) {

@@ -73,8 +73,14 @@ std::span<const CommandKey> file_command_keys() {
 }
 
 void show_document() {
-  family_display();
-  family_setcurrent(nullptr);
+  show_additions();
   pagelist_display();
   popuplist_display();
+}
+
+void show_additions() {
+  family_display();
+  family_setcurrent(nullptr);
+  show_other_names(page_picker);
+  show_other_names(popup_picker);
 }

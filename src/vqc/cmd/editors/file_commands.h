@@ -27,5 +27,7 @@ std::span<const CommandKey> file_command_keys();
 
 /// Shows what a load has left in the model, with no family current.
 void show_document();
+/// The same after a load that has added to the document. What is typed in the page and popup editors stays.
+void show_additions();
 
 #endif

@@ -7,7 +7,9 @@
 
 extern Picker page_picker;
 
-inline void pagedlg_set_initial_state(Widget field, Widget parent) { open_picker(page_picker, field, parent); }
+inline void pagedlg_set_initial_state(Widget field, Widget parent, bool (*is_wanted)()) {
+  open_picker(page_picker, field, parent, is_wanted);
+}
 inline int pagelist_display() { return show_all_names(page_picker); }
 
 inline constexpr XtCallbackProc pagelist_do_apply = do_apply<page_picker>;

@@ -7,8 +7,23 @@
 
 Text Picker::name() const { return gettextf(editor.name_field()); }
 
-void open_picker(Picker& picker, Widget field, Widget parent) {
+namespace {
+
+/// Where the list, which lacks what has been removed, has a name that is new to it: it has the order of the document.
+int place_in_list(const ListEditor& editor, const Text& name) {
+  int place = 1;
+  for (const Text& other : editor.names.names()) {
+    if (other == name) break;
+    if (list_position(editor.list(), other) != 0) ++place;
+  }
+  return place;
+}
+
+}  // namespace
+
+void open_picker(Picker& picker, Widget field, Widget parent, bool (*is_wanted)()) {
   picker.field = field;
+  picker.is_wanted = is_wanted;
   if (!made(picker.editor.dialog, picker.create, parent)) return;
   show_all_names(picker);
   picker.show(gettextf(field));
@@ -23,14 +38,20 @@ int show_all_names(const Picker& picker) {
   return 1;
 }
 
+void show_other_names(const Picker& picker) {
+  if (!picker.editor.dialog) return;
+  const std::vector<Text> names = picker.editor.names.names();
+  if (names != list_names(picker.editor.list())) list_show(picker.editor.list(), names);
+}
+
 void name_into_family(const Picker& picker, const Text& name) {
   const ListEditor& editor = picker.editor;
   if (editor.names.has(name) || editor.names.add(name) != 0 || !editor.dialog) return;
-  if (list_position(editor.list(), name) == 0) list_insert(editor.list(), name, editor.names.position(name));
+  if (list_position(editor.list(), name) == 0) list_insert(editor.list(), name, place_in_list(editor, name));
 }
 
 void apply_picked(Widget w, const Picker& picker) {
-  if (!family_getcurrent()) return;
+  if (!picker.is_wanted()) return;
   const BusyCursor busy(w);
   dirty = true;
   settextf(picker.field, picker.name());

@@ -4,11 +4,20 @@
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
 
-/// The names of a picker: the current family's, in a list that is filled with all of the document's.
+/// The names of a picker: the current family's, in a list that is filled with all of the document's. What is at an end
+/// of the family's list need not be at an end of the other, so that only here a move to nowhere fails.
 template <auto& kind, auto& pool>
 NamesOf names_to_pick() {
   NamesOf names = names_in_family<kind>();
   names.names = names_in_pool<pool>;
+  names.move_up = [](const Text& name, bool) {
+    Family* family = family_getcurrent();
+    return kind.index(family, name) == 1 ? kind.codes.cannot_move : kind.move_up(family, name);
+  };
+  names.move_down = [](const Text& name, bool) {
+    Family* family = family_getcurrent();
+    return kind.index(family, name) == kind.count(family) ? kind.codes.cannot_move : kind.move_down(family, name);
+  };
   return names;
 }
 
@@ -21,15 +30,19 @@ struct Picker {
   void (*show)(const Text& name);  // shows the record of that name, or none
   int builtin_kind;                // of names that cannot be removed
   Widget field = nullptr;          // who asked
+  bool (*is_wanted)() = nullptr;   // whether what the field belongs to is there
 
   Text name() const;
 };
 
-/// Shows the picker, made when it is first needed as a child of `parent`, with the name that `field` holds.
-void open_picker(Picker& picker, Widget field, Widget parent);
+/// Shows the picker, made when it is first needed as a child of `parent`, with the name that `field` holds. The field
+/// takes another only as long as `is_wanted`.
+void open_picker(Picker& picker, Widget field, Widget parent, bool (*is_wanted)());
 
 /// Fills the list with all names and shows none of them. 0 while there is no dialog, else 1.
 int show_all_names(const Picker& picker);
+/// Fills the list with all names if there are others than it shows. The fields keep what is in them.
+void show_other_names(const Picker& picker);
 
 /// Gives the current family, if there is one, the name, and shows it in the list unless it is there.
 void name_into_family(const Picker& picker, const Text& name);

@@ -7,7 +7,9 @@
 
 extern Picker popup_picker;
 
-inline void popupdlg_set_initial_state(Widget field, Widget parent) { open_picker(popup_picker, field, parent); }
+inline void popupdlg_set_initial_state(Widget field, Widget parent, bool (*is_wanted)()) {
+  open_picker(popup_picker, field, parent, is_wanted);
+}
 inline int popuplist_display() { return show_all_names(popup_picker); }
 
 inline constexpr XtCallbackProc popuplist_do_apply = do_apply<popup_picker>;

@@ -19,7 +19,7 @@ void do_read(Widget w, XtPointer, XtPointer call) {
   Text path = chosen_path(w, call);
   parseit(&path, 0);
   hide_dialog(read_dialog[READ_FSB]);
-  show_document();
+  show_additions();
 }
 
 void read_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(read_dialog[READ_FSB]); }

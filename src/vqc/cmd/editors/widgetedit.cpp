@@ -73,6 +73,8 @@ WidgetDef* current_widget() {
   return element ? element->record : nullptr;
 }
 
+bool has_current_widget() { return widgetlist_getcurrent() != nullptr; }
+
 // The free modes: the three buttons of each menu follow one another, in the order of the modes.
 
 void show_free_mode(WidgeteditSlot menu, FreeMode mode) {
@@ -252,12 +254,12 @@ void we_popup_delete_cb(Widget w, XtPointer, XtPointer) {
 
 void we_popup_cb(Widget w, XtPointer, XtPointer) {
   const BusyCursor busy(w);
-  popupdlg_set_initial_state(at(WIDGETEDIT_POPUP), XtParent(at(WIDGETEDIT_SHELL)));
+  popupdlg_set_initial_state(at(WIDGETEDIT_POPUP), XtParent(at(WIDGETEDIT_SHELL)), has_current_widget);
 }
 
 void we_page_cb(Widget w, XtPointer, XtPointer) {
   const BusyCursor busy(w);
-  pagedlg_set_initial_state(at(WIDGETEDIT_PAGE), XtParent(at(WIDGETEDIT_SHELL)));
+  pagedlg_set_initial_state(at(WIDGETEDIT_PAGE), XtParent(at(WIDGETEDIT_SHELL)), has_current_widget);
 }
 
 void resource_dirty_cb(Widget, XtPointer, XtPointer) { resource_changed = true; }
