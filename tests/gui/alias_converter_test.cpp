@@ -217,6 +217,13 @@ TEST_F(ConverterPage, AnotherFamilyClearsTheFields) {
   expect_fields("", "", false, false);
 }
 
+TEST_F(ConverterPage, TheSameFamilyKeepsTheFields) {
+  select("converter_selection", "Colour");
+  enter("converter_proc", "typed");
+  select("family_selection", "F");
+  expect_fields("typed", "colour_popup", true, false);
+}
+
 TEST_F(ConverterPage, ANewNameFallsIntoAnOrderMadeByHand) {
   for (const char* name : {"A", "B"}) {
     fill(name, "p", "", false, false);

@@ -54,6 +54,21 @@ TEST_F(HeaderLists, AClickOnlyCopiesTheName) {
   EXPECT_EQ((Items{"a.h", "b.h"}), items("codeheaderlist_selection"));
 }
 
+TEST_F(HeaderLists, ReturnOnANameThatIsThereAddsNothing) {
+  choose_menu("entity_viewb", "entity_opt_code_headers_t");
+  add("codeheaderlist_selection", "a.h");
+  add("codeheaderlist_selection", "b.h");
+  saved();
+  click("codeheaderlist_selection.Text");
+  key("ctrl+a");
+  type("a.h");
+  key("Return");
+  EXPECT_EQ((Items{"a.h", "b.h"}), items("codeheaderlist_selection"));
+  EXPECT_EQ((Names{"a.h", "b.h"}), saved_names("F", "header"));
+  EXPECT_FALSE(dirty);
+  EXPECT_TRUE(is_shown("entity_dialog"));
+}
+
 TEST_F(HeaderLists, AnEmptyListClearsTheName) {
   add("codeheaderlist_selection", "a.h");
   enter("codeheaderlist_selection", "typed");

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <random>
+#include <set>
 
 #include "gui/hands.h"
 #include "gui/looks.h"
@@ -12,6 +13,38 @@ namespace {
 
 constexpr int kSteps = 2500;
 
+/// A list of all pages or popups. What has been removed from a family is missing, and what has been moved has another
+/// place, until the list is opened again.
+class Picker {
+ public:
+  explicit Picker(const char* box) : box_(box) {}
+
+  void open() {
+    removed_.clear();
+    moved_ = false;
+  }
+  void remove(const std::string& name) { removed_.insert(name); }
+  void move() { moved_ = true; }
+
+  void expect_shown(Names pool) const {
+    if (!find_widget(box_)) return;
+    Items shown = items(box_);
+    if (moved_) {
+      std::ranges::sort(shown);
+      std::ranges::sort(pool);
+    }
+    std::erase_if(pool, [&](const std::string& name) {
+      return removed_.contains(name) && std::ranges::find(shown, name) == shown.end();
+    });
+    EXPECT_EQ(pool, shown) << box_;
+  }
+
+ private:
+  const char* box_;
+  std::set<std::string> removed_;
+  bool moved_ = false;
+};
+
 class RandomWalk : public Session {
  protected:
   int below(int end) { return static_cast<int>(random_() % static_cast<unsigned>(end)); }
@@ -23,7 +56,7 @@ class RandomWalk : public Session {
   std::string any_name() { return one_of({"a", "b", "c", "D", "e e", "%s", "Ü", ""}); }
 
   void act() {
-    switch (below(12)) {
+    switch (below(14)) {
       case 0:
       case 1:
       case 2:
@@ -42,6 +75,10 @@ class RandomWalk : public Session {
         return press_if_possible(one_of(small_steps));
       case 10:
         return edit_page_or_popup();
+      case 11:
+        return open_picker();
+      case 12:
+        return move_page();
       default:
         return do_with_files();
     }
@@ -62,6 +99,8 @@ class RandomWalk : public Session {
     expect_list("we_resource_list", shown_widget ? names_in(shown_widget->record->resource_definitions) : Names());
     const auto* shown_enum = enum_kind.current();
     expect_list("enumedit_selection", shown_enum ? names_in(shown_enum->record->entries) : Names());
+    pages_.expect_shown(names_in(page_pool.list));
+    popups_.expect_shown(names_in(popup_pool.list));
   }
 
  private:
@@ -89,9 +128,6 @@ class RandomWalk : public Session {
                                                 "family_helpaboutb",
                                                 "about_ok",
                                                 "error_messageb.Cancel",
-                                                "widgetedit_page_b",
-                                                "widgetedit_popup_b",
-                                                "convert_popup_b",
                                                 "pageedit_selection.Apply",
                                                 "pageedit_selection.Cancel",
                                                 "popupedit_selection.Apply",
@@ -147,8 +183,25 @@ class RandomWalk : public Session {
     const std::string box = page ? "pageedit_selection" : "popupedit_selection";
     if (!find_widget(box)) return;
     enter(box, any_name());
-    press_if_possible(page ? one_of({"pageedit_updateb", "pageedit_removeb"})
-                           : one_of({"popupedit_applytb", "popupedit_deletetb"}));
+    if (below(2) == 0) return press_if_possible(page ? "pageedit_updateb" : "popupedit_applytb");
+    (page ? pages_ : popups_).remove(text(box));
+    press_if_possible(page ? "pageedit_removeb" : "popupedit_deletetb");
+  }
+
+  void open_picker() {
+    const bool page = below(2) == 0;
+    if (!find_widget("widgetedit_page_b")) return;
+    (page ? pages_ : popups_).open();
+    press(page ? "widgetedit_page_b" : one_of({"widgetedit_popup_b", "convert_popup_b"}));
+  }
+
+  void move_page() {
+    if (!find_widget("pageedit_selection")) return;
+    const Items names = items("pageedit_selection");
+    if (names.empty()) return;
+    select("pageedit_selection", names[static_cast<std::size_t>(below(static_cast<int>(names.size())))]);
+    pages_.move();
+    press(one_of({"pageedit_up_arrow", "pageedit_down_arrow"}));
   }
 
   void do_with_files() {
@@ -185,6 +238,8 @@ class RandomWalk : public Session {
   }
 
   std::mt19937 random_{20261121};
+  Picker pages_{"pageedit_selection"};
+  Picker popups_{"popupedit_selection"};
 };
 
 TEST_F(RandomWalk, TheListsAlwaysShowTheModel) {

@@ -1,3 +1,7 @@
+#include <gtest/gtest.h>
+
+#include <Xm/List.h>
+
 #include "gui/hands.h"
 #include "gui/looks.h"
 #include "gui/session.h"
@@ -68,6 +72,20 @@ TEST_F(ResourceEditor, SelectingAnotherShowsThatOneOnly) {
   select("we_resource_list", "all");
   select("we_resource_list", "bare");
   expect_texts("bare", "", "", "");
+  EXPECT_TRUE(is_set("widgetedit_visible_tog"));
+  expect_free("widgetedit_get_default_b", "widgetedit_set_default_b");
+  EXPECT_EQ(every_access, access());
+  EXPECT_FALSE(is_shown("resource_warn_dialog"));
+}
+
+TEST_F(ResourceEditor, ANameThatTheWidgetLacksShowsWhatANewResourceHas) {
+  edit();
+  select("we_resource_list", "all");
+  XmString lacking = XmStringCreateLocalized(const_cast<char*>("lacking"));
+  XmListAddItem(widget("we_resource_list"), lacking, 0);
+  XmStringFree(lacking);
+  click_item("we_resource_list", "lacking");
+  expect_texts("lacking", "", "", "");
   EXPECT_TRUE(is_set("widgetedit_visible_tog"));
   expect_free("widgetedit_get_default_b", "widgetedit_set_default_b");
   EXPECT_EQ(every_access, access());
