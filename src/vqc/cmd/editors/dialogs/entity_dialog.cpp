@@ -261,7 +261,7 @@ const WidgetLink links[] = {
     {"enumlist_selection", XmNcancelButton, "enumlist_quitb"},
     {"widgetlist_selection", XmNcancelButton, "widgetlist_quitb"},
     {"converter_selection", XmNcancelButton, "converter_quitb"},
-    {"familyinit_form", XmNcancelButton, "familyinit_cancelb"},
+    {"entity_view_form", XmNcancelButton, "familyinit_cancelb"},  // of its own, the box would put it last
     {"familyinit_form", XmNdefaultButton, "familyinit_applyb"},
 };
 

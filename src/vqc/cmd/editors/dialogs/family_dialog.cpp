@@ -12,6 +12,7 @@
 #include "vqc/cmd/editors/familydlg.h"
 #include "vqc/cmd/editors/file_commands.h"
 #include "vqc/cmd/editors/gendlg.h"
+#include "vqc/cmd/editors/kit/font_units.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/open.h"
 #include "vqc/cmd/editors/options.h"
@@ -119,6 +120,7 @@ Widget* create_family_dialog(Display* display, char* name, int argc, char** argv
   Widget shell =
       XtVaAppCreateShell(name, "VQconfig", applicationShellWidgetClass, display, XmNargc, argc, XmNargv, argv, nullptr);
   if (!shell) return nullptr;
+  measure_font(shell);
   Widget* record = build_dialog(shell, rows, FAMILY_SLOTS, links);
   if (!record) return nullptr;
   record[FAMILY_SHELL] = shell;

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "vqc/cmd/editors/kit/memory.h"
+#include "vqc/cmd/editors/kit/polish.h"
 
 namespace {
 
@@ -63,6 +64,13 @@ class Builder {
     }
   }
 
+  /// Menus are no children of what they are in.
+  void polish_all() const {
+    for (Widget widget : made_) {
+      if (widget && (widget == made_[0] || is_menu(widget))) polish(widget);
+    }
+  }
+
   /// Inner widgets first, so that each is laid out once, with all that it holds.
   void manage_all() {
     for (std::size_t i = rows_.size(); i-- > 0;) {
@@ -104,9 +112,10 @@ class Builder {
 
   /// Shells, what a dialog shell holds, and menus appear when they are asked for.
   static bool pops_up(Widget widget) {
-    return XtIsShell(widget) || XmIsDialogShell(XtParent(widget)) ||
-           XtIsSubclass(XtParent(widget), xmMenuShellWidgetClass);
+    return XtIsShell(widget) || XmIsDialogShell(XtParent(widget)) || is_menu(widget);
   }
+
+  static bool is_menu(Widget widget) { return XtIsSubclass(XtParent(widget), xmMenuShellWidgetClass); }
 
   Widget parent_;
   std::span<const WidgetRow> rows_;
@@ -201,6 +210,7 @@ Widget* build_dialog(Widget parent, std::span<const WidgetRow> rows, int slots, 
     builder.destroy();
     return nullptr;
   }
+  builder.polish_all();
   builder.manage_all();
   builder.set_links(links);  // an option menu takes its button's size from items that are managed
   auto* record = new Widget[static_cast<std::size_t>(slots)]{};

@@ -1,0 +1,170 @@
+#include <gtest/gtest.h>
+
+#include <Xm/RowColumn.h>
+
+#include <algorithm>
+#include <set>
+
+#include "gui/hands.h"
+#include "gui/looks.h"
+#include "gui/pixels.h"
+#include "gui/session.h"
+#include "gui/widget_tables.h"
+#include "vqc/cmd/application/session.h"
+
+// Where the Tab key goes: through each window as it is read.
+
+namespace {
+
+/// A widget that Tab goes to, and where it stands. What stands in a row of its own counts as a whole.
+struct Stop {
+  Widget w;
+  Area area;
+
+  std::string name() const { return XtName(w); }
+};
+
+Stop stop_with_keyboard(Widget shell) {
+  Widget w = XmGetFocusWidget(shell);
+  if (!w) return {shell, area_of(shell)};
+  return {w, area_of(XmIsRowColumn(XtParent(w)) ? XtParent(w) : w)};
+}
+
+/// The stops of a window from where the keyboard is until Tab comes back there.
+std::vector<Stop> walk(Widget shell, const std::string& tab) {
+  std::vector<Stop> stops = {stop_with_keyboard(shell)};
+  for (int i = 0; i < 60; ++i) {
+    key(tab);
+    const Stop next = stop_with_keyboard(shell);
+    if (next.w == stops[0].w) return stops;
+    stops.push_back(next);
+  }
+  ADD_FAILURE() << "Tab does not come back to " << stops[0].name();
+  return stops;
+}
+
+/// Whether a reader comes to `b` before `a`: it is above it in the same column, or left of it in the same row.
+bool is_read_before(const Area& b, const Area& a) {
+  const bool same_column = b.left < a.right() && a.left < b.right();
+  const bool same_row = b.top < a.bottom() && a.top < b.bottom();
+  return (same_column && b.bottom() <= a.top) || (same_row && b.right() <= a.left);
+}
+
+void start_at_the_top(std::vector<Stop>& stops) {
+  const auto first =
+      std::ranges::min_element(stops, {}, [](const Stop& s) { return std::pair(s.area.top, s.area.left); });
+  std::ranges::rotate(stops, first);
+}
+
+void expect_reading_order(std::vector<Stop> stops) {
+  start_at_the_top(stops);
+  for (std::size_t i = 0; i < stops.size(); ++i) {
+    for (std::size_t j = i + 1; j < stops.size(); ++j) {
+      EXPECT_FALSE(is_read_before(stops[j].area, stops[i].area))
+          << stops[i].name() << " comes before " << stops[j].name();
+    }
+  }
+}
+
+class TabOrder : public Session {
+ protected:
+  TabOrder() {
+    start({"-xrm", "VQconfig*generateOptions: True", folder.with("document.vqc", document)});
+    has_keyboard(main_shell());
+  }
+
+  /// Walks a window both ways, which is up; it has as many stops as that.
+  static void expect_reading_order_in(Widget shell, std::size_t count) {
+    ASSERT_TRUE(has_keyboard(shell));
+    const std::vector<Stop> forward = walk(shell, "Tab");
+    EXPECT_EQ(count, forward.size());
+    expect_reading_order(forward);
+    std::vector<Stop> backward = walk(shell, "shift+Tab");
+    ASSERT_EQ(forward.size(), backward.size());
+    for (std::size_t i = 1; i < forward.size(); ++i) {
+      EXPECT_EQ(forward[i].name(), backward[backward.size() - i].name());
+    }
+  }
+  static void expect_reading_order_in(const std::string& shell, std::size_t count) {
+    expect_reading_order_in(widget(shell), count);
+  }
+
+  static void open_widget_editor() {
+    edit_family("F");
+    enter("widgetlist_selection", "W");
+    press_ok("widgetlist_selection");
+  }
+
+  static constexpr char document[] = "VQconfig\nwidget 'W' {\n}\nfamily 'F' {\nwidget='W'\n}\n";
+};
+
+TEST_F(TabOrder, OfTheMainWindow) { expect_reading_order_in(main_shell(), 4); }
+
+TEST_F(TabOrder, OfTheFileBoxes) {
+  for (const std::string name : {"open", "read"}) {
+    press("family_" + name + "b");
+    expect_reading_order_in(name + "_dialog", 6);
+    close(name + "_dialog");
+  }
+  press("family_saveasb");
+  expect_reading_order_in("save_dialog", 6);
+}
+
+TEST_F(TabOrder, OfTheGenerateBox) {
+  press("family_genconfigb");
+  expect_reading_order_in("gen_dialog", 7);
+}
+
+TEST_F(TabOrder, OfTheOptions) {
+  press("family_generate_options_b");
+  expect_reading_order_in("options_shell", 16);
+}
+
+TEST_F(TabOrder, OfTheStopList) {
+  press("family_stop_b");
+  ASSERT_TRUE(has_keyboard("stop_list_shell"));
+  expect_reading_order(walk(widget("stop_list_shell"), "Tab"));
+}
+
+TEST_F(TabOrder, OfEachPageOfAFamily) {
+  edit_family("F");
+  const std::pair<const char*, std::size_t> pages[] = {
+      {"aliases", 4},        {"converters", 9},     {"enums", 3},       {"code_headers", 4},
+      {"config_headers", 4}, {"family_headers", 4}, {"family_init", 6}, {"widgets", 4}};
+  for (const auto& [page, count] : pages) {
+    SCOPED_TRACE(page);
+    toggle(std::string("entity_opt_") + page + "_t", true);
+    expect_reading_order_in("entity_dialog", count);
+  }
+}
+
+TEST_F(TabOrder, OfTheEnumerationEditor) {
+  edit_family("F");
+  toggle("entity_opt_enums_t", true);
+  enter("enumlist_selection", "E");
+  press_apply("enumlist_selection");
+  press_ok("enumlist_selection");
+  expect_reading_order_in("enumedit_dialog", 7);
+}
+
+TEST_F(TabOrder, OfTheWidgetEditor) {
+  open_widget_editor();
+  expect_reading_order_in("widgetedit_dialog", 33);
+}
+
+TEST_F(TabOrder, OfThePagesAndPopups) {
+  open_widget_editor();
+  press("widgetedit_page_b");
+  expect_reading_order_in("pageedit_dialog", 6);
+  press("widgetedit_popup_b");
+  expect_reading_order_in("popupedit_dialog", 7);
+}
+
+TEST_F(TabOrder, OfTheQuestions) {
+  open_widget_editor();
+  enter("we_resource_t", "r");
+  press("widgetedit_closeb");
+  expect_reading_order_in("resource_warn_dialog", 1);
+}
+
+}  // namespace
