@@ -1,7 +1,10 @@
 #include <algorithm>
+#include <cmath>
+#include <map>
 
 #include "gui/hands.h"
 #include "gui/looks.h"
+#include "gui/pixels.h"
 #include "gui/session.h"
 
 namespace {
@@ -213,6 +216,56 @@ TEST_F(AboutBox, TellsTheProgramAndItsVersion) {
   EXPECT_TRUE(last_line.starts_with("Version ")) << last_line;
   EXPECT_EQ(2, std::count(last_line.begin(), last_line.end(), ' ')) << last_line;
   EXPECT_EQ(std::string::npos, notice.find('%'));
+}
+
+/// By how much a picture's letters lean: how far to the right a row stands for each row that it is higher, so that the
+/// strokes of upright letters would stand on top of each other.
+double lean_of(const Picture& letters) {
+  const double ground = letters.background();
+  double best = 0;
+  double best_lean = 0;
+  for (double lean = 0; lean < 0.4; lean += 0.02) {
+    std::map<int, double> columns;
+    for (int y = 0; y < letters.height(); ++y) {
+      for (int x = 0; x < letters.width(); ++x) {
+        columns[static_cast<int>(std::lround(x + lean * y))] += ground - letters.at(x, y);
+      }
+    }
+    double sharpness = 0;
+    for (const auto& [column, ink] : columns) sharpness += ink * ink;
+    if (sharpness <= best) continue;
+    best = sharpness;
+    best_lean = lean;
+  }
+  return best_lean;
+}
+
+int height_of(const Picture& letters) {
+  const std::vector<int> rows = letters.ink_in_rows();
+  return static_cast<int>(rows.size()) - static_cast<int>(std::ranges::count(rows, 0));
+}
+
+/// How much ink letters have for their size.
+double weight_of(const Picture& letters) {
+  const double ground = letters.background();
+  double ink = 0;
+  for (int y = 0; y < letters.height(); ++y) {
+    for (int x = 0; x < letters.width(); ++x) ink += ground - letters.at(x, y);
+  }
+  return ink / (ground * height_of(letters) * height_of(letters));
+}
+
+TEST_F(AboutBox, NamesTheProgramInLargeBoldObliqueLetters) {
+  ASSERT_TRUE(is_shown("about_dialog"));
+  move_aside("about_dialog");
+  enter("family_selection", "vqconfig");
+  settle();
+  const Picture name("about_name");
+  const Picture plain = Picture("family_selection.Text").inside(3);
+  EXPECT_GT(height_of(name), 1.5 * height_of(plain));
+  EXPECT_GT(weight_of(name), 1.2 * weight_of(plain));
+  EXPECT_GT(lean_of(name), 0.1);
+  EXPECT_LT(lean_of(plain), 0.1);
 }
 
 TEST_F(AboutBox, ItsButtonClosesIt) {

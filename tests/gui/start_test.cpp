@@ -172,4 +172,13 @@ TEST_F(NoResourceFile, EditingGoesOn) {
   EXPECT_NE("", saved_item("family 'New'"));
 }
 
+TEST_F(NoResourceFile, TheAboutBoxHasItsTitleAndTheVersion) {
+  start();
+  press("family_helpaboutb");
+  ASSERT_TRUE(is_shown("about_dialog"));
+  EXPECT_EQ("About vqconfig", title("about_dialog"));
+  EXPECT_EQ("vqconfig", label("about_name"));
+  EXPECT_TRUE(label("about_version").starts_with("Version 0")) << label("about_version");
+}
+
 }  // namespace

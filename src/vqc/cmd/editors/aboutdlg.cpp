@@ -1,6 +1,6 @@
 #include "vqc/cmd/editors/aboutdlg.h"
 
-#include <string>
+#include <cstring>
 
 #include "libkel/message.h"
 #include "libkel/text.h"
@@ -11,14 +11,26 @@
 
 namespace {
 
-/// The label's text has places for the release's number and date.
-void state_version(Widget label) {
+/// The text of a label; `given` when no resource sets one, so that it shows its own name.
+Text text_or(const char* given, Widget label) {
   XmString string = nullptr;
   XtVaGetValues(label, XmNlabelString, &string, nullptr);
-  const Text format = text_of(string);
+  const Text text = text_of(string);
   XmStringFree(string);
-  const std::string text = filled(format, {VQC_VERSION, VQC_RELEASE_DATE});
-  XtVaSetValues(label, XmNlabelString, CompoundString::of_lines(text.c_str()).get(), nullptr);
+  return text == XtName(label) ? Text(given) : text;
+}
+
+void show_text(Widget label, const char* text) {
+  XtVaSetValues(label, XmNlabelString, CompoundString::of_lines(text).get(), nullptr);
+}
+
+/// The box says what it is about without a resource file too.
+void set_texts(Widget shell, Widget name, Widget version) {
+  String title = nullptr;
+  XtVaGetValues(shell, XmNtitle, &title, nullptr);
+  if (std::strcmp(title, XtName(shell)) == 0) XtVaSetValues(shell, XmNtitle, "About vqconfig", nullptr);
+  show_text(name, text_or("vqconfig", name).c_str());
+  show_text(version, filled(text_or("Version %s %s", version), {VQC_VERSION, VQC_RELEASE_DATE}).c_str());
 }
 
 }  // namespace
@@ -27,7 +39,7 @@ void about_do_show(Widget w, XtPointer, XtPointer) {
   const BusyCursor busy(w);
   if (!about_dialog) {
     if (!made(about_dialog, create_about_dialog, family_dialog[FAMILY_SHELL])) return;
-    state_version(about_dialog[ABOUT_VERSION]);
+    set_texts(about_dialog[ABOUT_SHELL], about_dialog[ABOUT_NAME], about_dialog[ABOUT_VERSION]);
   }
   show_dialog(about_dialog[ABOUT_FORM]);
 }

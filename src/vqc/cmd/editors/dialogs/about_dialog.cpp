@@ -11,7 +11,7 @@ namespace {
 const WidgetRow rows[] = {
     {"about_dialog", XmCreateDialogShell, nullptr, ABOUT_SHELL},
     {"about_form", create_form, "about_dialog", ABOUT_FORM},
-    {"about_name", XmCreateLabel, "about_form"},
+    {"about_name", XmCreateLabel, "about_form", ABOUT_NAME},
     {"about_version", XmCreateLabel, "about_form", ABOUT_VERSION},
     {"about_ok", XmCreatePushButton, "about_form", NO_SLOT, {{XmNactivateCallback, about_do_hide}}},
 };

@@ -7,6 +7,7 @@
 enum AboutSlot {
   ABOUT_SHELL,
   ABOUT_FORM,
+  ABOUT_NAME,
   ABOUT_VERSION,
   ABOUT_SLOTS,
 };
