@@ -56,6 +56,11 @@ void install_hooks() {
   session_hooks = {.end = ExitVQConfig, .help = show_help};
 }
 
+void register_converters() {
+  XmRegisterConverters();
+  XtAppAddConverter(context, XtRString, XmRUnitType, XmCvtStringToUnitType, nullptr, 0);
+}
+
 void set_icon(Widget shell) {
   std::string file = installed("share/icons/hicolor/48x48/apps/vqconfig.xpm");
   Screen* screen = XtScreen(shell);
@@ -86,7 +91,7 @@ const char* open_display(int* argc, char** argv) {
 
 bool start_session(int argc, char** argv) {
   survive_short_memory();
-  XmRegisterConverters();
+  register_converters();
   use_keys(display, file_command_keys());
   family_dialog = create_family_dialog(display, argv[0], argc, argv);
   if (!family_dialog) return false;
