@@ -20,14 +20,16 @@ struct Layer {
 inline const std::vector<Layer>& layers() {
   static const std::vector<Layer> all = {
       {"libkel/", {}},
+      {"desktop/", {"libkel/"}},
       {"help/client/", {"libkel/"}},
-      {"help/viewer/", {"libkel/"}},
+      {"help/viewer/", {"libkel/", "desktop/"}},
       {"vqc/cmd/model/", {"libkel/"}},
       {"vqc/cmd/savefile/", {"libkel/", "vqc/cmd/model/"}},
       {"vqc/cmd/generate/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/"}},
       {"vqc/cmd/editors/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/generate/"}},
       {"vqc/cmd/application/",
-       {"libkel/", "help/client/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/generate/", "vqc/cmd/editors/"}},
+       {"libkel/", "desktop/", "help/client/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/generate/",
+        "vqc/cmd/editors/"}},
   };
   return all;
 }

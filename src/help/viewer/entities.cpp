@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "help/viewer/utf8.h"
+#include "libkel/utf8.h"
 
 namespace {
 

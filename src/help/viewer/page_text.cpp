@@ -6,7 +6,7 @@
 #include "help/viewer/elements.h"
 #include "help/viewer/entities.h"
 #include "help/viewer/markup.h"
-#include "help/viewer/utf8.h"
+#include "libkel/utf8.h"
 
 namespace {
 

@@ -10,6 +10,7 @@
 #include <Xm/Xm.h>
 #include <XmHTML/XmHTML.h>
 
+#include "desktop/window_properties.h"
 #include "help/viewer/viewer.h"
 
 namespace {
@@ -127,6 +128,7 @@ void ask_for_attention() {
 }  // namespace
 
 void make_window(Display* display) {
+  describe_windows(display);
   window.shell = XtVaAppCreateShell(nullptr, "Vqhelp", applicationShellWidgetClass, display, XmNmappedWhenManaged,
                                     False, XmNdeleteResponse, XmDO_NOTHING, nullptr);
   register_actions();
@@ -164,11 +166,7 @@ void focus_on_page() { XmProcessTraversal(work_window(), XmTRAVERSE_CURRENT); }
 
 void set_title(const std::string& title) {
   Display* display = XtDisplay(window.shell);
-  const Atom utf8 = XInternAtom(display, "UTF8_STRING", False);
-  for (const char* property : {"_NET_WM_NAME", "_NET_WM_ICON_NAME"}) {
-    XChangeProperty(display, XtWindow(window.shell), XInternAtom(display, property, False), utf8, 8, PropModeReplace,
-                    reinterpret_cast<const unsigned char*>(title.data()), static_cast<int>(title.size()));
-  }
+  describe_title(window.shell, title);
   char* text = const_cast<char*>(title.c_str());
   XTextProperty name{};
   if (Xutf8TextListToTextProperty(display, &text, 1, XStdICCTextStyle, &name) < 0) return;

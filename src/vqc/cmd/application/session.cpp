@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "desktop/window_properties.h"
 #include "libkel/installation.h"
 #include "libkel/message.h"
 #include "vqc/cmd/application/batch.h"
@@ -93,6 +94,7 @@ bool start_session(int argc, char** argv) {
   survive_short_memory();
   register_converters();
   use_keys(display, file_command_keys());
+  describe_windows(display);
   family_dialog = create_family_dialog(display, argv[0], argc, argv);
   if (!family_dialog) return false;
   Widget shell = family_dialog[FAMILY_SHELL];

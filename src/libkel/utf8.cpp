@@ -1,4 +1,4 @@
-#include "help/viewer/utf8.h"
+#include "libkel/utf8.h"
 
 #include <array>
 

@@ -1,11 +1,11 @@
-#ifndef HELP_VIEWER_UTF8_H
-#define HELP_VIEWER_UTF8_H
+#ifndef LIBKEL_UTF8_H
+#define LIBKEL_UTF8_H
 
 #include <cstddef>
 #include <string>
 #include <string_view>
 
-// Text inside the viewer is UTF-8.
+// Texts as desktops and help pages have them: in UTF-8.
 
 inline constexpr char32_t REPLACEMENT = 0xFFFD;
 
