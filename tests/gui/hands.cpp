@@ -83,9 +83,9 @@ Point row_point(Widget list, int place) {
   return {x + 10, y + height / 2};
 }
 
-void press_mouse_button() {
-  XTestFakeButtonEvent(display, Button1, True, CurrentTime);
-  XTestFakeButtonEvent(display, Button1, False, CurrentTime);
+void press_mouse_button(unsigned button = Button1) {
+  XTestFakeButtonEvent(display, button, True, CurrentTime);
+  XTestFakeButtonEvent(display, button, False, CurrentTime);
 }
 
 void click_at(Widget w, int x, int y) {
@@ -244,6 +244,14 @@ void tab_to(const std::string& inside, const std::string& name) {
   if (focus(inside) != name) throw std::runtime_error("Tab does not come to " + name);
 }
 
+void hold(const std::string& modifier, const std::function<void()>& action) {
+  const KeyCode code = stroke_for(modifier_named(modifier)).code;
+  send(code, true);
+  action();
+  send(code, false);
+  settle();
+}
+
 void paste() {
 #ifdef __SANITIZE_ADDRESS__
   const __lsan::ScopedDisabler overlooking;
@@ -254,6 +262,16 @@ void paste() {
 void move_aside(const std::string& shell) {
   XtVaSetValues(widget(shell), XmNx, 800, XmNy, 500, nullptr);
   settle();
+}
+
+void turn_wheel(WheelTurn turn) {
+  press_mouse_button(turn);
+  settle();
+}
+
+void turn_wheel(Widget w, int x, int y, WheelTurn turn) {
+  point_at(w, x, y);
+  turn_wheel(turn);
 }
 
 void close(const std::string& shell) { close_shell(widget(shell)); }

@@ -1,6 +1,7 @@
 #ifndef GUI_HANDS_H
 #define GUI_HANDS_H
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -32,10 +33,16 @@ void turn_to(Widget shell);
 void switch_lock(const char* name);
 /// Moves the keyboard from field to field until the one of that name has it, in the window that `inside` is in.
 void tab_to(const std::string& inside, const std::string& name);
+/// Does something while a modifier such as "shift" is held.
+void hold(const std::string& modifier, const std::function<void()>& action);
 /// Presses the key that pastes. Motif forgets some memory then.
 void paste();
 /// Moves a dialog away from what it covers.
 void move_aside(const std::string& shell);
+/// Turns the mouse wheel where the mouse is, or at a point of a widget.
+enum WheelTurn : unsigned { WHEEL_UP = 4, WHEEL_DOWN = 5, WHEEL_LEFT = 6, WHEEL_RIGHT = 7 };
+void turn_wheel(WheelTurn turn);
+void turn_wheel(Widget w, int x, int y, WheelTurn turn);
 /// Closes a shell as the window manager's menu does.
 void close(const std::string& shell);
 void close_main_window();

@@ -67,6 +67,19 @@ Window titled(const std::string& title, Window top) {
   return None;
 }
 
+/// Presses a mouse button at a point of a window.
+void press_button(Window window, int x, int y, unsigned button) {
+  Window child = None;
+  int root_x = 0;
+  int root_y = 0;
+  XTranslateCoordinates(display, window, DefaultRootWindow(display), x, y, &root_x, &root_y, &child);
+  XTestFakeMotionEvent(display, -1, root_x, root_y, CurrentTime);
+  settle();
+  XTestFakeButtonEvent(display, button, True, CurrentTime);
+  XTestFakeButtonEvent(display, button, False, CurrentTime);
+  settle();
+}
+
 }  // namespace
 
 Desk::Desk() {
@@ -140,17 +153,9 @@ void type(const std::string& text) {
   for (char c : text) key(c == ' ' ? "space" : std::string(1, c));
 }
 
-void click(Window window, int x, int y) {
-  Window child = None;
-  int root_x = 0;
-  int root_y = 0;
-  XTranslateCoordinates(display, window, DefaultRootWindow(display), x, y, &root_x, &root_y, &child);
-  XTestFakeMotionEvent(display, -1, root_x, root_y, CurrentTime);
-  settle();
-  XTestFakeButtonEvent(display, Button1, True, CurrentTime);
-  XTestFakeButtonEvent(display, Button1, False, CurrentTime);
-  settle();
-}
+void click(Window window, int x, int y) { press_button(window, x, y, Button1); }
+
+void turn_wheel(Window window, int x, int y, unsigned button) { press_button(window, x, y, button); }
 
 void close_by_manager(Window window) {
   close_by_manager(display, window);

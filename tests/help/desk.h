@@ -50,6 +50,8 @@ void key(const std::string& combination);
 void type(const std::string& text);
 /// Clicks into a window.
 void click(Window window, int x, int y);
+/// Turns the wheel there: button 4 is up, 5 is down.
+void turn_wheel(Window window, int x, int y, unsigned button);
 /// Closes a window as the window manager does.
 void close_by_manager(Window window);
 

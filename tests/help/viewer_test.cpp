@@ -339,6 +339,21 @@ TEST_F(ViewerWindow, KeepsTheKeysForThePageWhenAButtonIsClickedOn) {
   EXPECT_EQ("workWindow", focus());
 }
 
+TEST_F(ViewerWindow, ScrollsByTheWheelWhereverThePointerIsOnThePage) {
+  show("a.html");
+  Widget text = nullptr;
+  XtVaGetValues(window.page, XmNworkWindow, &text, nullptr);
+  for (Widget under_pointer : {text, scroll_bar()}) {
+    turn_wheel(XtWindow(under_pointer), 8, 100, Button5);
+    const int once = scrolled();
+    EXPECT_LT(0, once);
+    turn_wheel(XtWindow(under_pointer), 8, 100, Button5);
+    EXPECT_EQ(2 * once, scrolled());
+    for (int turn = 0; turn < 3; ++turn) turn_wheel(XtWindow(under_pointer), 8, 100, Button4);
+    EXPECT_EQ(0, scrolled());
+  }
+}
+
 TEST_F(ViewerWindow, TellsTheDesktopWhatItIs) {
   show("a.html");
   const Window shell = XtWindow(window.shell);

@@ -97,7 +97,7 @@ inline std::vector<std::string> includes_of(const std::string& source) {
   return found;
 }
 
-inline constexpr std::array motif_users = {std::string_view("vqc/cmd/editors/"),
+inline constexpr std::array motif_users = {std::string_view("desktop/"), std::string_view("vqc/cmd/editors/"),
                                            std::string_view("vqc/cmd/application/"), std::string_view("help/viewer/")};
 inline constexpr std::array exit_callers = {std::string_view("vqc/cmd/application/"), std::string_view("help/viewer/")};
 

@@ -10,6 +10,7 @@
 #include <Xm/Xm.h>
 #include <XmHTML/XmHTML.h>
 
+#include "desktop/wheel.h"
 #include "desktop/window_properties.h"
 #include "help/viewer/viewer.h"
 
@@ -129,6 +130,7 @@ void ask_for_attention() {
 
 void make_window(Display* display) {
   describe_windows(display);
+  scroll_by_wheel(display);
   window.shell = XtVaAppCreateShell(nullptr, "Vqhelp", applicationShellWidgetClass, display, XmNmappedWhenManaged,
                                     False, XmNdeleteResponse, XmDO_NOTHING, nullptr);
   register_actions();

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "desktop/wheel.h"
 #include "desktop/window_properties.h"
 #include "libkel/installation.h"
 #include "libkel/message.h"
@@ -95,6 +96,7 @@ bool start_session(int argc, char** argv) {
   register_converters();
   use_keys(display, file_command_keys());
   describe_windows(display);
+  scroll_by_wheel(display);
   family_dialog = create_family_dialog(display, argv[0], argc, argv);
   if (!family_dialog) return false;
   Widget shell = family_dialog[FAMILY_SHELL];
