@@ -43,7 +43,8 @@ void describe(Widget shell) {
   tell_process(shell);
   tell_kind(shell);
   if (!XtIsWMShell(shell)) return;
-  XtVaSetValues(shell, XtNwindowRole, XtName(shell), nullptr);
+  const char* name = XtIsApplicationShell(shell) ? "main_window" : XtName(shell);  // the former is named by who calls
+  XtVaSetValues(shell, XtNwindowRole, name, nullptr);
   tell_title(shell);
 }
 

@@ -357,7 +357,7 @@ TEST_F(ViewerWindow, ScrollsByTheWheelWhereverThePointerIsOnThePage) {
 TEST_F(ViewerWindow, TellsTheDesktopWhatItIs) {
   show("a.html");
   const Window shell = XtWindow(window.shell);
-  EXPECT_EQ("vqhelp", property(shell, "WM_WINDOW_ROLE"));
+  EXPECT_EQ("main_window", property(shell, "WM_WINDOW_ROLE"));
   EXPECT_NE("", property(shell, "WM_CLIENT_MACHINE"));
   EXPECT_NE("", property_bytes(display, shell, "_NET_WM_PID", XA_CARDINAL, 32));
   EXPECT_NE("", property_bytes(display, shell, "_NET_WM_WINDOW_TYPE", XA_ATOM, 32));

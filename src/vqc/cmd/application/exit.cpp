@@ -3,8 +3,10 @@
 #include <cstdlib>
 
 #include "vqc/cmd/application/help.h"
+#include "vqc/cmd/editors/kit/placement.h"
 
 void ExitVQConfig(int status) {
   vqc_QuitHelp();
+  keep_places();
   std::exit(status);
 }

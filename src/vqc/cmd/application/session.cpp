@@ -24,6 +24,7 @@
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/keys.h"
 #include "vqc/cmd/editors/kit/memory.h"
+#include "vqc/cmd/editors/kit/placement.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
@@ -105,7 +106,7 @@ bool start_session(int argc, char** argv) {
   vqc_init_resources(shell);
   if (!vqc_generate_options()) XtUnmanageChild(family_dialog[FAMILY_OPTIONS_CASCADE]);
   set_icon(shell);
-  XtRealizeWidget(shell);
+  show_main_window(shell, XtParent(family_dialog[FAMILY_SELECTION]));
   guarded([shell] { load_first_document(shell); });
   return true;
 }

@@ -41,7 +41,7 @@ void about_do_show(Widget w, XtPointer, XtPointer) {
     if (!made(about_dialog, create_about_dialog, family_dialog[FAMILY_SHELL])) return;
     set_texts(about_dialog[ABOUT_SHELL], about_dialog[ABOUT_NAME], about_dialog[ABOUT_VERSION]);
   }
-  show_dialog(about_dialog[ABOUT_FORM]);
+  show_dialog(about_dialog[ABOUT_FORM], Place::over);
 }
 
 void about_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(about_dialog[ABOUT_FORM]); }

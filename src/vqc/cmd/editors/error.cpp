@@ -32,7 +32,7 @@ void show_in_box(const char* text) {
   Widget box = error_dialog[ERROR_BOX];
   XtVaSetValues(box, XmNmessageString, CompoundString::of_lines(text).get(), nullptr);
   let_be_used(box);
-  show_dialog(box);
+  show_dialog(box, Place::over);
 }
 
 }  // namespace

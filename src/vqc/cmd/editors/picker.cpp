@@ -27,7 +27,7 @@ void open_picker(Picker& picker, Widget field, Widget parent, bool (*is_wanted)(
   if (!made(picker.editor.dialog, picker.create, parent)) return;
   show_all_names(picker);
   picker.show(gettextf(field));
-  show_dialog(picker.editor.box());
+  show_dialog(picker.editor.box(), Place::over);
   offer_text(picker.editor.name_field());
 }
 

@@ -83,7 +83,7 @@ void savechanges_popup(SaveOp operation) {
   const std::string question = question_text(operation);
   XtVaSetValues(savechanges_dialog[SAVECHANGES_BOX], XmNmessageString, CompoundString::of_lines(question.c_str()).get(),
                 nullptr);
-  show_dialog(savechanges_dialog[SAVECHANGES_BOX]);
+  show_dialog(savechanges_dialog[SAVECHANGES_BOX], Place::over);
 }
 
 void savechanges_dosave(Widget w, XtPointer, XtPointer) {

@@ -163,7 +163,7 @@ void update_resource(WidgetDef& widget) {
 void ask_about_resource(Pending action) {
   if (!made(resource_warn_dialog, create_resource_warn_dialog, family_dialog[FAMILY_SHELL])) return;
   pending = action;
-  show_dialog(resource_warn_dialog[RESOURCE_WARN_BOX]);
+  show_dialog(resource_warn_dialog[RESOURCE_WARN_BOX], Place::over);
 }
 
 std::vector<Text> resource_names(const WidgetDef& widget) {

@@ -229,7 +229,8 @@ void delete_dialog(Widget* record) {
   delete[] record;
 }
 
-void show_dialog(Widget contents) {
+void show_dialog(Widget contents, Place place) {
+  if (!XtIsManaged(contents)) place_dialog(contents, place);
   XtManageChild(contents);
   Widget shell = shell_of(contents);
   if (XtIsRealized(shell)) XMapRaised(XtDisplay(shell), XtWindow(shell));

@@ -5,6 +5,8 @@
 
 #include <span>
 
+#include "vqc/cmd/editors/kit/placement.h"
+
 // Dialogs are tables of widgets, and one builder makes all of them. The tables give the tree, the names and the
 // callbacks; labels, colours, fonts and layout are looked up by name in the resource file.
 
@@ -78,7 +80,7 @@ bool made(Widget*& record, Widget* (*create)(Widget parent), Widget parent);
 void delete_dialog(Widget* record);
 
 /// Pops up the dialog whose shell has the child `contents`, in front of others.
-void show_dialog(Widget contents);
+void show_dialog(Widget contents, Place place = Place::beside);
 /// Pops it down. Null is allowed.
 void hide_dialog(Widget contents);
 

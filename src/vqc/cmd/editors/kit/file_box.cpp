@@ -24,7 +24,7 @@ std::string folder_of(const char* document) {
 void show_file_box(Widget box, const char* document, const char* name) {
   XtVaSetValues(box, XmNdirectory, CompoundString(folder_of(document).c_str()).get(), nullptr);
   XmFileSelectionDoSearch(box, nullptr);
-  show_dialog(box);
+  show_dialog(box, Place::over);
   offer_name(XmFileSelectionBoxGetChild(box, XmDIALOG_TEXT), name);
 }
 

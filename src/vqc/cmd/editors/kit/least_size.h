@@ -1,0 +1,12 @@
+#ifndef VQC_CMD_EDITORS_KIT_LEAST_SIZE_H
+#define VQC_CMD_EDITORS_KIT_LEAST_SIZE_H
+
+#include <Xm/Xm.h>
+
+#include "vqc/cmd/editors/kit/area.h"
+
+/// Lays out what a window holds before it is shown, and gives its shell the least size at which all buttons and fields
+/// can be used: lists may shrink to a few rows, nothing else may. Returns the size that the window has then.
+Area lay_out_contents(Widget contents);
+
+#endif

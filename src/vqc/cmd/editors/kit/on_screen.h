@@ -1,0 +1,24 @@
+#ifndef VQC_CMD_EDITORS_KIT_ON_SCREEN_H
+#define VQC_CMD_EDITORS_KIT_ON_SCREEN_H
+
+#include <Xm/Xm.h>
+
+#include "vqc/cmd/editors/kit/beside.h"
+
+// Where windows are on the screen, as the server knows it.
+
+/// The screen that a widget is on, and the part of it that panels leave free.
+Area screen_of(Widget w);
+Area free_screen(Widget w);
+
+/// Whether the window of a widget, which may be null, can be seen.
+bool is_shown(Widget w);
+
+/// Where the window of a widget is, and the frame that the window manager has put around a shell.
+Area area_of(Widget w);
+Area frame_of(Widget shell);
+
+/// A shell with its title and its list.
+Neighbour neighbour(Widget shell);
+
+#endif
