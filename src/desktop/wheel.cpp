@@ -81,7 +81,10 @@ Boolean press(XEvent* event) {
   return True;
 }
 
-Boolean release(XEvent* event) { return is_turn(event->xbutton) ? True : dispatch_release(event); }
+Boolean release(XEvent* event) {
+  if (!is_turn(event->xbutton)) return dispatch_release(event);
+  return True;
+}
 
 void ignore(Widget, XtPointer, XEvent*, Boolean*) {}
 

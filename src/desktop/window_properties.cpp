@@ -7,6 +7,7 @@
 
 #include <cstring>
 #include <cwchar>
+#include <new>
 
 #include "libkel/utf8.h"
 
@@ -48,13 +49,19 @@ void describe(Widget shell) {
   tell_title(shell);
 }
 
-void has_changed(Widget, XtPointer, XtPointer call) {
-  const auto& change = *static_cast<XtChangeHookData>(call);
+void tell_change(const XtChangeHookDataRec& change) {
   if (!XtIsShell(change.widget) || !XtIsRealized(change.widget)) return;
   if (std::strcmp(change.type, XtHrealizeWidget) == 0) {
     describe(change.widget);
   } else if (std::strcmp(change.type, XtHsetValues) == 0 && XtIsWMShell(change.widget)) {
     tell_title(change.widget);
+  }
+}
+
+void has_changed(Widget, XtPointer, XtPointer call) {
+  try {
+    tell_change(*static_cast<XtChangeHookData>(call));
+  } catch (const std::bad_alloc&) {  // the window goes on without, and nothing is thrown into the toolkit
   }
 }
 

@@ -136,6 +136,17 @@ void OtherDisplay::key(const char* name, bool with_control) {
   XSync(connection_, False);
 }
 
+void OtherDisplay::move(Window window, int x, int y) {
+  XMoveWindow(connection_, window, x, y);
+  XSync(connection_, False);
+}
+
+std::pair<int, int> OtherDisplay::corner(Window window) const {
+  XWindowAttributes attributes{};
+  XGetWindowAttributes(connection_, window, &attributes);
+  return {attributes.x, attributes.y};
+}
+
 void OtherDisplay::close(Window window) { close_by_manager(connection_, window); }
 
 void OtherDisplay::lose() {

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "gui/session.h"
@@ -50,6 +51,9 @@ class OtherDisplay {
   void focus(const std::string& title);
   void type(const std::string& text);
   void key(const char* name, bool with_control = false);
+  /// Moves a window, and where its upper left corner is.
+  void move(Window window, int x, int y);
+  std::pair<int, int> corner(Window window) const;
   /// Asks a window to close.
   void close(Window window);
   /// Kills the server.

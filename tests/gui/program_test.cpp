@@ -63,6 +63,19 @@ TEST_F(Program, EndsWithAMessageWhenItsDisplayIsLost) {
   EXPECT_EQ(athena, read_file(folder / "athena.vqc"));
 }
 
+TEST_F(Program, OpensItsWindowWhereItWasLeftTheLastTime) {
+  setenv("XDG_STATE_HOME", folder.path().c_str(), 1);
+  for (int session = 0; session < 4; ++session) {
+    RunningProgram program({folder.with("athena.vqc", athena)}, screen.name());
+    const Window window = screen.wait_for_window("vqconfig: athena.vqc");
+    ASSERT_NE(0u, window);
+    if (session == 0) screen.move(window, 123, 234);
+    EXPECT_EQ(std::pair(123, 234), screen.corner(window)) << session;
+    screen.close(window);
+    EXPECT_EQ(0, program.wait());
+  }
+}
+
 TEST_F(Program, WithoutADisplayItSaysSo) {
   RunningProgram program({}, ":999999");
   EXPECT_EQ(255, program.wait());

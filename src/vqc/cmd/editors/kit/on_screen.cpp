@@ -72,9 +72,9 @@ Area frame_of(Widget shell) {
   return area_of_window(XtDisplay(shell), frame_window(XtDisplay(shell), XtWindow(shell)));
 }
 
-bool is_shown(Widget shell) {
+bool is_shown(Widget w) {
   XWindowAttributes attributes{};
-  return shell && XtIsRealized(shell) && XGetWindowAttributes(XtDisplay(shell), XtWindow(shell), &attributes) &&
+  return w && XtIsRealized(w) && XGetWindowAttributes(XtDisplay(w), XtWindow(w), &attributes) &&
          attributes.map_state == IsViewable;
 }
 

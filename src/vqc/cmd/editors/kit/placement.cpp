@@ -8,6 +8,7 @@
 
 #include "vqc/cmd/editors/kit/beside.h"
 #include "vqc/cmd/editors/kit/least_size.h"
+#include "vqc/cmd/editors/kit/memory.h"
 #include "vqc/cmd/editors/kit/on_screen.h"
 #include "vqc/cmd/editors/kit/window_memory.h"
 
@@ -74,7 +75,7 @@ void watch(Widget shell, XtPointer data, XEvent* event, Boolean*) {
   Placed& window = *static_cast<Placed*>(data);
   if (event->type == MapNotify) has_come_up(window);
   if (event->type == ConfigureNotify && is_shown(shell)) window.now = area_of(shell);
-  if (event->type == UnmapNotify) remember(window);
+  if (event->type == UnmapNotify) guarded([&] { remember(window); });
 }
 
 Placed& placed(Widget shell) {

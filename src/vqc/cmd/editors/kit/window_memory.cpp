@@ -43,7 +43,7 @@ bool makes_sense(const Area& area, const Area& screen) {
   constexpr int kTitle = 20;
   const bool fits = area.width >= 0 && area.height >= 0 && area.width <= screen.width && area.height <= screen.height;
   const Area title_part{area.x, area.y, std::max(area.width, kTitle), kTitle};
-  return fits && area.y >= screen.y && overlap(title_part, screen) >= kTitle * kTitle;
+  return fits && area.y >= screen.y && overlap(title_part, screen) >= long{kTitle} * kTitle;
 }
 
 Lines read_lines() {
