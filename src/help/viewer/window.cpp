@@ -132,7 +132,7 @@ void make_window(Display* display) {
   describe_windows(display);
   scroll_by_wheel(display);
   window.shell = XtVaAppCreateShell(nullptr, "Vqhelp", applicationShellWidgetClass, display, XmNmappedWhenManaged,
-                                    False, XmNdeleteResponse, XmDO_NOTHING, nullptr);
+                                    False, XmNdeleteResponse, XmDO_NOTHING, XmNtitle, "", nullptr);  // a page has one
   register_actions();
   for (const WidgetRow& row : rows) make(row);
   XtRealizeWidget(window.shell);
