@@ -267,6 +267,16 @@ TEST_P(NameList, ANameThatIsTypedIsMeantAsItStands) {
   EXPECT_EQ(Names{"x\ny"}, saved_list({"x\ny", "xy"}));
 }
 
+TEST_P(NameList, ANameTypedOverIsMeantAgainWhenTheTypingIsTakenBack) {
+  edit({"x\ny", "xy"});
+  click_row(box(), place(0));
+  tab_to_name();
+  type("z");
+  key("ctrl+z");
+  press(list().remove);
+  EXPECT_EQ(Names{"xy"}, saved_list({"x\ny", "xy"}));
+}
+
 TEST_P(NameList, ADoubleClickMeansTheNameToo) {
   edit({"x\ny"}, "3000");
   const std::size_t rows_before = items(box()).size();
