@@ -7,6 +7,8 @@
 #include "gui/pixels.h"
 #include "gui/session.h"
 
+#include <Xm/CutPaste.h>
+
 namespace {
 
 const char two_families[] = "VQconfig\nfamily 'Athena' {\n}\nfamily 'Demo' {\n}\n";
@@ -46,6 +48,29 @@ TEST_F(MainWindow, FieldsHaveTheKeysOfTheClipboard) {
   EXPECT_EQ("", text("family_selection"));
   paste();
   EXPECT_EQ("NewDial", text("family_selection"));
+}
+
+/// Another program's copy of a text.
+void put_into_clipboard(std::string text) {
+  const Window window = XtWindow(main_shell());
+  XmString label = XmStringCreateLocalized(const_cast<char*>("copied"));
+  long item = 0;
+  XmClipboardStartCopy(display, window, label, CurrentTime, nullptr, nullptr, &item);
+  XmClipboardCopy(display, window, item, const_cast<char*>("STRING"), text.data(), text.size(), 0, nullptr);
+  XmClipboardEndCopy(display, window, item);
+  XmStringFree(label);
+}
+
+TEST_F(MainWindow, ATextThatIsTooLongToBeDrawnIsNotPasted) {
+  start();
+  click("family_selection.Text");
+  put_into_clipboard(std::string(50000, 'n'));
+  paste();
+  EXPECT_EQ(std::string(50000, 'n'), text("family_selection"));
+  key("ctrl+a");
+  put_into_clipboard(std::string(300000, 'n'));
+  paste();
+  EXPECT_EQ(std::string(50000, 'n'), text("family_selection"));
 }
 
 TEST_F(MainWindow, NewFamiliesGoToTheEnd) {
