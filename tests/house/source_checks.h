@@ -26,7 +26,7 @@ inline const std::vector<Layer>& layers() {
       {"vqc/cmd/model/", {"libkel/"}},
       {"vqc/cmd/savefile/", {"libkel/", "vqc/cmd/model/"}},
       {"vqc/cmd/generate/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/"}},
-      {"vqc/cmd/editors/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/generate/"}},
+      {"vqc/cmd/editors/", {"libkel/", "desktop/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/generate/"}},
       {"vqc/cmd/application/",
        {"libkel/", "desktop/", "help/client/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/generate/",
         "vqc/cmd/editors/"}},

@@ -10,6 +10,7 @@
 #include <Xm/Xm.h>
 #include <XmHTML/XmHTML.h>
 
+#include "desktop/font_units.h"
 #include "desktop/wheel.h"
 #include "desktop/window_properties.h"
 #include "help/viewer/viewer.h"
@@ -133,6 +134,7 @@ void make_window(Display* display) {
   scroll_by_wheel(display);
   window.shell = XtVaAppCreateShell(nullptr, "Vqhelp", applicationShellWidgetClass, display, XmNmappedWhenManaged,
                                     False, XmNdeleteResponse, XmDO_NOTHING, XmNtitle, "", nullptr);  // a page has one
+  measure_font(window.shell);
   register_actions();
   for (const WidgetRow& row : rows) make(row);
   XtRealizeWidget(window.shell);

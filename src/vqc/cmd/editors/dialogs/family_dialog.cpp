@@ -8,11 +8,11 @@
 #include <Xm/SelectioB.h>
 #include <Xm/Separator.h>
 
+#include "desktop/font_units.h"
 #include "vqc/cmd/editors/aboutdlg.h"
 #include "vqc/cmd/editors/familydlg.h"
 #include "vqc/cmd/editors/file_commands.h"
 #include "vqc/cmd/editors/gendlg.h"
-#include "vqc/cmd/editors/kit/font_units.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/open.h"
 #include "vqc/cmd/editors/options.h"

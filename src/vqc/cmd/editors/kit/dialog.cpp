@@ -25,8 +25,8 @@ struct GuardedCallback {
   const void* data;
 
   static void call(Widget w, XtPointer callback, XtPointer call_data) {
-    const auto [procedure, data] = *static_cast<GuardedCallback*>(callback);
-    guarded([&] { procedure(w, const_cast<void*>(data), call_data); });
+    const auto* self = static_cast<GuardedCallback*>(callback);
+    guarded([=] { self->procedure(w, const_cast<void*>(self->data), call_data); });
   }
   static void destroy(Widget, XtPointer callback, XtPointer) { delete static_cast<GuardedCallback*>(callback); }
 };
