@@ -2,7 +2,7 @@
 
 #include <Xm/Label.h>
 
-void measure_font(Widget shell) {
+void set_font_unit(Widget shell) {
   Widget label = XmCreateLabel(shell, const_cast<char*>("font"), nullptr, 0);
   XmRenderTable font = nullptr;
   XtVaGetValues(label, XmNrenderTable, &font, nullptr);

@@ -6,6 +6,6 @@
 /// Makes the toolkit's font unit the height of a line of text in the program's font, so that distances and sizes that
 /// resources state in it follow the font wherever that takes its resolution from. Call it before the shell has anything
 /// else in it.
-void measure_font(Widget shell);
+void set_font_unit(Widget shell);
 
 #endif

@@ -34,6 +34,18 @@ void tell_kind(Widget shell) {
   set_property(shell, "_NET_WM_WINDOW_TYPE", XA_ATOM, 32, &kind, 1);
 }
 
+/// What is none of the locale is taken for UTF-8, and what is not that for Latin-1.
+std::string utf8_of_locale(const std::string& text) {
+  std::wstring characters(text.size(), L'\0');
+  std::mbstate_t state{};
+  const char* from = text.c_str();
+  const std::size_t count = std::mbsrtowcs(characters.data(), &from, characters.size(), &state);
+  if (count == static_cast<std::size_t>(-1)) return as_utf8(text);
+  std::string result;
+  for (wchar_t character : characters.substr(0, count)) result += utf8(static_cast<char32_t>(character));
+  return result;
+}
+
 void tell_title(Widget shell) {
   char* title = nullptr;
   XtVaGetValues(shell, XtNtitle, &title, nullptr);
@@ -44,7 +56,8 @@ void describe(Widget shell) {
   tell_process(shell);
   tell_kind(shell);
   if (!XtIsWMShell(shell)) return;
-  const char* name = XtIsApplicationShell(shell) ? "main_window" : XtName(shell);  // the former is named by who calls
+  // The main window's own name is that of the command.
+  const char* name = XtIsApplicationShell(shell) ? "main_window" : XtName(shell);
   XtVaSetValues(shell, XtNwindowRole, name, nullptr);
   tell_title(shell);
 }
@@ -76,15 +89,4 @@ void describe_title(Widget shell, const std::string& utf8_title) {
   for (const char* property : {"_NET_WM_NAME", "_NET_WM_ICON_NAME"}) {
     set_property(shell, property, utf8_string, 8, utf8_title.data(), utf8_title.size());
   }
-}
-
-std::string utf8_of_locale(const std::string& text) {
-  std::wstring characters(text.size(), L'\0');
-  std::mbstate_t state{};
-  const char* from = text.c_str();
-  const std::size_t count = std::mbsrtowcs(characters.data(), &from, characters.size(), &state);
-  if (count == static_cast<std::size_t>(-1)) return as_utf8(text);
-  std::string result;
-  for (wchar_t character : characters.substr(0, count)) result += utf8(static_cast<char32_t>(character));
-  return result;
 }

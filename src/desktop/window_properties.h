@@ -13,7 +13,4 @@ void describe_windows(Display* display);
 /// of the shell is set.
 void describe_title(Widget shell, const std::string& utf8_title);
 
-/// A text of the locale in UTF-8. What is none of the locale is taken for UTF-8, and what is not that for Latin-1.
-std::string utf8_of_locale(const std::string& text);
-
 #endif

@@ -52,6 +52,7 @@ TEST_F(MainWindow, FieldsHaveTheKeysOfTheClipboard) {
 
 /// Another program's copy of a text.
 void put_into_clipboard(std::string text) {
+  Display* display = XtDisplay(main_shell());
   const Window window = XtWindow(main_shell());
   XmString label = XmStringCreateLocalized(const_cast<char*>("copied"));
   long item = 0;

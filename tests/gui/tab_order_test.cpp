@@ -123,7 +123,9 @@ TEST_F(TabOrder, OfTheOptions) {
 TEST_F(TabOrder, OfTheStopList) {
   press("family_stop_b");
   ASSERT_TRUE(has_keyboard("stop_list_shell"));
-  expect_reading_order(walk(widget("stop_list_shell"), "Tab"));
+  const std::vector<Stop> stops = walk(widget("stop_list_shell"), "Tab");
+  EXPECT_LE(4U, stops.size());  // the classes, and three buttons
+  expect_reading_order(stops);
 }
 
 TEST_F(TabOrder, OfEachPageOfAFamily) {

@@ -134,7 +134,7 @@ void make_window(Display* display) {
   scroll_by_wheel(display);
   window.shell = XtVaAppCreateShell(nullptr, "Vqhelp", applicationShellWidgetClass, display, XmNmappedWhenManaged,
                                     False, XmNdeleteResponse, XmDO_NOTHING, XmNtitle, "", nullptr);  // a page has one
-  measure_font(window.shell);
+  set_font_unit(window.shell);
   register_actions();
   for (const WidgetRow& row : rows) make(row);
   XtRealizeWidget(window.shell);

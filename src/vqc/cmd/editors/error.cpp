@@ -21,7 +21,10 @@ const char* text_of_resource(const char* name) {
 
 /// Lets the box be read and closed although another dialog has to be answered first, by giving it that rank.
 void let_be_used(Widget box) {
-  if (modal_shell() == XtParent(box)) return;
+  unsigned char style = XmDIALOG_MODELESS;
+  XtVaGetValues(box, XmNdialogStyle, &style, nullptr);
+  const bool can_be_used = modal_shell() ? modal_shell() == XtParent(box) : style == XmDIALOG_MODELESS;
+  if (can_be_used) return;
   hide_dialog(box);  // the rank of what is up cannot change
   XtVaSetValues(box, XmNdialogStyle, modal_shell() ? XmDIALOG_FULL_APPLICATION_MODAL : XmDIALOG_MODELESS, nullptr);
 }

@@ -17,8 +17,8 @@ ListEditor family_editor{
     .added =
         [](const Text& name) {
           if (!family_getcurrent()) family_setcurrent(family_ptr(name));
-          show_other_names(page_picker);  // the first family brings what every family has
-          show_other_names(popup_picker);
+          refresh_names(page_picker);  // the first family brings what every family has
+          refresh_names(popup_picker);
         },
     .accepted =
         [](const Text& name) {

@@ -21,7 +21,7 @@ void really_exit() {
 }  // namespace
 
 void run_save_op() {
-  if (save_op != SaveOp::none) close_save_dialog();  // what it would save is about to go
+  if (save_op != SaveOp::none) close_save_dialog();  // saving from there would carry it out again
   switch (save_op) {
     case SaveOp::none:
       return;
@@ -81,6 +81,6 @@ void show_document() {
 void show_additions() {
   family_display();
   family_setcurrent(nullptr);
-  show_other_names(page_picker);
-  show_other_names(popup_picker);
+  refresh_names(page_picker);
+  refresh_names(popup_picker);
 }

@@ -7,8 +7,8 @@
 
 extern Picker page_picker;
 
-inline void pagedlg_set_initial_state(Widget field, Widget parent, bool (*is_wanted)()) {
-  open_picker(page_picker, field, parent, is_wanted);
+inline void pagedlg_set_initial_state(Widget field, Widget parent, bool (*has_target)()) {
+  open_picker(page_picker, field, parent, has_target);
 }
 inline int pagelist_display() { return show_all_names(page_picker); }
 

@@ -21,9 +21,9 @@ int place_in_list(const ListEditor& editor, const Text& name) {
 
 }  // namespace
 
-void open_picker(Picker& picker, Widget field, Widget parent, bool (*is_wanted)()) {
+void open_picker(Picker& picker, Widget field, Widget parent, bool (*has_target)()) {
   picker.field = field;
-  picker.is_wanted = is_wanted;
+  picker.has_target = has_target;
   if (!made(picker.editor.dialog, picker.create, parent)) return;
   show_all_names(picker);
   picker.show(gettextf(field));
@@ -38,7 +38,7 @@ int show_all_names(const Picker& picker) {
   return 1;
 }
 
-void show_other_names(const Picker& picker) {
+void refresh_names(const Picker& picker) {
   if (!picker.editor.dialog) return;
   const std::vector<Text> names = picker.editor.names.names();
   if (names != list_names(picker.editor.list())) list_show(picker.editor.list(), names);
@@ -46,12 +46,12 @@ void show_other_names(const Picker& picker) {
 
 void name_into_family(const Picker& picker, const Text& name) {
   const ListEditor& editor = picker.editor;
-  if (editor.names.has(name) || editor.names.add(name) != 0 || !editor.dialog) return;
+  if (editor.names.has(name) || with_memory(editor.names.add(name)) != 0 || !editor.dialog) return;
   if (list_position(editor.list(), name) == 0) list_insert(editor.list(), name, place_in_list(editor, name));
 }
 
 void apply_picked(Widget w, const Picker& picker) {
-  if (!picker.is_wanted()) return;
+  if (!picker.has_target()) return;
   const BusyCursor busy(w);
   dirty = true;
   settextf(picker.field, picker.name());

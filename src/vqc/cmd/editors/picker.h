@@ -30,19 +30,19 @@ struct Picker {
   void (*show)(const Text& name);  // shows the record of that name, or none
   int builtin_kind;                // of names that cannot be removed
   Widget field = nullptr;          // who asked
-  bool (*is_wanted)() = nullptr;   // whether what the field belongs to is there
+  bool (*has_target)() = nullptr;  // whether what the field belongs to is there
 
   Text name() const;
 };
 
 /// Shows the picker, made when it is first needed as a child of `parent`, with the name that `field` holds. The field
-/// takes another only as long as `is_wanted`.
-void open_picker(Picker& picker, Widget field, Widget parent, bool (*is_wanted)());
+/// takes another only as long as `has_target`.
+void open_picker(Picker& picker, Widget field, Widget parent, bool (*has_target)());
 
 /// Fills the list with all names and shows none of them. 0 while there is no dialog, else 1.
 int show_all_names(const Picker& picker);
 /// Fills the list with all names if there are others than it shows. The fields keep what is in them.
-void show_other_names(const Picker& picker);
+void refresh_names(const Picker& picker);
 
 /// Gives the current family, if there is one, the name, and shows it in the list unless it is there.
 void name_into_family(const Picker& picker, const Text& name);

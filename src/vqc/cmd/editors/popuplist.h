@@ -7,8 +7,8 @@
 
 extern Picker popup_picker;
 
-inline void popupdlg_set_initial_state(Widget field, Widget parent, bool (*is_wanted)()) {
-  open_picker(popup_picker, field, parent, is_wanted);
+inline void popupdlg_set_initial_state(Widget field, Widget parent, bool (*has_target)()) {
+  open_picker(popup_picker, field, parent, has_target);
 }
 inline int popuplist_display() { return show_all_names(popup_picker); }
 

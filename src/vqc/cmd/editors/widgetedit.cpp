@@ -153,7 +153,7 @@ void update_resource(WidgetDef& widget) {
   if (name.empty()) return;
   dirty = true;
   if (!resource_ptr(&widget, name)) {
-    if (we_resource_add(name, &widget) != 0) return;
+    if (with_memory(we_resource_add(name, &widget)) != 0) return;
     list_insert(at(WE_RESOURCE_LIST), name, resource_index(&widget, name) + 1);
   }
   store_resource(*resource_ptr(&widget, name));

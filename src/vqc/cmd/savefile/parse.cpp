@@ -196,7 +196,7 @@ bool Reader::record_block(const Field<Record> (&fields)[n], Record& record) {
 
 // document := "VQconfig" header { item }
 // header   := { key "=" NAME }, in the order of the keys
-bool Reader::header() {
+bool Reader::header() try {
   if (!lexer_.is(Kw::vqconfig)) {
     error_show("bad_save_file");
     return false;
@@ -213,6 +213,9 @@ bool Reader::header() {
   if (!assigned_optional(classes)) return false;
   stop_list_set(classes);
   return true;
+} catch (const std::bad_alloc&) {
+  error_show("out_of_memory");
+  return false;
 }
 
 // Items.

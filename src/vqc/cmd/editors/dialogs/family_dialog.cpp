@@ -120,7 +120,7 @@ Widget* create_family_dialog(Display* display, char* name, int argc, char** argv
   Widget shell =
       XtVaAppCreateShell(name, "VQconfig", applicationShellWidgetClass, display, XmNargc, argc, XmNargv, argv, nullptr);
   if (!shell) return nullptr;
-  measure_font(shell);
+  set_font_unit(shell);
   Widget* record = build_dialog(shell, rows, FAMILY_SLOTS, links);
   if (!record) return nullptr;
   record[FAMILY_SHELL] = shell;

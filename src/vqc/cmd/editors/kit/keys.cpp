@@ -85,7 +85,7 @@ bool act(Widget shell, char letter, XEvent* event) {
   if (lower(letter) == 'w') {
     close_window(shell);
   } else if (key && !first) {
-    guarded([&] { key->command(shell, nullptr, nullptr); });
+    key->command(shell, nullptr, nullptr);
   }
   return key || lower(letter) == 'w';
 }
@@ -101,8 +101,9 @@ Boolean dispatch_key(XEvent* event) {
   XKeyEvent& key = event->xkey;
   const char letter = letter_with_control(key);
   Widget shell = letter ? window_of(key) : nullptr;
-  if (shell && act(shell, letter, event)) return True;
-  return usual_dispatch(event);
+  bool done = false;
+  if (shell) guarded([&] { done = act(shell, letter, event); });
+  return done || usual_dispatch(event);
 }
 
 void menu_is_up(Widget, XtPointer, XtPointer) { ++menus_up; }

@@ -29,7 +29,7 @@ void refill(const ListEditor& editor, bool has_owner) {
 }
 
 void add_name(const ListEditor& editor, const Text& name) {
-  if (editor.names.has(name) || editor.names.add(name) != 0) return;
+  if (editor.names.has(name) || with_memory(editor.names.add(name)) != 0) return;
   if (editor.added) editor.added(name);
   list_insert(editor.list(), name, editor.names.position(name));
 }

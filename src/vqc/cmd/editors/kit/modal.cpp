@@ -4,6 +4,8 @@
 
 #include <vector>
 
+#include "vqc/cmd/editors/kit/memory.h"
+
 namespace {
 
 /// Those that are up, the latest last.
@@ -15,7 +17,7 @@ std::vector<Widget>& modal_shells() {
 void popped_up(Widget shell, XtPointer, XtPointer) {
   int mode = MWM_INPUT_MODELESS;
   XtVaGetValues(shell, XmNmwmInputMode, &mode, nullptr);
-  if (mode > MWM_INPUT_MODELESS) modal_shells().push_back(shell);
+  if (mode > MWM_INPUT_MODELESS) guarded([&] { modal_shells().push_back(shell); });
 }
 
 void popped_down(Widget shell, XtPointer, XtPointer) { std::erase(modal_shells(), shell); }

@@ -71,18 +71,20 @@ void lighten_shortcut(Widget item) {
   XmStringFree(lighter);
 }
 
-/// Makes a widget the last one of its window to which Tab goes.
+/// Makes a widget the last one of its window to which Tab goes; null is none.
 void put_last_in_tab_order(Widget w) {
+  if (!w) return;
   XmRemoveTabGroup(w);
   XmAddTabGroup(w);
 }
 
-/// Tab goes down the columns of a file box; left to the toolkit, it jumps between them.
+/// Tab goes down the columns of a file box; left to the toolkit, it jumps between them. A box that shows whole paths
+/// has no field for the folder.
 void order_tabs(Widget file_box) {
   for (const char* part : {"DirText", "FilterText", "DirListSW", "*DirList", "ItemsListSW", "*ItemsList"}) {
     put_last_in_tab_order(XtNameToWidget(file_box, part));
   }
-  if (Widget work_area = XmFileSelectionBoxGetChild(file_box, XmDIALOG_WORK_AREA)) put_last_in_tab_order(work_area);
+  put_last_in_tab_order(XmFileSelectionBoxGetChild(file_box, XmDIALOG_WORK_AREA));
   put_last_in_tab_order(XtNameToWidget(file_box, "Text"));
   put_last_in_tab_order(file_box);  // for its buttons
 }

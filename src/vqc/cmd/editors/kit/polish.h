@@ -3,8 +3,9 @@
 
 #include <Xm/Xm.h>
 
-/// Gives a dialog and all that it holds what the toolkit does not: the text cursor shows in the field that has the
-/// keyboard alone, and a button is at least as wide as its resource "minimumWidth" says.
+/// Gives a dialog or menu, and all that it holds, what the toolkit leaves rough. The text cursor shows in the field
+/// that has the keyboard alone. Buttons keep one size, at least as wide as their resource "minimumWidth" says; arrows
+/// are whole, shortcuts in menus not bold; Tab follows the columns of file boxes.
 void polish(Widget dialog);
 
 #endif

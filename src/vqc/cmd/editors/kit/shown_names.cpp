@@ -94,5 +94,7 @@ int list_position(Widget list, const Text& name) {
 }
 
 Text clicked_name(Widget list, const XmListCallbackStruct& call) {
-  return names_in(list)[static_cast<std::size_t>(call.item_position) - 1];
+  const std::vector<Text>& names = names_in(list);
+  const auto place = static_cast<std::size_t>(call.item_position);
+  return place >= 1 && place <= names.size() ? names[place - 1] : nullptr;
 }

@@ -10,6 +10,8 @@
 #include <unordered_map>
 #include <utility>
 
+#include "vqc/cmd/editors/kit/memory.h"
+
 namespace {
 
 constexpr XmTextPosition kNowhere = -1;
@@ -95,7 +97,7 @@ void text_changes(Widget field, XtPointer, XtPointer call) {
   } else if (XmGetFocusWidget(field) != field) {
     forget_typing(field);  // the toolkit fills it, with what the user has chosen elsewhere
   } else if (!taking_back) {
-    note(field, change);
+    guarded([&] { note(field, change); });
   }
 }
 
