@@ -9,39 +9,41 @@
 #include "vqc/cmd/editors/kit/placement.h"
 #include "vqc/cmd/editors/kit/window_memory.h"
 
-static void PrintTo(const Area& area, std::ostream* out) { *out << geometry_of(area); }
+static void PrintTo(const ScreenArea& area, std::ostream* out) { *out << geometry_of(area); }
 
 namespace {
 
-Area area_of(Window window) {
+ScreenArea area_of(Window window) {
   XWindowAttributes attributes{};
   XGetWindowAttributes(display, window, &attributes);
-  Area area{0, 0, attributes.width, attributes.height};
+  ScreenArea area{0, 0, attributes.width, attributes.height};
   Window child = None;
   XTranslateCoordinates(display, window, attributes.root, 0, 0, &area.x, &area.y, &child);
   return area;
 }
 
-Area inside(const std::string& shell) { return area_of(XtWindow(widget(shell))); }
-Area frame(Widget shell) { return area_of(frame_of(display, XtWindow(shell))); }
-Area frame(const std::string& shell) { return frame(widget(shell)); }
+ScreenArea inside(const std::string& shell) { return area_of(XtWindow(widget(shell))); }
+ScreenArea frame(Widget shell) { return area_of(frame_of(display, XtWindow(shell))); }
+ScreenArea frame(const std::string& shell) { return frame(widget(shell)); }
 
 /// The list of a window, with its bars.
-Area list_of(const std::string& box) { return area_of(XtWindow(XtParent(widget(box + "*ItemsList")))); }
+ScreenArea list_of(const std::string& box) { return area_of(XtWindow(XtParent(widget(box + "*ItemsList")))); }
 
-Area screen() { return {0, 0, DisplayWidth(display, 0), DisplayHeight(display, 0)}; }
-bool is_in(const Area& inner, const Area& outer) { return overlap(inner, outer) == long{inner.width} * inner.height; }
+ScreenArea screen() { return {0, 0, DisplayWidth(display, 0), DisplayHeight(display, 0)}; }
+bool is_in(const ScreenArea& inner, const ScreenArea& outer) {
+  return overlap(inner, outer) == long{inner.width} * inner.height;
+}
 
 /// Moves and resizes a window as the user does: not through the toolkit. (While he drags it, the window manager keeps
 /// the server from all others, this test among them.)
 void move(Widget shell, int by_x, int by_y) {
-  const Area around = frame(shell);
+  const ScreenArea around = frame(shell);
   XMoveWindow(display, XtWindow(shell), around.x + by_x, around.y + by_y);
   wait_for([&] { return frame(shell).x == around.x + by_x && frame(shell).y == around.y + by_y; });
   settle();
 }
 void resize(Widget shell, int by_x, int by_y) {
-  const Area before = area_of(XtWindow(shell));
+  const ScreenArea before = area_of(XtWindow(shell));
   XResizeWindow(display, XtWindow(shell), static_cast<unsigned>(before.width + by_x),
                 static_cast<unsigned>(before.height + by_y));
   wait_for([&] { return area_of(XtWindow(shell)) != before; });
@@ -100,8 +102,8 @@ TEST_F(Placement, OpensItOnTheOtherSideWhereThereIsRoom) {
 
 TEST_F(Placement, LeavesTitleAndListInSightWhereThereIsNoRoom) {
   open_widget();
-  const Area family = frame("entity_dialog");
-  const Area editor = frame("widgetedit_dialog");
+  const ScreenArea family = frame("entity_dialog");
+  const ScreenArea editor = frame("widgetedit_dialog");
   EXPECT_EQ(0, overlap(editor, {family.x, family.y, family.width, inside("entity_dialog").y - family.y}));
   EXPECT_EQ(0, overlap(editor, list_of("widgetlist_selection")));
   EXPECT_TRUE(is_in(editor, screen()));
@@ -130,8 +132,8 @@ TEST_F(Placement, OpensAMessageOverTheMainWindowWhenItsCauseHasGone) {
   click("open_fsb.OK");
   ASSERT_TRUE(is_shown("error_dialog"));
   EXPECT_FALSE(is_shown("open_dialog"));
-  const Area message = frame("error_dialog");
-  const Area main = frame(main_shell());
+  const ScreenArea message = frame("error_dialog");
+  const ScreenArea main = frame(main_shell());
   EXPECT_NEAR(main.x + main.width / 2, message.x + message.width / 2, 1);
 }
 
@@ -139,7 +141,7 @@ TEST_F(Placement, OpensAWindowAgainWhereItWasLeft) {
   start_with_family();
   open_family();
   move(widget("entity_dialog"), 130, 240);
-  const Area left = inside("entity_dialog");
+  const ScreenArea left = inside("entity_dialog");
   for (int time = 0; time < 3; ++time) {
     close("entity_dialog");
     open_family();
@@ -150,9 +152,9 @@ TEST_F(Placement, OpensAWindowAgainWhereItWasLeft) {
 TEST_F(Placement, OpensAWindowAgainAsLargeAsItWasLeft) {
   start_with_family();
   open_family();
-  const Area before = inside("entity_dialog");
+  const ScreenArea before = inside("entity_dialog");
   resize(widget("entity_dialog"), 80, 60);
-  const Area left = inside("entity_dialog");
+  const ScreenArea left = inside("entity_dialog");
   ASSERT_LT(before.width, left.width);
   for (int time = 0; time < 3; ++time) {
     close("entity_dialog");
@@ -181,9 +183,9 @@ TEST_F(Placement, KeepsMovedAndResizedWindowsBesideThoseOfOtherDisplays) {
   start_with_family();
   open_family();
   move(main_shell(), 30, 40);
-  const Area main = frame(main_shell());
+  const ScreenArea main = frame(main_shell());
   resize(widget("entity_dialog"), 50, 50);
-  const Area family = inside("entity_dialog");
+  const ScreenArea family = inside("entity_dialog");
   close("entity_dialog");
   keep_places();
   EXPECT_EQ("1600x1200 about_dialog +3+4\n1600x1200 entity_dialog " + std::to_string(family.width) + "x" +
@@ -196,7 +198,7 @@ TEST_F(Placement, KeepsMovedAndResizedWindowsBesideThoseOfOtherDisplays) {
 TEST_F(Placement, RecallsTheNextTime) {
   remember("1600x1200 main_window 600x500+200+300\n1600x1200 entity_dialog 700x600+850+120\n");
   start_with_family();
-  EXPECT_EQ((Area{200, 300, frame(main_shell()).width, frame(main_shell()).height}), frame(main_shell()));
+  EXPECT_EQ((ScreenArea{200, 300, frame(main_shell()).width, frame(main_shell()).height}), frame(main_shell()));
   EXPECT_EQ(600, area_of(XtWindow(main_shell())).width);
   EXPECT_EQ(500, area_of(XtWindow(main_shell())).height);
   open_family();

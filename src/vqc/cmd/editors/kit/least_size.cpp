@@ -88,7 +88,7 @@ int spare_height(Widget contents) {
 }
 
 /// The size that the contents ask for: a message has another one each time.
-Area asked_for(Widget contents) {
+ScreenArea asked_for(Widget contents) {
   if (XmIsMessageBox(contents)) {
     XtWidgetGeometry preferred{};
     XtQueryGeometry(contents, nullptr, &preferred);
@@ -111,10 +111,10 @@ void realize(Widget contents) {
 
 }  // namespace
 
-Area lay_out_contents(Widget contents) {
+ScreenArea lay_out_contents(Widget contents) {
   if (XtIsRealized(contents) && !XmIsMessageBox(contents)) return asked_for(contents);
   realize(contents);
-  const Area size = asked_for(contents);
+  const ScreenArea size = asked_for(contents);
   Screen* screen = XtScreen(contents);
   XtVaSetValues(XtParent(contents), XmNminWidth, std::min(size.width, XWidthOfScreen(screen)), XmNminHeight,
                 std::min(size.height - spare_height(contents), XHeightOfScreen(screen)), nullptr);

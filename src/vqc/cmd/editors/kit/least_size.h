@@ -3,10 +3,10 @@
 
 #include <Xm/Xm.h>
 
-#include "vqc/cmd/editors/kit/area.h"
+#include "vqc/cmd/editors/kit/screen_area.h"
 
 /// Lays out what a window holds before it is shown, and gives its shell the least size at which all buttons and fields
 /// can be used: lists may shrink to a few rows, nothing else may. Returns the size that the window has then.
-Area lay_out_contents(Widget contents);
+ScreenArea lay_out_contents(Widget contents);
 
 #endif

@@ -7,10 +7,10 @@
 
 namespace {
 
-Area area_of_window(Display* display, Window window) {
+ScreenArea area_on_root(Display* display, Window window) {
   XWindowAttributes attributes{};
   Window child = None;
-  Area area;
+  ScreenArea area;
   if (!XGetWindowAttributes(display, window, &attributes)) return area;
   XTranslateCoordinates(display, window, attributes.root, 0, 0, &area.x, &area.y, &child);
   area.width = attributes.width;
@@ -47,10 +47,10 @@ Widget list_in(Widget w) {
 
 }  // namespace
 
-Area screen_of(Widget w) { return {0, 0, XWidthOfScreen(XtScreen(w)), XHeightOfScreen(XtScreen(w))}; }
+ScreenArea screen_of(Widget w) { return {0, 0, XWidthOfScreen(XtScreen(w)), XHeightOfScreen(XtScreen(w))}; }
 
-Area free_screen(Widget w) {
-  const Area screen = screen_of(w);
+ScreenArea free_screen(Widget w) {
+  const ScreenArea screen = screen_of(w);
   Atom type = None;
   int format = 0;
   unsigned long count = 0;
@@ -61,15 +61,15 @@ Area free_screen(Widget w) {
   const std::unique_ptr<unsigned char, int (*)(void*)> owner(data, XFree);
   if (format != 32 || count != 4) return screen;
   const long* part = reinterpret_cast<const long*>(data);
-  const Area free = {static_cast<int>(part[0]), static_cast<int>(part[1]), static_cast<int>(part[2]),
-                     static_cast<int>(part[3])};
+  const ScreenArea free = {static_cast<int>(part[0]), static_cast<int>(part[1]), static_cast<int>(part[2]),
+                           static_cast<int>(part[3])};
   return overlap(free, screen) > 0 ? free : screen;
 }
 
-Area area_of(Widget w) { return area_of_window(XtDisplay(w), XtWindow(w)); }
+ScreenArea window_area(Widget w) { return area_on_root(XtDisplay(w), XtWindow(w)); }
 
-Area frame_of(Widget shell) {
-  return area_of_window(XtDisplay(shell), frame_window(XtDisplay(shell), XtWindow(shell)));
+ScreenArea frame_of(Widget shell) {
+  return area_on_root(XtDisplay(shell), frame_window(XtDisplay(shell), XtWindow(shell)));
 }
 
 bool is_shown(Widget w) {
@@ -79,8 +79,8 @@ bool is_shown(Widget w) {
 }
 
 Neighbour neighbour(Widget shell) {
-  const Area frame = frame_of(shell);
-  const Area inside = area_of(shell);
+  const ScreenArea frame = frame_of(shell);
+  const ScreenArea inside = window_area(shell);
   Widget list = list_in(shell);
-  return {frame, {frame.x, frame.y, frame.width, inside.y - frame.y}, list ? area_of(list) : Area{}};
+  return {frame, {frame.x, frame.y, frame.width, inside.y - frame.y}, list ? window_area(list) : ScreenArea{}};
 }

@@ -8,15 +8,15 @@
 // Where windows are on the screen, as the server knows it.
 
 /// The screen that a widget is on, and the part of it that panels leave free.
-Area screen_of(Widget w);
-Area free_screen(Widget w);
+ScreenArea screen_of(Widget w);
+ScreenArea free_screen(Widget w);
 
 /// Whether the window of a widget, which may be null, can be seen.
 bool is_shown(Widget w);
 
 /// Where the window of a widget is, and the frame that the window manager has put around a shell.
-Area area_of(Widget w);
-Area frame_of(Widget shell);
+ScreenArea window_area(Widget w);
+ScreenArea frame_of(Widget shell);
 
 /// A shell with its title and its list.
 Neighbour neighbour(Widget shell);

@@ -23,9 +23,9 @@ struct Placed {
   Widget shell;
   Widget owner = nullptr;  // in which the user acted when it opened
   bool kept = true;
-  std::optional<Area> asked = std::nullopt;
-  Area came_up = {};
-  Area now = {};
+  std::optional<ScreenArea> asked = std::nullopt;
+  ScreenArea came_up = {};
+  ScreenArea now = {};
 };
 
 struct Placement {
@@ -56,8 +56,8 @@ void remember(Placed& window) {
   const bool moved = window.now.x != window.came_up.x || window.now.y != window.came_up.y;
   const bool resized = window.now.width != window.came_up.width || window.now.height != window.came_up.height;
   if (!window.kept || !window.asked || (!moved && !resized)) return;
-  Area& remembered = memory_for(window.shell)[name_of(window.shell)];
-  const Area size = resized ? window.now : remembered;
+  ScreenArea& remembered = memory_for(window.shell)[name_of(window.shell)];
+  const ScreenArea size = resized ? window.now : remembered;
   remembered = {window.asked->x + window.now.x - window.came_up.x, window.asked->y + window.now.y - window.came_up.y,
                 size.width, size.height};
   window.asked = remembered;
@@ -67,14 +67,14 @@ void remember(Placed& window) {
 
 /// A window that no place was asked for is where its frame is.
 void has_come_up(Placed& window) {
-  window.came_up = window.now = area_of(window.shell);
+  window.came_up = window.now = window_area(window.shell);
   if (!window.asked) window.asked = frame_of(window.shell);
 }
 
 void watch(Widget shell, XtPointer data, XEvent* event, Boolean*) {
   Placed& window = *static_cast<Placed*>(data);
   if (event->type == MapNotify) has_come_up(window);
-  if (event->type == ConfigureNotify && is_shown(shell)) window.now = area_of(shell);
+  if (event->type == ConfigureNotify && is_shown(shell)) window.now = window_area(shell);
   if (event->type == UnmapNotify) guarded([&] { remember(window); });
 }
 
@@ -106,8 +106,8 @@ Widget owner_of(Widget shell) {
   return owner ? owner : XtParent(shell);
 }
 
-std::vector<Area> others_shown(Widget shell, Widget owner) {
-  std::vector<Area> areas;
+std::vector<ScreenArea> others_shown(Widget shell, Widget owner) {
+  std::vector<ScreenArea> areas;
   for (const auto& window : placement().windows) {
     const bool other = window->shell != shell && window->shell != owner;
     if (other && is_shown(window->shell)) areas.push_back(frame_of(window->shell));
@@ -116,36 +116,36 @@ std::vector<Area> others_shown(Widget shell, Widget owner) {
 }
 
 /// Where a window of that size inside opens by its owner. Its frame will be as thick as the owner's.
-Area chosen(Widget shell, Area size, Place place) {
+ScreenArea chosen(Widget shell, ScreenArea size, Place place) {
   Widget owner = owner_of(shell);
   placed(shell).owner = owner;
-  const Area screen = free_screen(shell);
+  const ScreenArea screen = free_screen(shell);
   if (!is_shown(owner)) return area_over(size, screen, screen);
   const Neighbour beside = neighbour(owner);
-  const Area inside = area_of(owner);
-  const Area frame = {0, 0, size.width + beside.frame.width - inside.width,
-                      size.height + beside.frame.height - inside.height};
-  const Area where = place == Place::over ? area_over(frame, beside.frame, screen)
-                                          : area_beside(frame, beside, others_shown(shell, owner), screen);
+  const ScreenArea inside = window_area(owner);
+  const ScreenArea frame = {0, 0, size.width + beside.frame.width - inside.width,
+                            size.height + beside.frame.height - inside.height};
+  const ScreenArea where = place == Place::over ? area_over(frame, beside.frame, screen)
+                                                : area_beside(frame, beside, others_shown(shell, owner), screen);
   return {where.x, where.y, size.width, size.height};
 }
 
 /// What is remembered of a window; null when nothing is.
-const Area* remembered(Widget shell) {
+const ScreenArea* remembered(Widget shell) {
   const auto found = memory_for(shell).find(name_of(shell));
   return found == memory_for(shell).end() ? nullptr : &found->second;
 }
 
 /// The size that a window opens with, which the screen has room for.
-Area opening_size(Widget contents, const Area* remembered_area) {
-  Area size = lay_out_contents(contents);
+ScreenArea opening_size(Widget contents, const ScreenArea* remembered_area) {
+  ScreenArea size = lay_out_contents(contents);
   if (remembered_area && remembered_area->width > 0) size = *remembered_area;
-  const Area screen = free_screen(contents);
+  const ScreenArea screen = free_screen(contents);
   return {0, 0, std::min(size.width, screen.width), std::min(size.height, screen.height)};
 }
 
 /// Asks for a place in the one way in which window managers believe that a user wants it.
-void ask_for_place(Widget main_shell, const Area& area) {
+void ask_for_place(Widget main_shell, const ScreenArea& area) {
   static std::string geometry;  // the shell keeps its address
   geometry = geometry_of(area);
   XtVaSetValues(main_shell, XmNgeometry, geometry.c_str(), nullptr);
@@ -163,9 +163,9 @@ void place_dialog(Widget contents, Place place) {
   Widget shell = XtParent(contents);
   Placed& window = placed(shell);
   window.kept = !XmIsMessageBox(contents);
-  const Area* left = window.kept ? remembered(shell) : nullptr;
-  const Area size = opening_size(contents, left);
-  const Area area = chosen(shell, size, place);
+  const ScreenArea* left = window.kept ? remembered(shell) : nullptr;
+  const ScreenArea size = opening_size(contents, left);
+  const ScreenArea area = chosen(shell, size, place);
   window.asked = left ? *left : area;
   XtVaSetValues(contents, XmNdefaultPosition, False, XmNwidth, size.width, XmNheight, size.height, nullptr);
   XtVaSetValues(shell, XmNx, window.asked->x, XmNy, window.asked->y, nullptr);
@@ -174,7 +174,7 @@ void place_dialog(Widget contents, Place place) {
 
 void show_main_window(Widget shell, Widget contents) {
   Placed& window = placed(shell);
-  const Area* left = remembered(shell);
+  const ScreenArea* left = remembered(shell);
   if (left && !has_geometry(shell)) {
     window.asked = *left;
     ask_for_place(shell, *left);

@@ -15,7 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 /// By size of the display, and name.
-using Lines = std::map<std::pair<std::string, std::string>, Area>;
+using Lines = std::map<std::pair<std::string, std::string>, ScreenArea>;
 
 /// The file; empty when the user has no folder for it.
 fs::path memory_file() {
@@ -25,10 +25,10 @@ fs::path memory_file() {
   return home && *home == '/' ? fs::path(home) / ".local/state/vqconfig/windows" : fs::path();
 }
 
-std::string size_of(const Area& area) { return std::to_string(area.width) + "x" + std::to_string(area.height); }
+std::string size_of(const ScreenArea& area) { return std::to_string(area.width) + "x" + std::to_string(area.height); }
 
-std::optional<Area> area_of(const std::string& geometry) {
-  Area area;
+std::optional<ScreenArea> area_of(const std::string& geometry) {
+  ScreenArea area;
   unsigned width = 0;
   unsigned height = 0;
   const int found = XParseGeometry(geometry.c_str(), &area.x, &area.y, &width, &height);
@@ -39,10 +39,10 @@ std::optional<Area> area_of(const std::string& geometry) {
 }
 
 /// Whether a window can be there: no larger than the screen, and with enough of its title on it to be moved by.
-bool makes_sense(const Area& area, const Area& screen) {
+bool makes_sense(const ScreenArea& area, const ScreenArea& screen) {
   constexpr int kTitle = 20;
   const bool fits = area.width >= 0 && area.height >= 0 && area.width <= screen.width && area.height <= screen.height;
-  const Area title_part{area.x, area.y, std::max(area.width, kTitle), kTitle};
+  const ScreenArea title_part{area.x, area.y, std::max(area.width, kTitle), kTitle};
   return fits && area.y >= screen.y && overlap(title_part, screen) >= long{kTitle} * kTitle;
 }
 
@@ -55,7 +55,7 @@ Lines read_lines() {
     std::string name;
     std::string geometry;
     if (!(words >> screen >> name >> geometry)) continue;
-    if (const std::optional<Area> area = area_of(geometry)) lines[{screen, name}] = *area;
+    if (const std::optional<ScreenArea> area = area_of(geometry)) lines[{screen, name}] = *area;
   }
   return lines;
 }
@@ -68,11 +68,11 @@ bool write_lines(const fs::path& path, const Lines& lines) {
 
 }  // namespace
 
-std::string geometry_of(const Area& area) {
+std::string geometry_of(const ScreenArea& area) {
   return (area.width > 0 ? size_of(area) : "") + "+" + std::to_string(area.x) + "+" + std::to_string(area.y);
 }
 
-WindowMemory recalled_windows(const Area& screen) {
+WindowMemory recalled_windows(const ScreenArea& screen) {
   WindowMemory windows;
   for (const auto& [key, area] : read_lines()) {
     if (key.first == size_of(screen) && makes_sense(area, screen)) windows[key.second] = area;
@@ -80,7 +80,7 @@ WindowMemory recalled_windows(const Area& screen) {
   return windows;
 }
 
-void keep_windows(const Area& screen, const WindowMemory& windows) {
+void keep_windows(const ScreenArea& screen, const WindowMemory& windows) {
   const fs::path path = memory_file();
   if (path.empty() || windows.empty()) return;
   Lines lines = read_lines();
