@@ -6,7 +6,6 @@
 #include "gui/looks.h"
 #include "gui/pixels.h"
 #include "gui/session.h"
-#include "vqc/cmd/application/session.h"
 
 #include <Xm/CutPaste.h>
 

@@ -234,10 +234,47 @@ TEST_F(Placement, IgnoresWhatMakesNoSense) {
        {"1600x1200 entity_dialog +1600+0\n", "1600x1200 entity_dialog +0+1199\n", "1600x1200 entity_dialog +0+-300\n",
         "1600x1200 entity_dialog 9000x10+0+0\n", "1600x1200 entity_dialog 480x495\n", "1600x1200 entity_dialog\n",
         "1600x1200 entity_dialog 99999999999999x5+1+1\n", "640x480 entity_dialog +1+1\n", "\n\n", "nonsense",
-        "\0\xFF"}) {
+        "\xFF\xFE"}) {
     remember(lines);
     EXPECT_EQ(WindowMemory{}, recalled_windows({0, 0, 1600, 1200})) << lines;
   }
+}
+
+TEST_F(Placement, OpensNoWindowSmallerThanItsLeastSize) {
+  remember("1600x1200 entity_dialog 1x1+100+100\n");
+  start();
+  add_family("F");
+  open_family();
+  int least_width = 0;
+  int least_height = 0;
+  XtVaGetValues(widget("entity_dialog"), XmNminWidth, &least_width, XmNminHeight, &least_height, nullptr);
+  EXPECT_EQ(least_width, inside("entity_dialog").width);
+  EXPECT_EQ(least_height, inside("entity_dialog").height);
+}
+
+TEST_F(Placement, RecallsALargeMainWindowAndItsLeastSize) {
+  remember("1600x1200 main_window 900x800+20+20\n");
+  start();
+  settle();
+  EXPECT_EQ(900, area_of(XtWindow(main_shell())).width);
+  EXPECT_EQ(800, area_of(XtWindow(main_shell())).height);
+  int least_width = 0;
+  XtVaGetValues(main_shell(), XmNminWidth, &least_width, nullptr);
+  EXPECT_GT(900, least_width);
+}
+
+TEST_F(Placement, EndsWhereWindowsHaveOpenedEachOther) {
+  start();
+  key("ctrl+o");
+  ASSERT_TRUE(has_keyboard("open_dialog"));
+  key("ctrl+s");
+  ASSERT_TRUE(has_keyboard("save_dialog"));
+  press("open_fsb.Cancel");
+  key("ctrl+o");
+  ASSERT_TRUE(has_keyboard("open_dialog"));
+  press("open_fsb.Cancel");
+  choose_file("save_fsb", folder / "missing/a.vqc");
+  EXPECT_NE("", error_shown());
 }
 
 TEST_F(Placement, SaysNothingWhenItCannotKeepAnything) {

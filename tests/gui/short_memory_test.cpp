@@ -67,6 +67,18 @@ TEST_F(ShortOfMemory, AnActionIsDropped) {
   EXPECT_EQ((Items{"Dials", "Gauges"}), items("family_selection"));
 }
 
+TEST_F(ShortOfMemory, TypingAndTakingBackGoOn) {
+  click("family_selection.Text");
+  enter("family_selection", std::string(2000, 'n'));
+  {
+    const ShortMemory memory(1500);
+    type("a");
+    key("ctrl+z");
+  }
+  EXPECT_FALSE(exit_status);
+  EXPECT_NE("", error_shown());
+}
+
 TEST_F(ShortOfMemory, TheSameOpensWhenThereIsMemoryAgain) {
   {
     const ShortMemory memory(kKilobyte * kKilobyte);

@@ -172,6 +172,17 @@ TEST_F(NoResourceFile, EditingGoesOn) {
   EXPECT_NE("", saved_item("family 'New'"));
 }
 
+TEST_F(NoResourceFile, EveryFileBoxOpens) {
+  start();
+  for (const auto& [item, box] : {std::pair("family_openb", "open_fsb"), std::pair("family_readb", "read_fsb"),
+                                  std::pair("family_saveasb", "save_fsb"), std::pair("family_genconfigb", "gen_fsb")}) {
+    press(item);
+    const std::string shell = XtName(shell_of(widget(box)));
+    EXPECT_TRUE(is_shown(shell)) << box;
+    press(std::string(box) + ".Cancel");
+  }
+}
+
 TEST_F(NoResourceFile, TheAboutBoxHasItsTitleAndTheVersion) {
   start();
   press("family_helpaboutb");

@@ -106,6 +106,14 @@ Widget owner_of(Widget shell) {
   return owner ? owner : XtParent(shell);
 }
 
+/// No window is, by way of others, its own owner.
+void set_owner(Widget shell, Widget owner) {
+  for (Widget w = owner; w; w = placed(w).owner) {
+    if (placed(w).owner == shell) placed(w).owner = nullptr;
+  }
+  placed(shell).owner = owner;
+}
+
 std::vector<ScreenArea> others_shown(Widget shell, Widget owner) {
   std::vector<ScreenArea> areas;
   for (const auto& window : placement().windows) {
@@ -118,7 +126,7 @@ std::vector<ScreenArea> others_shown(Widget shell, Widget owner) {
 /// Where a window of that size inside opens by its owner. Its frame will be as thick as the owner's.
 ScreenArea chosen(Widget shell, ScreenArea size, Place place) {
   Widget owner = owner_of(shell);
-  placed(shell).owner = owner;
+  set_owner(shell, owner);
   const ScreenArea screen = free_screen(shell);
   if (!is_shown(owner)) return area_over(size, screen, screen);
   const Neighbour beside = neighbour(owner);
@@ -136,18 +144,22 @@ const ScreenArea* remembered(Widget shell) {
   return found == memory_for(shell).end() ? nullptr : &found->second;
 }
 
-/// The size that a window opens with, which the screen has room for.
+/// The size that a window opens with: no less than its least one, and what the screen has room for.
 ScreenArea opening_size(Widget contents, const ScreenArea* remembered_area) {
   ScreenArea size = lay_out_contents(contents);
   if (remembered_area && remembered_area->width > 0) size = *remembered_area;
+  int least_width = 0;
+  int least_height = 0;
+  XtVaGetValues(XtParent(contents), XmNminWidth, &least_width, XmNminHeight, &least_height, nullptr);
   const ScreenArea screen = free_screen(contents);
-  return {0, 0, std::min(size.width, screen.width), std::min(size.height, screen.height)};
+  return {0, 0, std::min(std::max(size.width, least_width), screen.width),
+          std::min(std::max(size.height, least_height), screen.height)};
 }
 
 /// Asks for a place in the one way in which window managers believe that a user wants it.
 void ask_for_place(Widget main_shell, const ScreenArea& area) {
   static std::string geometry;  // the shell keeps its address
-  geometry = geometry_of(area);
+  geometry = geometry_of({area.x, area.y, 0, 0});
   XtVaSetValues(main_shell, XmNgeometry, geometry.c_str(), nullptr);
 }
 
@@ -174,12 +186,13 @@ void place_dialog(Widget contents, Place place) {
 
 void show_main_window(Widget shell, Widget contents) {
   Placed& window = placed(shell);
-  const ScreenArea* left = remembered(shell);
-  if (left && !has_geometry(shell)) {
+  const ScreenArea* left = has_geometry(shell) ? nullptr : remembered(shell);
+  if (left) {
     window.asked = *left;
     ask_for_place(shell, *left);
   }
-  lay_out_contents(contents);
+  const ScreenArea size = opening_size(contents, left);
+  if (left) XtVaSetValues(shell, XmNwidth, size.width, XmNheight, size.height, nullptr);
   XtMapWidget(shell);
 }
 
