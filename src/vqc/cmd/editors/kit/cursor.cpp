@@ -3,6 +3,8 @@
 #include <X11/cursorfont.h>
 #include <Xm/Gadget.h>
 
+#include "vqc/cmd/editors/kit/dialog.h"
+
 namespace {
 
 constexpr unsigned kLastShape = 154;
@@ -15,7 +17,7 @@ struct ShapedCursor {
 
 int show_cursor(Widget w, ShapedCursor& shaped) {
   if (!w || XmIsGadget(w)) return 0;
-  while (w && !XtIsShell(w)) w = XtParent(w);
+  w = shell_around(w);
   if (!w || !XtDisplay(w) || !XtWindow(w)) return 0;
   if (shaped.cursor == None && shaped.shape <= kLastShape)
     shaped.cursor = XCreateFontCursor(XtDisplay(w), shaped.shape);

@@ -133,11 +133,6 @@ void press_default_button(Widget, XtPointer box, XtPointer call) {
   XtCallCallbacks(button, XmNactivateCallback, &press);
 }
 
-Widget shell_of(Widget contents) {
-  while (!XtIsShell(contents)) contents = XtParent(contents);
-  return contents;
-}
-
 }  // namespace
 
 Widget found(Widget parent, char* name, ArgList, Cardinal) { return XtNameToWidget(parent, name); }
@@ -194,6 +189,11 @@ Widget create_radio_menu(Widget parent, char* name, ArgList, Cardinal) {
   return XmCreatePulldownMenu(parent, name, radio, XtNumber(radio));
 }
 
+Widget shell_around(Widget w) {
+  while (w && !XtIsShell(w)) w = XtParent(w);
+  return w;
+}
+
 void add_callback(Widget w, const char* list, XtCallbackProc procedure, const void* data) {
   XtAddCallback(w, list, GuardedCallback::call, guarded_callback(w, procedure, data));
 }
@@ -232,7 +232,7 @@ void delete_dialog(Widget* record) {
 void show_dialog(Widget contents, Place place) {
   if (!XtIsManaged(contents)) place_dialog(contents, place);
   XtManageChild(contents);
-  Widget shell = shell_of(contents);
+  Widget shell = shell_around(contents);
   if (XtIsRealized(shell)) XMapRaised(XtDisplay(shell), XtWindow(shell));
 }
 

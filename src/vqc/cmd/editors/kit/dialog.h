@@ -63,6 +63,9 @@ Widget create_plain_box(Widget parent, char* name, ArgList, Cardinal);
 /// A pulldown menu of toggles of which one is set.
 Widget create_radio_menu(Widget parent, char* name, ArgList, Cardinal);
 
+/// The innermost shell that a widget is in, or is; null for none.
+Widget shell_around(Widget w);
+
 /// Adds a callback that survives a shortage of memory. `data` must outlive the widget.
 void add_callback(Widget w, const char* list, XtCallbackProc procedure, const void* data);
 

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/memory.h"
 #include "vqc/cmd/editors/kit/modal.h"
 #include "vqc/cmd/editors/kit/undo.h"
@@ -92,9 +93,7 @@ bool act(Widget shell, char letter, XEvent* event) {
 
 /// The window that a key is pressed in; null while a menu has the keyboard.
 Widget window_of(const XKeyEvent& key) {
-  Widget w = menus_up == 0 ? XtWindowToWidget(key.display, key.window) : nullptr;
-  while (w && !XtIsShell(w)) w = XtParent(w);
-  return w;
+  return menus_up == 0 ? shell_around(XtWindowToWidget(key.display, key.window)) : nullptr;
 }
 
 Boolean dispatch_key(XEvent* event) {
