@@ -69,7 +69,12 @@ TEST_F(Program, OpensItsWindowWhereItWasLeftTheLastTime) {
     RunningProgram program({folder.with("athena.vqc", athena)}, screen.name());
     const Window window = screen.wait_for_window("vqconfig: athena.vqc");
     ASSERT_NE(0u, window);
-    if (session == 0) screen.move(window, 123, 234);
+    if (session == 0) {
+      screen.focus("vqconfig: athena.vqc");
+      screen.key("s", true);  // once it answers, it has seen its window come up
+      ASSERT_TRUE(wait_until_true([&] { return read_file(folder / "athena.vqc") != athena; }));
+      screen.move(window, 123, 234);
+    }
     EXPECT_EQ(std::pair(123, 234), screen.corner(window)) << session;
     screen.close(window);
     EXPECT_EQ(0, program.wait());
