@@ -65,8 +65,7 @@ void lighten_shortcut(Widget item) {
   const Text text = text_of(shortcut);
   XmStringFree(shortcut);
   if (text.empty()) return;
-  auto* characters = const_cast<char*>(text.c_str());
-  XmString lighter = XmStringGenerate(characters, nullptr, XmMULTIBYTE_TEXT, const_cast<char*>("shortcut"));
+  XmString lighter = XmStringCreate(const_cast<char*>(text.c_str()), const_cast<char*>("shortcut"));
   XtVaSetValues(item, XmNacceleratorText, lighter, nullptr);
   XmStringFree(lighter);
 }
