@@ -25,7 +25,8 @@ void choose_menu(const std::string& cascade, const std::string& item);
 void type(std::string_view text);
 /// Presses a key, such as "Return" or "ctrl+shift+s".
 void key(const std::string& combination);
-/// Presses the keys of these letters with a modifier held, such as "ctrl" or "ctrl+shift".
+/// Presses the keys of these letters with a modifier held, such as "ctrl" or "ctrl+shift". Motif forgets some memory
+/// for each that a field refuses.
 void type_with(const std::string& modifiers, std::string_view letters);
 /// Gives a window the keyboard, as a click on its frame does.
 void turn_to(Widget shell);

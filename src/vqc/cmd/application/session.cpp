@@ -2,6 +2,7 @@
 
 #include <Xm/Xm.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <string>
 
@@ -94,6 +95,7 @@ const char* open_display(int* argc, char** argv) {
 
 bool start_session(int argc, char** argv) {
   survive_short_memory();
+  std::signal(SIGPIPE, SIG_IGN);  // writing to a display that is lost is to end with Xlib's message
   register_converters();
   use_keys(display, file_command_keys());
   describe_windows(display);

@@ -1,10 +1,9 @@
 #ifndef VQC_CMD_GENERATE_NAME_SET_H
 #define VQC_CMD_GENERATE_NAME_SET_H
 
-#include <absl/container/flat_hash_set.h>
-
 #include <cstddef>
 
+#include "libkel/hash_set.h"
 #include "libkel/text.h"
 
 /// Names that have been dealt with.
@@ -12,14 +11,14 @@ class NameSet {
  public:
   void insert(const Text& name) { names_.insert(name); }
   /// True for a name that is not empty and was not there.
-  bool add(const Text& name) { return !name.empty() && names_.insert(name).second; }
+  bool add(const Text& name) { return !name.empty() && names_.insert(name); }
   bool contains(const Text& name) const { return names_.contains(name); }
 
  private:
   struct Hash {
     std::size_t operator()(const Text& name) const { return name.hash(); }
   };
-  absl::flat_hash_set<Text, Hash> names_;
+  HashSet<Text, Hash> names_;
 };
 
 #endif

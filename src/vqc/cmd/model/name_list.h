@@ -1,8 +1,6 @@
 #ifndef VQC_CMD_MODEL_NAME_LIST_H
 #define VQC_CMD_MODEL_NAME_LIST_H
 
-#include <absl/container/flat_hash_set.h>
-
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -11,6 +9,7 @@
 #include <new>
 #include <vector>
 
+#include "libkel/hash_set.h"
 #include "libkel/text.h"
 #include "vqc/cmd/model/name_of.h"
 #include "vqc/cmd/model/sort_by_name.h"
@@ -150,7 +149,7 @@ class NameList {
   /// The elements by name. Names that are looked for recur soon, and so what was found last is kept at hand.
   class Index {
    public:
-    explicit Index(std::size_t size) { all_.reserve(size); }
+    explicit Index(std::size_t size) : all_(size) {}
     void insert(Element* element) { all_.insert(element); }
     void erase(Element* element) {
       all_.erase(element);
@@ -159,14 +158,14 @@ class NameList {
     Element* find(const Text& name) {
       Element*& recent_one = recent(name);
       if (recent_one && name_of(*recent_one) == name) return recent_one;
-      const auto found = all_.find(name);
-      return found == all_.end() ? nullptr : recent_one = *found;
+      Element* const* found = all_.find(name);
+      return found ? recent_one = *found : nullptr;
     }
 
    private:
     Element*& recent(const Text& name) { return recent_[name.hash() % recent_.size()]; }
 
-    absl::flat_hash_set<Element*, Hash, Equal> all_;
+    HashSet<Element*, Hash, Equal> all_;
     std::array<Element*, 16> recent_{};
   };
 
@@ -203,12 +202,14 @@ class NameList {
     return index_->find(name);
   }
 
-  /// Where memory is short there is no index until there is memory for one.
+  /// Where memory is short, which is thrown, the list has the element all the same, and an index again when it needs
+  /// one.
   void into_index(Element* element) {
     try {
       index_->insert(element);
     } catch (const std::bad_alloc&) {
       index_.reset();
+      throw;
     }
   }
 

@@ -27,11 +27,9 @@ Text text_of(XmString string) {
       mapping("\n", XmStringSeparatorCreate()),
       mapping("\t", XmStringComponentCreate(XmSTRING_COMPONENT_TAB, 0, nullptr)),
   };
-  auto* plain = static_cast<char*>(
-      XmStringUnparse(string, nullptr, XmCHARSET_TEXT, XmCHARSET_TEXT, characters, XtNumber(characters), XmOUTPUT_ALL));
-  Text text = plain;
-  XtFree(plain);
-  return text;
+  const ToolkitCharacters plain(static_cast<char*>(XmStringUnparse(string, nullptr, XmCHARSET_TEXT, XmCHARSET_TEXT,
+                                                                   characters, XtNumber(characters), XmOUTPUT_ALL)));
+  return plain.get();
 }
 
 std::string displayable(const Text& whole) {

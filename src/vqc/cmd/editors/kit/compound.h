@@ -3,10 +3,17 @@
 
 #include <Xm/Xm.h>
 
+#include <memory>
 #include <string>
 #include <utility>
 
 #include "libkel/text.h"
+
+/// Characters that the toolkit has allocated, and now are one's own.
+struct FreedByToolkit {
+  void operator()(char* characters) const { XtFree(characters); }
+};
+using ToolkitCharacters = std::unique_ptr<char, FreedByToolkit>;
 
 /// A compound string of one's own.
 class CompoundString {

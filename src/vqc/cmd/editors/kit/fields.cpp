@@ -43,10 +43,8 @@ void remember(Widget w, Given given) {
 }
 
 Text shown_text(Widget w) {
-  char* characters = XtIsSubclass(w, xmTextFieldWidgetClass) ? XmTextFieldGetString(w) : XmTextGetString(w);
-  Text text = characters;
-  XtFree(characters);
-  return text;
+  const bool is_field = XtIsSubclass(w, xmTextFieldWidgetClass);
+  return ToolkitCharacters(is_field ? XmTextFieldGetString(w) : XmTextGetString(w)).get();
 }
 
 void select_text(Widget field, XtPointer, XtPointer) {

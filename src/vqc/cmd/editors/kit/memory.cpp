@@ -10,6 +10,11 @@ namespace {
 constexpr std::size_t kReserve = std::size_t{1024} * 1024;  // a message box takes a part of it
 
 std::unique_ptr<char[]> reserve;
+int depth = 0;
+
+void keep_reserve() {
+  if (!reserve) reserve.reset(new (std::nothrow) char[kReserve]);
+}
 
 /// Does not let the allocation try again: what is being done could use up the reserve.
 [[noreturn]] void run_short() {
@@ -24,8 +29,15 @@ void survive_short_memory() {
   keep_reserve();
 }
 
-void keep_reserve() {
-  if (!reserve) reserve.reset(new (std::nothrow) char[kReserve]);
+void report_short_memory() {
+  try {
+    error_show("out_of_memory");
+  } catch (const std::bad_alloc&) {  // NOLINT(bugprone-empty-catch): not even for this is there any
+  }
 }
 
-void report_short_memory() { error_show("out_of_memory"); }
+Guard::Guard() {
+  if (depth++ == 0) keep_reserve();
+}
+
+Guard::~Guard() { --depth; }

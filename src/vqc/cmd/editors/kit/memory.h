@@ -9,15 +9,23 @@
 /// From now on an allocation that fails throws std::bad_alloc.
 void survive_short_memory();
 
-/// Sets memory aside again, if it has been used.
-void keep_reserve();
 /// Tells the user that memory is short.
 void report_short_memory();
+
+/// For as long as something is done. Before the outermost of what is done within each other, memory that has been used
+/// is set aside again.
+class Guard {
+ public:
+  Guard();
+  Guard(const Guard&) = delete;
+  Guard& operator=(const Guard&) = delete;
+  ~Guard();
+};
 
 /// Does `work`; when memory runs out, drops the rest of it and says so. Nothing may be thrown into the toolkit.
 template <class Work>
 void guarded(Work work) {
-  keep_reserve();
+  const Guard guard;
   try {
     work();
   } catch (const std::bad_alloc&) {

@@ -10,6 +10,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/memory.h"
 
 namespace {
@@ -32,10 +33,8 @@ std::unordered_map<Widget, Run>& runs() {
 bool taking_back = false;
 
 std::string text_in(Widget field) {
-  char* characters = XmIsTextField(field) ? XmTextFieldGetString(field) : XmTextGetString(field);
-  std::string text = characters ? characters : "";
-  XtFree(characters);
-  return text;
+  const ToolkitCharacters characters(XmIsTextField(field) ? XmTextFieldGetString(field) : XmTextGetString(field));
+  return characters ? characters.get() : "";
 }
 
 XmTextPosition length_of(Widget field) {
