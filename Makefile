@@ -6,7 +6,7 @@ FUZZ_SECONDS ?= 60
 
 RELEASE = build/release
 JOBS = --parallel $(shell nproc)
-JOBS_ON_DISPLAY = --parallel $(shell echo $$((2 * $$(nproc))))  # they wait half of the time
+JOBS_ON_DISPLAY = --parallel $(shell echo $$((3 * $$(nproc))))  # they wait half of the time
 SOURCES = git ls-files '*.cpp' '*.h'
 
 .PHONY: all run test check bench fuzz screenshots install format lint clean

@@ -102,7 +102,7 @@ Boolean dispatch_key(XEvent* event) {
   Widget shell = letter ? window_of(key) : nullptr;
   bool done = false;
   if (shell) guarded([&] { done = act(shell, letter, event); });
-  return done || usual_dispatch(event);
+  return done ? True : usual_dispatch(event);
 }
 
 void menu_is_up(Widget, XtPointer, XtPointer) { ++menus_up; }
