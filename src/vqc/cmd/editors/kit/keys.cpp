@@ -102,7 +102,8 @@ Boolean dispatch_key(XEvent* event) {
   Widget shell = letter ? window_of(key) : nullptr;
   bool done = false;
   if (shell) guarded([&] { done = act(shell, letter, event); });
-  return done ? True : usual_dispatch(event);
+  if (done) return True;
+  return usual_dispatch(event);
 }
 
 void menu_is_up(Widget, XtPointer, XtPointer) { ++menus_up; }
