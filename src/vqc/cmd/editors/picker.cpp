@@ -3,6 +3,7 @@
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/generate/name_set.h"
 #include "vqc/cmd/model/builtin.h"
 
 Text Picker::name() const { return gettextf(editor.name_field()); }
@@ -11,10 +12,12 @@ namespace {
 
 /// Where the list, which lacks what has been removed, has a name that is new to it: it has the order of the document.
 int place_in_list(const ListEditor& editor, const Text& name) {
+  NameSet shown;
+  for (const Text& each : list_names(editor.list())) shown.insert(each);
   int place = 1;
   for (const Text& other : editor.names.names()) {
     if (other == name) break;
-    if (list_position(editor.list(), other) != 0) ++place;
+    if (shown.contains(other)) ++place;
   }
   return place;
 }
