@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace help;
+
 namespace {
 
 TEST(History, BeginsNowhere) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace help;
+
 namespace {
 
 /// The pieces, tags in brackets as they are, comments as "#", texts in bars.

@@ -2,13 +2,15 @@
 
 #include <gtest/gtest.h>
 
+using namespace help;
+
 namespace {
 
 using Strings = std::vector<std::string>;
 
 /// What stands in the body of the page that the widget is given for such a body.
 std::string body(const std::string& source) {
-  const std::string html = page_of("<html><body>" + source).value().html;
+  const std::string html = read_page("<html><body>" + source).value().html;
   const std::string begin = "<html><head><title></title></head><body>";
   const std::string end = "</body></html>";
   EXPECT_TRUE(html.starts_with(begin) && html.ends_with(end)) << html;
@@ -16,19 +18,19 @@ std::string body(const std::string& source) {
 }
 
 TEST(Page, HasATitle) {
-  EXPECT_EQ("Gr\u00F6\u00DFe & Ort", page_of("<title>\n Gr&ouml;&szlig;e\n &amp;  Ort </title>").value().title);
-  EXPECT_EQ("", page_of("<html>x").value().title);
+  EXPECT_EQ("Gr\u00F6\u00DFe & Ort", read_page("<title>\n Gr&ouml;&szlig;e\n &amp;  Ort </title>").value().title);
+  EXPECT_EQ("", read_page("<html>x").value().title);
 }
 
 TEST(Page, IsHtml) {
   for (const char* text : {"<!DOCTYPE html>x", "<HTML>", "<title>x</title>", "<!-- x --><body bgcolor=white>"}) {
-    EXPECT_TRUE(page_of(text)) << text;
+    EXPECT_TRUE(read_page(text)) << text;
   }
   for (const std::string& text :
        {std::string(), std::string("words"), std::string("#include <stdio.h>\n"), std::string("<html>\0", 7),
         std::string("\x7F"
                     "ELF")}) {
-    EXPECT_FALSE(page_of(text)) << text;
+    EXPECT_FALSE(read_page(text)) << text;
   }
 }
 
@@ -51,7 +53,7 @@ TEST(Page, LeavesOutWhatTheWidgetDoesNotShow) {
 TEST(Page, HasWordsForPictures) { EXPECT_EQ("a &lt;x&gt;b", body("a <img src='$(x)' alt='&lt;x&gt;'><img src=y>b")); }
 
 TEST(Page, NumbersLinksAndPlaces) {
-  const Page page = page_of("<html><a name='b c'>x</a><a href='d.html#e'>y</a><a name=f href='?\"'>z</a>").value();
+  const Page page = read_page("<html><a name='b c'>x</a><a href='d.html#e'>y</a><a name=f href='?\"'>z</a>").value();
   EXPECT_NE(std::string::npos, page.html.find("<a name=\"0\">x</a><a href=\"0\">y</a><a name=\"1\" href=\"1\">z</a>"));
   EXPECT_EQ((Strings{"d.html#e", "?\""}), page.links);
   EXPECT_EQ((Strings{"b c", "f"}), page.places);
@@ -130,7 +132,7 @@ TEST(Page, IsNotNestedWithoutEnd) {
 }
 
 TEST(Page, SaysASentence) {
-  const Page page = page_saying("No <page>", "caf\xE9 & more");
+  const Page page = make_notice("No <page>", "caf\xE9 & more");
   EXPECT_EQ("No <page>", page.title);
   EXPECT_NE(std::string::npos, page.html.find("<h1>No &lt;page&gt;</h1><p>caf\u00E9 &amp; more</p>"));
 }

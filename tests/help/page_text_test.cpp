@@ -4,6 +4,8 @@
 
 #include <clocale>
 
+using namespace help;
+
 namespace {
 
 const std::string mark = "<a name=\"found\" href=\"#\" target=\"found\">";
@@ -13,7 +15,7 @@ std::string found(const std::string& body, const std::string& words, std::size_t
   const std::string head = "<html><head><title>title</title></head><body>";
   const PageText text(head + body);
   const std::optional<Span> span = text.find(words, from);
-  return span ? text.marked(*span).substr(head.size()) : "";
+  return span ? text.mark(*span).substr(head.size()) : "";
 }
 
 TEST(Find, MarksTheFirstSuchWords) { EXPECT_EQ("one " + mark + "two</a> two", found("one two two", "two")); }

@@ -9,6 +9,8 @@
 #include "help/viewer/viewer.h"
 #include "help/viewer/window.h"
 
+using namespace help;
+
 namespace {
 
 std::string many_lines() {
@@ -343,7 +345,7 @@ TEST_F(ViewerWindow, ScrollsByTheWheelWhereverThePointerIsOnThePage) {
   show("a.html");
   Widget text = nullptr;
   XtVaGetValues(window.page, XmNworkWindow, &text, nullptr);
-  for (Widget under_pointer : {text, scroll_bar()}) {
+  for (Widget under_pointer : {text, find_scroll_bar()}) {
     turn_wheel(XtWindow(under_pointer), 8, 100, Button5);
     const int once = scrolled();
     EXPECT_LT(0, once);

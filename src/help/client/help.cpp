@@ -1,3 +1,5 @@
+// Asks the help viewer for pages, and starts it where there is none.
+
 #include "help/client/help.h"
 
 #include <X11/Xatom.h>
@@ -63,7 +65,7 @@ Window viewer_window(Widget w) {
   return viewer;
 }
 
-void viewer_announced(Widget w, XtPointer, XEvent* event, Boolean*) {
+void take_announcement(Widget w, XtPointer, XEvent* event, Boolean*) {
   if (event->type != PropertyNotify || event->xproperty.atom != help_win) return;
   if (event->xproperty.state == PropertyDelete) return;
   starting = false;
@@ -73,7 +75,7 @@ void viewer_announced(Widget w, XtPointer, XEvent* event, Boolean*) {
 
 /// Launches a viewer in the background. A command there never fails, so that whether there is a viewer is asked first.
 int start_viewer(Widget w) {
-  XtAddEventHandler(w, PropertyChangeMask, False, viewer_announced, nullptr);
+  XtAddEventHandler(w, PropertyChangeMask, False, take_announcement, nullptr);
   XSync(XtDisplay(w), False);  // a viewer may announce itself before anything else is sent to the server
   starting = true;
   const std::string command =

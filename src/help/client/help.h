@@ -1,11 +1,11 @@
 #ifndef HELP_CLIENT_HELP_H
 #define HELP_CLIENT_HELP_H
 
-#include <X11/Intrinsic.h>
-
 // The client's side of the protocol with the help viewer, a program of its own that is started when it is first needed
 // and then kept. Requests go to it through a property of its window; where that is, it announces through a property of
 // the client's window.
+
+#include <X11/Intrinsic.h>
 
 /// Asks the viewer to show the file `request`, from the window of `w`, or of its parent if it is a gadget. -1 when
 /// either is null or the viewer cannot be started, 0 when the request waits for the viewer to announce itself

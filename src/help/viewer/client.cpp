@@ -1,3 +1,5 @@
+// Announces the viewer to its client, and takes the client's requests.
+
 #include "help/viewer/client.h"
 
 #include <X11/Xatom.h>
@@ -6,10 +8,12 @@
 #include <memory>
 #include <string_view>
 
+namespace help {
+
 namespace {
 
-constexpr std::string_view QUIT = "*** QUIT HELP SYSTEM";
-constexpr long LONGEST = 1 << 16;  // request, in units of four bytes
+constexpr std::string_view kQuit = "*** QUIT HELP SYSTEM";
+constexpr long kLongest = 1 << 16;  // request, in units of four bytes
 
 Display* display = nullptr;
 Window viewer = None;
@@ -39,7 +43,7 @@ XData property(Window window, Atom name, Atom type, int format) {
   unsigned long count = 0;
   unsigned long rest = 0;
   unsigned char* data = nullptr;
-  const int status = XGetWindowProperty(display, window, name, 0, LONGEST, False, type, &found_type, &found_format,
+  const int status = XGetWindowProperty(display, window, name, 0, kLongest, False, type, &found_type, &found_format,
                                         &count, &rest, &data);
   XData result(data);
   const bool sound = status == Success && found_type == type && found_format == format && count > 0;
@@ -52,7 +56,7 @@ void take_request(Widget, XtPointer, XEvent* event, Boolean*) {
   const XData text = property(viewer, request(), XA_STRING, 8);  // Xlib ends it with a NUL of its own
   if (!text) return;
   const std::string words = reinterpret_cast<const char*>(text.get());
-  if (words == QUIT) return handlers.quit();
+  if (words == kQuit) return handlers.quit();
   handlers.show(words);
 }
 
@@ -91,3 +95,5 @@ void watch_client(const XEvent& event) {
   client = None;
   handlers.quit();
 }
+
+}  // namespace help

@@ -1,8 +1,12 @@
 #ifndef HELP_VIEWER_ELEMENTS_H
 #define HELP_VIEWER_ELEMENTS_H
 
+// Which elements of a page are shown.
+
 #include <array>
 #include <string_view>
+
+namespace help {
 
 /// How an element of a page stands to those around it.
 enum class Stands {
@@ -90,5 +94,7 @@ inline bool is_among(std::string_view words, std::string_view word) {
   }
   return false;
 }
+
+}  // namespace help
 
 #endif

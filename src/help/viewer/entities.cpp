@@ -1,3 +1,5 @@
+// Reads and writes the entities of a page.
+
 #include "help/viewer/entities.h"
 
 #include <algorithm>
@@ -8,10 +10,12 @@
 
 #include "libkel/utf8.h"
 
+namespace help {
+
 namespace {
 
 /// The names of the upper half of Latin-1, in the order of the characters.
-constexpr char32_t LATIN_1_BEGIN = 0xA0;
+constexpr char32_t kLatin1Begin = 0xA0;
 constexpr std::array<std::string_view, 96> latin_1{
     "nbsp",   "iexcl",  "cent",   "pound",  "curren", "yen",    "brvbar", "sect",   "uml",    "copy",   "ordf",
     "laquo",  "not",    "shy",    "reg",    "macr",   "deg",    "plusmn", "sup2",   "sup3",   "acute",  "micro",
@@ -53,7 +57,7 @@ std::optional<char32_t> named(std::string_view name) {
   }
   const auto* found = std::ranges::find(latin_1, name);
   if (found == latin_1.end()) return std::nullopt;
-  return LATIN_1_BEGIN + static_cast<char32_t>(found - latin_1.begin());
+  return kLatin1Begin + static_cast<char32_t>(found - latin_1.begin());
 }
 
 /// What an entity, without its "&" and ";", stands for.
@@ -103,3 +107,5 @@ std::string escaped(std::string_view text) {
   }
   return result;
 }
+
+}  // namespace help

@@ -1,9 +1,13 @@
 #ifndef HELP_VIEWER_HISTORY_H
 #define HELP_VIEWER_HISTORY_H
 
+// The pages that have been looked at, in their order.
+
 #include <cstddef>
 #include <string>
 #include <vector>
+
+namespace help {
 
 /// A page that has been looked at, and how far down.
 struct Visit {
@@ -35,5 +39,7 @@ class History {
   std::vector<Visit> visits_;
   std::size_t at_ = 0;
 };
+
+}  // namespace help
 
 #endif

@@ -1,18 +1,22 @@
+// Takes a page apart into tags and text.
+
 #include "help/viewer/markup.h"
 
 #include <algorithm>
 
 #include "help/viewer/entities.h"
 
+namespace help {
+
 namespace {
 
-constexpr std::string_view SPACES = " \t\r\n\f";
-constexpr std::string_view COMMENT_BEGIN = "<!--";
-constexpr std::string_view COMMENT_END = "-->";
+constexpr std::string_view kSpaces = " \t\r\n\f";
+constexpr std::string_view kCommentBegin = "<!--";
+constexpr std::string_view kCommentEnd = "-->";
 
 char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 bool is_letter(char c) { return lower(c) >= 'a' && lower(c) <= 'z'; }
-bool is_space(char c) { return SPACES.find(c) != std::string_view::npos; }
+bool is_space(char c) { return kSpaces.find(c) != std::string_view::npos; }
 
 std::string in_lower_case(std::string_view text) {
   std::string result(text);
@@ -40,8 +44,8 @@ std::size_t end_of_tag(std::string_view text) {
 }
 
 std::size_t end_of_comment(std::string_view text) {
-  const std::size_t end = text.find(COMMENT_END, COMMENT_BEGIN.size());
-  return end == std::string_view::npos ? text.size() : end + COMMENT_END.size();
+  const std::size_t end = text.find(kCommentEnd, kCommentBegin.size());
+  return end == std::string_view::npos ? text.size() : end + kCommentEnd.size();
 }
 
 std::size_t end_of_text(std::string_view text) {
@@ -52,7 +56,7 @@ std::size_t end_of_text(std::string_view text) {
 
 /// The piece at the beginning of a text that is not empty.
 Piece first_piece(std::string_view text) {
-  if (text.starts_with(COMMENT_BEGIN)) return {Piece::Kind::comment, text.substr(0, end_of_comment(text))};
+  if (text.starts_with(kCommentBegin)) return {Piece::Kind::comment, text.substr(0, end_of_comment(text))};
   if (text.starts_with('<') && begins_tag(text)) return {Piece::Kind::tag, text.substr(0, end_of_tag(text))};
   return {Piece::Kind::text, text.substr(0, end_of_text(text))};
 }
@@ -73,7 +77,7 @@ std::string_view take_value(std::string_view& text) {
   if (!text.starts_with('=')) return {};
   text.remove_prefix(1);
   skip_spaces(text);
-  if (!text.starts_with('"') && !text.starts_with('\'')) return take_until(text, SPACES);
+  if (!text.starts_with('"') && !text.starts_with('\'')) return take_until(text, kSpaces);
   const std::string_view quote = text.substr(0, 1);
   text.remove_prefix(1);
   const std::string_view value = take_until(text, quote);
@@ -84,7 +88,7 @@ std::string_view take_value(std::string_view& text) {
 /// What is between the name of a tag and its ">".
 std::string_view attributes_of(std::string_view tag) {
   if (tag.ends_with('>')) tag.remove_suffix(1);
-  take_until(tag, SPACES);
+  take_until(tag, kSpaces);
   return tag;
 }
 
@@ -116,3 +120,5 @@ std::string attribute(std::string_view tag, std::string_view name) {
   }
   return "";
 }
+
+}  // namespace help

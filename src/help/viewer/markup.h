@@ -1,9 +1,13 @@
 #ifndef HELP_VIEWER_MARKUP_H
 #define HELP_VIEWER_MARKUP_H
 
+// The tags and the texts that a page consists of.
+
 #include <string>
 #include <string_view>
 #include <vector>
+
+namespace help {
 
 /// A tag of a page with its brackets, a comment, or the text between two of these.
 struct Piece {
@@ -21,5 +25,7 @@ std::string name_of(std::string_view tag);
 
 /// The value of a tag's attribute with its entities decoded; "" when it has none.
 std::string attribute(std::string_view tag, std::string_view name);
+
+}  // namespace help
 
 #endif

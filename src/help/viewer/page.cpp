@@ -1,3 +1,5 @@
+// Reads a help page, and makes it ready for the HTML widget.
+
 #include "help/viewer/page.h"
 
 #include <algorithm>
@@ -7,12 +9,14 @@
 #include "help/viewer/markup.h"
 #include "libkel/utf8.h"
 
+namespace help {
+
 namespace {
 
-constexpr std::size_t DEEPEST = 60;  // elements in each other; the widget lays tables out by recursion
+constexpr std::size_t kDeepest = 60;  // elements in each other; the widget lays tables out by recursion
 
-constexpr char32_t NO_BREAK_SPACE = 0xA0;
-constexpr char32_t EM_SPACE = 0x2003;
+constexpr char32_t kNoBreakSpace = 0xA0;
+constexpr char32_t kEmSpace = 0x2003;
 
 bool is_blank(std::string_view text) { return text.find_first_not_of(" \t\r\n\f") == std::string_view::npos; }
 
@@ -40,7 +44,7 @@ std::string end_of(std::string_view name) {
 /// first line and after the last is left out.
 class Preformatted {
  public:
-  std::string laid_out(std::string_view text, const std::string& end_of_line) {
+  std::string lay_out(std::string_view text, const std::string& end_of_line) {
     std::string result;
     while (!text.empty()) {
       const Decoded next = first_character(text);
@@ -63,7 +67,7 @@ class Preformatted {
   }
 
  private:
-  static constexpr std::size_t TAB = 8;
+  static constexpr std::size_t kTab = 8;
 
   void end_line() {
     if (has_begun_) ++ends_;
@@ -73,14 +77,14 @@ class Preformatted {
 
   std::string written(char32_t character, std::string_view bytes) {
     const bool is_tab = character == '\t';
-    const std::size_t width = is_tab ? TAB - column_ % TAB : 1;
+    const std::size_t width = is_tab ? kTab - column_ % kTab : 1;
     column_ += width;
     return is_tab || character == ' ' ? spaces(width) : escaped(bytes);
   }
 
   static std::string spaces(std::size_t count) {
     std::string result;
-    while (count-- > 0) result += utf8(NO_BREAK_SPACE);
+    while (count-- > 0) result += utf8(kNoBreakSpace);
     return result;
   }
 
@@ -106,7 +110,7 @@ class PageWriter {
       open_item();
       for (Open& each : open_) each.is_filled |= each.element->stands != Stands::as_grid;
     }
-    page_.html += is_in_pre() ? preformatted_.laid_out(words, end_of_line()) : escaped(words);
+    page_.html += is_in_pre() ? preformatted_.lay_out(words, end_of_line()) : escaped(words);
   }
 
   void open(const Element& element, std::string_view tag) {
@@ -151,7 +155,7 @@ class PageWriter {
   std::string end_of_line() const { return open_.back().element->name == "pre" ? "</code></div><div><code>" : "<br>"; }
 
   bool may_stand(const Element& element) const {
-    if (open_.size() == DEEPEST) return false;
+    if (open_.size() == kDeepest) return false;
     if (element.parents.empty()) return !inside_grid();
     if (open_.empty() || !is_among(element.parents, open_.back().element->name)) return false;
     return element.name != "caption" || !open_.back().has_children;
@@ -201,7 +205,7 @@ class PageWriter {
   static std::string filling_of(std::string_view name) {
     if (name == "table") return "<tr>" + filling_of("tr") + "</tr>";
     if (name == "tr") return "<td>" + filling_of("td") + "</td>";
-    return utf8(EM_SPACE);
+    return utf8(kEmSpace);
   }
 
   std::string attributes_of(const Element& element, std::string_view tag) {
@@ -234,7 +238,7 @@ class PageWriter {
 };
 
 /// A text with each run of white space as one blank, and none at its ends.
-std::string on_one_line(std::string_view text) {
+std::string put_on_one_line(std::string_view text) {
   std::string line;
   for (char c : text) {
     const bool blank = is_blank({&c, 1});
@@ -251,7 +255,7 @@ class PageReader {
   std::optional<Page> read(std::string_view html) {
     for (const Piece& piece : pieces_of(html)) take(piece);
     if (!is_html_) return std::nullopt;
-    return writer_.finished(on_one_line(title_));
+    return writer_.finished(put_on_one_line(title_));
   }
 
  private:
@@ -288,12 +292,12 @@ class PageReader {
 
 }  // namespace
 
-std::optional<Page> page_of(std::string_view bytes) {
+std::optional<Page> read_page(std::string_view bytes) {
   if (bytes.find('\0') != std::string_view::npos) return std::nullopt;
   return PageReader().read(as_utf8(bytes));
 }
 
-Page page_saying(std::string_view title, std::string_view sentence) {
+Page make_notice(std::string_view title, std::string_view sentence) {
   PageWriter writer;
   const auto line = [&](std::string_view name, std::string_view words) {
     writer.open(*element_named(name), "");
@@ -303,3 +307,5 @@ Page page_saying(std::string_view title, std::string_view sentence) {
   line("p", as_utf8(sentence));
   return writer.finished(as_utf8(title));
 }
+
+}  // namespace help

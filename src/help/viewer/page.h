@@ -1,10 +1,14 @@
 #ifndef HELP_VIEWER_PAGE_H
 #define HELP_VIEWER_PAGE_H
 
+// A help page, made ready to be shown.
+
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+namespace help {
 
 /// A page made ready for the HTML widget, which stands no other: UTF-8 with no entities but those for "&", "<" and
 /// ">", well-formed, of the elements that the widget shows as text.
@@ -16,9 +20,11 @@ struct Page {
 };
 
 /// The page that a file holds; nothing when it is not HTML.
-std::optional<Page> page_of(std::string_view bytes);
+std::optional<Page> read_page(std::string_view bytes);
 
 /// A page of one sentence.
-Page page_saying(std::string_view title, std::string_view sentence);
+Page make_notice(std::string_view title, std::string_view sentence);
+
+}  // namespace help
 
 #endif

@@ -1,3 +1,5 @@
+// Finds words on a page, and marks them.
+
 #include "help/viewer/page_text.h"
 
 #include <algorithm>
@@ -8,29 +10,31 @@
 #include "help/viewer/markup.h"
 #include "libkel/utf8.h"
 
+namespace help {
+
 namespace {
 
-constexpr char32_t END_OF_LINE = '\n';
+constexpr char32_t kLineEnd = '\n';
 
 bool is_space(char32_t c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f' || c == 0xA0; }
 
-char32_t folded(char32_t c) {
+char32_t fold(char32_t c) {
   return is_space(c) ? U' ' : static_cast<char32_t>(std::towlower(static_cast<std::wint_t>(c)));
 }
 
 /// The character at the front of a text of a page, and what it takes there.
-Decoded front_of(std::string_view text) {
+Decoded read_character(std::string_view text) {
   if (text.front() != '&') return first_character(text);
   const std::size_t size = std::min(text.find(';'), text.size() - 1) + 1;
   return {first_character(decoded(text.substr(0, size))).character, size};
 }
 
-std::u32string folded_words(std::string_view words) {
+std::u32string fold_words(std::string_view words) {
   std::u32string result;
   while (!words.empty()) {
     const Decoded next = first_character(words);
     words.remove_prefix(next.size);
-    const char32_t c = folded(next.character);
+    const char32_t c = fold(next.character);
     if (c != U' ' || !result.ends_with(U' ')) result += c;
   }
   return result;
@@ -53,15 +57,15 @@ PageText::PageText(std::string html) : html_(std::move(html)) {
     if (name == "a") link = attribute(piece.source, "href");
     if (name == "/a") link.clear();
     if (piece.kind == Piece::Kind::text && in_body) add_text(piece.source, at, link);
-    if (piece.kind == Piece::Kind::tag && !is_in_line(name)) add_end_of_line(at);
+    if (piece.kind == Piece::Kind::tag && !is_in_line(name)) add_line_end(at);
     at += piece.source.size();
   }
 }
 
 void PageText::add_text(std::string_view text, std::size_t begin, const std::string& link) {
   while (!text.empty()) {
-    const Decoded next = front_of(text);
-    const char32_t c = folded(next.character);
+    const Decoded next = read_character(text);
+    const char32_t c = fold(next.character);
     const bool again = c == U' ' && !characters_.empty() && characters_.back().folded == U' ';
     if (!again) {
       characters_.push_back({c, begin, begin + next.size, link});
@@ -73,7 +77,7 @@ void PageText::add_text(std::string_view text, std::size_t begin, const std::str
   }
 }
 
-void PageText::add_end_of_line(std::size_t at) { characters_.push_back({END_OF_LINE, at, at, {}}); }
+void PageText::add_line_end(std::size_t at) { characters_.push_back({kLineEnd, at, at, {}}); }
 
 bool PageText::stands_at(std::size_t at, const std::u32string& words) const {
   for (std::size_t i = 0; i < words.size(); ++i) {
@@ -83,7 +87,7 @@ bool PageText::stands_at(std::size_t at, const std::u32string& words) const {
 }
 
 std::optional<Span> PageText::find(std::string_view words, std::size_t from) const {
-  const std::u32string wanted = folded_words(words);
+  const std::u32string wanted = fold_words(words);
   if (wanted.empty() || wanted.size() > characters_.size()) return std::nullopt;
   const std::size_t places = characters_.size() - wanted.size() + 1;
   for (std::size_t i = 0; i < places; ++i) {
@@ -93,13 +97,13 @@ std::optional<Span> PageText::find(std::string_view words, std::size_t from) con
   return std::nullopt;
 }
 
-std::string PageText::marked(Span span) const {
+std::string PageText::mark(Span span) const {
   std::string result;
   std::size_t copied = 0;
   for (std::size_t run = span.begin; run < span.end;) {
     std::size_t end = run + 1;
     while (end < span.end && characters_[end].begin == characters_[end - 1].end) ++end;
-    result += html_.substr(copied, characters_[run].begin - copied) + mark({run, end}, run == span.begin);
+    result += html_.substr(copied, characters_[run].begin - copied) + mark_run({run, end}, run == span.begin);
     copied = characters_[end - 1].end;
     run = end;
   }
@@ -107,12 +111,14 @@ std::string PageText::marked(Span span) const {
 }
 
 /// Characters without tags between them, in an anchor. A link that they are in is interrupted for it.
-std::string PageText::mark(Span span, bool first) const {
+std::string PageText::mark_run(Span span, bool first) const {
   const std::string& link = characters_[span.begin].link;
-  const std::string name = first ? " name=\"" + std::string(MARK) + "\"" : "";
+  const std::string name = first ? " name=\"" + std::string(kMark) + "\"" : "";
   const std::size_t begin = characters_[span.begin].begin;
   const std::string words = html_.substr(begin, characters_[span.end - 1].end - begin);
   const std::string address = " href=\"" + (link.empty() ? "#" : link) + "\"";
   const std::string anchor = "<a" + name + address + " target=\"found\">" + words + "</a>";
   return link.empty() ? anchor : "</a>" + anchor + "<a" + address + ">";
 }
+
+}  // namespace help

@@ -1,11 +1,15 @@
 #ifndef HELP_VIEWER_PAGE_TEXT_H
 #define HELP_VIEWER_PAGE_TEXT_H
 
+// The words of a page, and where they are found.
+
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+namespace help {
 
 /// Where words stand among the characters of a page, from the first to after the last.
 struct Span {
@@ -18,15 +22,15 @@ struct Span {
 class PageText {
  public:
   /// The anchor that marks what has been found.
-  static constexpr const char* MARK = "found";
+  static constexpr const char* kMark = "found";
 
   explicit PageText(std::string html);
 
   /// The first such words at `from` or after it, or else before it. Nothing when there are none.
   std::optional<Span> find(std::string_view words, std::size_t from) const;
 
-  /// The page with an anchor named MARK around these characters; its links have that target.
-  std::string marked(Span span) const;
+  /// The page with an anchor named kMark around these characters; its links have that target.
+  std::string mark(Span span) const;
 
  private:
   /// A character, the place in the page that it is read from, and the address of the link that it is in.
@@ -38,12 +42,14 @@ class PageText {
   };
 
   void add_text(std::string_view text, std::size_t begin, const std::string& link);
-  void add_end_of_line(std::size_t at);
+  void add_line_end(std::size_t at);
   bool stands_at(std::size_t at, const std::u32string& words) const;
-  std::string mark(Span span, bool first) const;
+  std::string mark_run(Span span, bool first) const;
 
   std::string html_;
   std::vector<Character> characters_;
 };
+
+}  // namespace help
 
 #endif

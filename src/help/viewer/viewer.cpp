@@ -1,3 +1,5 @@
+// Shows pages, follows their links, and finds words in them.
+
 #include "help/viewer/viewer.h"
 
 #include <Xm/ScrollBar.h>
@@ -24,9 +26,11 @@
 #include "help/viewer/window.h"
 #include "libkel/message.h"
 
+namespace help {
+
 namespace {
 
-constexpr const char* CONTENTS = "entry.html";
+constexpr const char* kContents = "entry.html";
 
 History history;
 Page page;                          // what is shown
@@ -35,22 +39,22 @@ std::optional<Span> found;          // what has been found last
 
 /// The sizes of the text, in hundredths of that in the resource file.
 constexpr std::array sizes{70, 85, 100, 120, 145, 175, 210};
-constexpr std::size_t NORMAL_SIZE = 2;
-std::size_t size = NORMAL_SIZE;
+constexpr std::size_t kNormalSize = 2;
+std::size_t size = kNormalSize;
 
-std::string message(const char* name, const std::string& argument) {
-  return filled(text_named(name).c_str(), {argument.c_str()});
+std::string fill_message(const char* name, const std::string& argument) {
+  return filled(look_up_text(name).c_str(), {argument.c_str()});
 }
 
 // Where the page is scrolled to.
 
-int scroll_value(const char* resource) {
+int read_scroll_value(const char* resource) {
   int value = 0;
-  XtVaGetValues(scroll_bar(), resource, &value, nullptr);
+  XtVaGetValues(find_scroll_bar(), resource, &value, nullptr);
   return value;
 }
 
-int scrolled() { return scroll_value(XmNvalue); }
+int read_scroll_position() { return read_scroll_value(XmNvalue); }
 
 void scroll_to(int value) {
   XmHTMLScrollToYPos(window.page, value);
@@ -67,14 +71,14 @@ void scroll_to_anchor(const std::string& name, bool may_stay) {
 
 void scroll_to_place(const std::string& place) {
   const auto at = std::ranges::find(page.places, place);
-  if (at == page.places.end()) return set_status(message("no_such_place", place));
+  if (at == page.places.end()) return set_status(fill_message("no_such_place", place));
   scroll_to_anchor(std::to_string(at - page.places.begin()), false);
 }
 
 // Pages.
 
 /// What a file holds. When it cannot be read, errno says why.
-std::optional<std::string> contents_of(const std::string& file) {
+std::optional<std::string> read_file(const std::string& file) {
   if (std::filesystem::is_directory(file)) {
     errno = EISDIR;
     return std::nullopt;
@@ -86,15 +90,15 @@ std::optional<std::string> contents_of(const std::string& file) {
 }
 
 /// The page in a file, or one that says why there is none.
-Page page_in(const std::string& file) {
-  const std::optional<std::string> contents = contents_of(file);
+Page load_page(const std::string& file) {
+  const std::optional<std::string> contents = read_file(file);
   if (!contents) {
     const std::string reason = std::strerror(errno);
-    const std::string format = text_named("page_unreadable");
-    return page_saying(text_named("no_page"), filled(format.c_str(), {file.c_str(), reason.c_str()}));
+    const std::string format = look_up_text("page_unreadable");
+    return make_notice(look_up_text("no_page"), filled(format.c_str(), {file.c_str(), reason.c_str()}));
   }
-  if (std::optional<Page> read = page_of(*contents)) return *std::move(read);
-  return page_saying(text_named("no_page"), message("page_not_html", file));
+  if (std::optional<Page> read = read_page(*contents)) return *std::move(read);
+  return make_notice(look_up_text("no_page"), fill_message("page_not_html", file));
 }
 
 /// Shows the text of a page, its beginning first.
@@ -108,7 +112,7 @@ void forget_found() {
 /// Shows the page where the history is.
 void show_here() {
   const Visit& here = history.here();
-  page = page_in(here.file);
+  page = load_page(here.file);
   forget_found();
   show_html(page.html);
   scroll_to(here.scrolled);
@@ -119,7 +123,7 @@ void show_here() {
 }
 
 void remember_scrolling() {
-  if (!history.empty()) history.here().scrolled = scrolled();
+  if (!history.empty()) history.here().scrolled = read_scroll_position();
 }
 
 void go_to(const std::string& file) {
@@ -129,14 +133,14 @@ void go_to(const std::string& file) {
 }
 
 void follow(const std::string& link) {
-  const std::optional<Address> target = target_of(history.here().file, link);
-  if (!target) return set_status(message("leads_away", link));
+  const std::optional<Address> target = resolve_link(history.here().file, link);
+  if (!target) return set_status(fill_message("leads_away", link));
   go_to(target->file);
   if (!target->place.empty()) scroll_to_place(target->place);
 }
 
 /// Where the link leads that a callback of the HTML widget tells of; "" when it tells of none.
-std::string link_of(const XmHTMLAnchorCallbackStruct& call) {
+std::string read_link(const XmHTMLAnchorCallbackStruct& call) {
   char* end = nullptr;
   if (!call.href || !*call.href) return "";
   const unsigned long index = std::strtoul(call.href, &end, 10);
@@ -145,7 +149,7 @@ std::string link_of(const XmHTMLAnchorCallbackStruct& call) {
 
 // Finding.
 
-std::string words_sought() {
+std::string read_words() {
   char* text = XmTextFieldGetString(window.find);
   std::string words = text;
   XtFree(text);
@@ -154,23 +158,23 @@ std::string words_sought() {
 
 /// Finds the words from there on, and marks and shows them.
 void find_from(std::size_t from) {
-  const std::string words = words_sought();
+  const std::string words = read_words();
   if (words.empty()) return;
   if (!page_text) page_text.emplace(page.html);
   const std::optional<Span> next = page_text->find(words, from);
-  if (!next) return set_status(message("not_found", words));
-  const int before = scrolled();
-  set_status(found && next->begin < from ? text_named("found_from_top") : "");
+  if (!next) return set_status(fill_message("not_found", words));
+  const int before = read_scroll_position();
+  set_status(found && next->begin < from ? look_up_text("found_from_top") : "");
   found = next;
-  show_html(page_text->marked(*found));
+  show_html(page_text->mark(*found));
   scroll_to(before);
-  scroll_to_anchor(PageText::MARK, true);
+  scroll_to_anchor(PageText::kMark, true);
 }
 
 /// Takes the mark off what has been found.
 void unmark() {
   if (!found) return;
-  const int before = scrolled();
+  const int before = read_scroll_position();
   forget_found();
   show_html(page.html);
   scroll_to(before);
@@ -179,7 +183,7 @@ void unmark() {
 // The size of the text.
 
 /// A list of font sizes, scaled.
-std::string scaled(const std::string& list, int percent) {
+std::string scale(const std::string& list, int percent) {
   std::istringstream stream(list);
   std::string result;
   for (std::string number; std::getline(stream, number, ',');) {
@@ -189,7 +193,7 @@ std::string scaled(const std::string& list, int percent) {
   return result;
 }
 
-std::string size_list(const char* resource) {
+std::string read_size_list(const char* resource) {
   char* list = nullptr;
   XtVaGetValues(window.page, resource, &list, nullptr);
   return list ? list : "";
@@ -201,23 +205,23 @@ struct FontSizes {
   std::string fixed;
 };
 
-std::array<FontSizes, sizes.size()> all_font_sizes() {
+std::array<FontSizes, sizes.size()> scale_font_sizes() {
   std::array<FontSizes, sizes.size()> result;
-  const FontSizes normal = {size_list(XmNfontSizeList), size_list(XmNfontSizeFixedList)};
+  const FontSizes normal = {read_size_list(XmNfontSizeList), read_size_list(XmNfontSizeFixedList)};
   for (std::size_t i = 0; i < sizes.size(); ++i) {
-    result[i] = {scaled(normal.proportional, sizes[i]), scaled(normal.fixed, sizes[i])};
+    result[i] = {scale(normal.proportional, sizes[i]), scale(normal.fixed, sizes[i])};
   }
   return result;
 }
 
 void set_size(std::size_t new_size) {
-  static std::array<FontSizes, sizes.size()> font_sizes = all_font_sizes();
+  static std::array<FontSizes, sizes.size()> font_sizes = scale_font_sizes();
   if (new_size >= sizes.size() || new_size == size) return;
   size = new_size;
-  const double place = scrolled() / static_cast<double>(std::max(1, scroll_value(XmNmaximum)));
+  const double place = read_scroll_position() / static_cast<double>(std::max(1, read_scroll_value(XmNmaximum)));
   XtVaSetValues(window.page, XmNfontSizeList, font_sizes[size].proportional.data(), XmNfontSizeFixedList,
                 font_sizes[size].fixed.data(), nullptr);
-  scroll_to(static_cast<int>(place * scroll_value(XmNmaximum)));
+  scroll_to(static_cast<int>(place * read_scroll_value(XmNmaximum)));
 }
 
 }  // namespace
@@ -252,22 +256,22 @@ void go_forward(Widget, XtPointer, XtPointer) {
   show_here();
 }
 
-void go_to_contents(Widget, XtPointer, XtPointer) { go_to(beside(history.here().file, CONTENTS)); }
+void go_to_contents(Widget, XtPointer, XtPointer) { go_to(replace_name(history.here().file, kContents)); }
 
 void follow_link(Widget, XtPointer, XtPointer call) {
   auto& anchor = *static_cast<XmHTMLAnchorCallbackStruct*>(call);
-  const std::string link = link_of(anchor);
+  const std::string link = read_link(anchor);
   anchor.doit = False;
   anchor.doc_modified = True;
   if (!link.empty()) follow(link);
 }
 
 void show_link(Widget, XtPointer, XtPointer call) {
-  set_status(link_of(*static_cast<XmHTMLAnchorCallbackStruct*>(call)));
+  set_status(read_link(*static_cast<XmHTMLAnchorCallbackStruct*>(call)));
 }
 
 void find_as_typed(Widget, XtPointer, XtPointer) {
-  if (words_sought().empty()) return unmark();
+  if (read_words().empty()) return unmark();
   find_from(found ? found->begin : 0);
 }
 
@@ -279,7 +283,9 @@ void end_find(Widget, XEvent*, String*, Cardinal*) {
 }
 
 void make_smaller(Widget, XtPointer, XtPointer) { set_size(size - 1); }
-void make_normal(Widget, XtPointer, XtPointer) { set_size(NORMAL_SIZE); }
+void make_normal(Widget, XtPointer, XtPointer) { set_size(kNormalSize); }
 void make_larger(Widget, XtPointer, XtPointer) { set_size(size + 1); }
 
 void close_window(Widget, XtPointer, XtPointer) { quit(); }
+
+}  // namespace help

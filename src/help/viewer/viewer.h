@@ -1,11 +1,13 @@
 #ifndef HELP_VIEWER_VIEWER_H
 #define HELP_VIEWER_VIEWER_H
 
+// What the viewer does, for the client and at the press of a button.
+
 #include <X11/Intrinsic.h>
 
 #include <string>
 
-// What the viewer does, for the client and at the press of a button.
+namespace help {
 
 /// Shows the page in a file, from its beginning, and the window with it.
 void show_file(const std::string& file);
@@ -26,5 +28,7 @@ void make_smaller(Widget, XtPointer, XtPointer);
 void make_normal(Widget, XtPointer, XtPointer);
 void make_larger(Widget, XtPointer, XtPointer);
 void close_window(Widget, XtPointer, XtPointer);
+
+}  // namespace help
 
 #endif

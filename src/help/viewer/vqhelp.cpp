@@ -14,13 +14,15 @@
 #include "help/viewer/window.h"
 #include "libkel/installation.h"
 
+using namespace help;
+
 namespace {
 
 /// Where the pages of each language are, below the installation.
-constexpr const char* HELP_PATH = "%R/lib/locale/%L/help/%N%S:%R/lib/locale/%l/help/%N%S:%R/lib/locale/C/help/%N%S";
+constexpr const char* kHelpPath = "%R/lib/locale/%L/help/%N%S:%R/lib/locale/%l/help/%N%S:%R/lib/locale/C/help/%N%S";
 
 /// What the command line asks for.
-struct Wishes {
+struct Arguments {
   Window client = None;
   const char* file = nullptr;
 };
@@ -36,18 +38,18 @@ struct Wishes {
 }
 
 /// The window with that number; None when it is none.
-Window window_numbered(const char* number) {
+Window parse_window(const char* number) {
   Window id = None;
   const char* end = number + std::strlen(number);
   const auto [stop, error] = std::from_chars(number, end, id);
   return error == std::errc() && stop == end ? id : None;
 }
 
-Wishes wishes(int argc, char** argv) {
-  Wishes result;
+Arguments parse_arguments(int argc, char** argv) {
+  Arguments result;
   for (int i = 1; i < argc; ++i) {
     if (std::strcmp(argv[i], "-wid") == 0 && i + 1 < argc) {
-      result.client = window_numbered(argv[++i]);
+      result.client = parse_window(argv[++i]);
       if (result.client == None) explain_usage(argv[0]);
     } else if (argv[i][0] != '-' && !result.file) {
       result.file = argv[i];
@@ -59,11 +61,11 @@ Wishes wishes(int argc, char** argv) {
 }
 
 /// The contents of the help pages in the user's language.
-std::string contents_page(Display* display) {
+std::string find_contents(Display* display) {
   const char* set_root = std::getenv("VQROOT");
   std::string root = set_root ? set_root : "";
   SubstitutionRec substitution = {'R', root.data()};
-  char* found = XtResolvePathname(display, "help", "entry", ".html", HELP_PATH, &substitution, 1, nullptr);
+  char* found = XtResolvePathname(display, "help", "entry", ".html", kHelpPath, &substitution, 1, nullptr);
   std::string file = found ? found : root + "/lib/locale/C/help/entry.html";
   XtFree(found);
   return file;
@@ -88,10 +90,10 @@ int main(int argc, char** argv) {
   Display* display = XtOpenDisplay(context, nullptr, nullptr, "Vqhelp", nullptr, 0, &argc, argv);
   if (!display) give_up(argv[0], "cannot open display");
   std::setlocale(LC_NUMERIC, "C");  // resource files have decimal points
-  const Wishes wanted = wishes(argc, argv);
+  const Arguments arguments = parse_arguments(argc, argv);
   make_window(display);
-  if (wanted.client != None && !serve_client(window.shell, wanted.client, {show_file, quit})) quit();
-  if (wanted.file) show_file(wanted.file);
-  if (!wanted.file && wanted.client == None) show_file(contents_page(display));
+  if (arguments.client != None && !serve_client(window.shell, arguments.client, {show_file, quit})) quit();
+  if (arguments.file) show_file(arguments.file);
+  if (!arguments.file && arguments.client == None) show_file(find_contents(display));
   serve_user(context);
 }

@@ -1,3 +1,5 @@
+// Makes the window of the help viewer.
+
 #include "help/viewer/window.h"
 
 #include <X11/Xatom.h>
@@ -14,6 +16,8 @@
 #include "desktop/wheel.h"
 #include "desktop/window_properties.h"
 #include "help/viewer/viewer.h"
+
+namespace help {
 
 namespace {
 
@@ -75,17 +79,17 @@ void register_actions() {
   XtAppAddActions(XtWidgetToApplicationContext(window.shell), actions, XtNumber(actions));
 }
 
-Widget work_window() {
+Widget find_work_window() {
   Widget w = nullptr;
   XtVaGetValues(window.page, XmNworkWindow, &w, nullptr);
   return w;
 }
 
-void has_scrolled(Widget, XtPointer, XtPointer) { repaint_page(); }
+void repaint_scrolled(Widget, XtPointer, XtPointer) { repaint_page(); }
 
 void repaint_after_scrolling() {
-  XtAddCallback(scroll_bar(), XmNvalueChangedCallback, has_scrolled, nullptr);
-  XtAddCallback(scroll_bar(), XmNdragCallback, has_scrolled, nullptr);
+  XtAddCallback(find_scroll_bar(), XmNvalueChangedCallback, repaint_scrolled, nullptr);
+  XtAddCallback(find_scroll_bar(), XmNdragCallback, repaint_scrolled, nullptr);
 }
 
 /// Gives `w` the keys of the resource `keys` of `owner`. They come before those of the buttons, and the HTML widget
@@ -145,7 +149,7 @@ void make_window(Display* display) {
   XmAddWMProtocolCallback(window.shell, close, close_window, nullptr);
   repaint_after_scrolling();
   install_keys(window.shell);
-  add_keys(window.page, work_window());
+  add_keys(window.page, find_work_window());
   add_keys(window.find, window.find);
 }
 
@@ -155,18 +159,18 @@ void show_window() {
   ask_for_attention();
 }
 
-Widget scroll_bar() {
+Widget find_scroll_bar() {
   Widget bar = nullptr;
   XtVaGetValues(window.page, XmNverticalScrollBar, &bar, nullptr);
   return bar;
 }
 
 void repaint_page() {
-  Widget w = work_window();
+  Widget w = find_work_window();
   XClearArea(XtDisplay(w), XtWindow(w), 0, 0, 0, 0, True);
 }
 
-void focus_on_page() { XmProcessTraversal(work_window(), XmTRAVERSE_CURRENT); }
+void focus_on_page() { XmProcessTraversal(find_work_window(), XmTRAVERSE_CURRENT); }
 
 void set_title(const std::string& title) {
   Display* display = XtDisplay(window.shell);
@@ -185,7 +189,7 @@ void set_status(const std::string& message) {
   XmStringFree(text);
 }
 
-std::string text_named(const char* name) {
+std::string look_up_text(const char* name) {
   char* text = nullptr;
   XtResource resource = {
       const_cast<char*>(name),      const_cast<char*>(XtCString), const_cast<char*>(XtRString), sizeof(char*), 0,
@@ -193,3 +197,5 @@ std::string text_named(const char* name) {
   XtGetApplicationResources(window.shell, &text, &resource, 1, nullptr, 0);
   return text;
 }
+
+}  // namespace help

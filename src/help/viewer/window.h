@@ -1,9 +1,13 @@
 #ifndef HELP_VIEWER_WINDOW_H
 #define HELP_VIEWER_WINDOW_H
 
+// The window of the help viewer.
+
 #include <X11/Intrinsic.h>
 
 #include <string>
+
+namespace help {
 
 /// The widgets of the window that are spoken to.
 struct HelpWindow {
@@ -23,7 +27,7 @@ void make_window(Display* display);
 void show_window();
 
 /// The bar beside the page.
-Widget scroll_bar();
+Widget find_scroll_bar();
 
 /// Paints the page afresh. The HTML widget itself paints what scrolling brings into sight, and leaves lines cut that
 /// were half in sight before.
@@ -36,6 +40,8 @@ void set_title(const std::string& title);
 void set_status(const std::string& message);
 
 /// The text of that name in the resource file; the name itself when it has none.
-std::string text_named(const char* name);
+std::string look_up_text(const char* name);
+
+}  // namespace help
 
 #endif
