@@ -49,6 +49,8 @@ TEST(Include, MayLookToTheLeftAndAtItsOwnLayer) {
   EXPECT_EQ("", wrong_include("vqc/cmd/savefile/parse.cpp", "\"libkel/text.h\""));
   EXPECT_EQ("", wrong_include("vqc/cmd/application/VQconfig.cpp", "\"help/client/help.h\""));
   EXPECT_EQ("", wrong_include("help/client/help.cpp", "\"libkel/message.h\""));
+  EXPECT_EQ("", wrong_include("help/client/help.cpp", "\"help/protocol.h\""));
+  EXPECT_EQ("", wrong_include("help/viewer/client.cpp", "\"help/protocol.h\""));
   EXPECT_EQ("", wrong_include("libkel/text.cpp", "<X11/Intrinsic.h>"));
 }
 
@@ -67,6 +69,7 @@ TEST(Include, MayNotLookToTheRight) {
       {"vqc/cmd/editors/open.cpp", "\"help/client/help.h\""},
       {"help/client/help.cpp", "\"vqc/cmd/model/alias.h\""},
       {"help/viewer/vqhelp.cpp", "\"help/client/help.h\""},
+      {"help/protocol.cpp", "\"help/viewer/client.h\""},
       {"vqc/cmd/application/batch.cpp", "\"help/viewer/page.h\""},
   };
   for (const Look& look : looks) {

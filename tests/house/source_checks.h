@@ -11,7 +11,8 @@
 
 // What every source must keep to. A path is spelled from src/, as includes are.
 
-/// A layer and the layers whose headers its files may include beside their own.
+/// A layer, by what the paths of its files begin with, and the layers whose headers its files may include beside their
+/// own.
 struct Layer {
   std::string_view folder;
   std::vector<std::string_view> may_include;
@@ -21,8 +22,9 @@ inline const std::vector<Layer>& layers() {
   static const std::vector<Layer> all = {
       {"libkel/", {}},
       {"desktop/", {"libkel/"}},
-      {"help/client/", {"libkel/"}},
-      {"help/viewer/", {"libkel/", "desktop/"}},
+      {"help/protocol.", {}},
+      {"help/client/", {"libkel/", "help/protocol."}},
+      {"help/viewer/", {"libkel/", "desktop/", "help/protocol."}},
       {"vqc/cmd/model/", {"libkel/"}},
       {"vqc/cmd/savefile/", {"libkel/", "vqc/cmd/model/"}},
       {"vqc/cmd/generate/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/"}},

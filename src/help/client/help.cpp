@@ -8,14 +8,15 @@
 #include <cstring>
 #include <string>
 
+#include "help/protocol.h"
 #include "libkel/text.h"
+
+using namespace help;
 
 namespace {
 
-constexpr const char* kQuit = "*** QUIT HELP SYSTEM";
-
-Atom help_win = None;   // on the client's window: the viewer's window
-Atom help_dest = None;  // on the viewer's window: the request
+Atom help_win = None;
+Atom help_dest = None;
 
 Text last_request;
 bool starting = false;  // a viewer has been launched that has not announced itself
@@ -50,21 +51,6 @@ bool help_send(Display* display, Window viewer, const Text& request) {
   return !error_seen;
 }
 
-/// The window that a viewer has announced; None when there has been no viewer.
-Window viewer_window(Widget w) {
-  Atom type = None;
-  int format = 0;
-  unsigned long count = 0;
-  unsigned long rest = 0;
-  unsigned char* data = nullptr;
-  const int status = XGetWindowProperty(XtDisplay(w), XtWindow(w), help_win, 0, 1, False, XA_WINDOW, &type, &format,
-                                        &count, &rest, &data);
-  Window viewer = None;
-  if (status == Success && type == XA_WINDOW && format == 32 && count == 1) std::memcpy(&viewer, data, sizeof viewer);
-  if (data) XFree(data);
-  return viewer;
-}
-
 void take_announcement(Widget w, XtPointer, XEvent* event, Boolean*) {
   if (event->type != PropertyNotify || event->xproperty.atom != help_win) return;
   if (event->xproperty.state == PropertyDelete) return;
@@ -88,8 +74,8 @@ int start_viewer(Widget w) {
 }  // namespace
 
 void VQHelpGetAtoms(Widget w) {
-  if (help_win == None) help_win = XInternAtom(XtDisplay(w), "VQHELP_WIN", False);
-  if (help_dest == None) help_dest = XInternAtom(XtDisplay(w), "VQHELP_DEST", False);
+  if (help_win == None) help_win = XInternAtom(XtDisplay(w), kAnnouncement, False);
+  if (help_dest == None) help_dest = XInternAtom(XtDisplay(w), kRequest, False);
 }
 
 int VQHelp(Widget w, const char* request) {
@@ -99,7 +85,7 @@ int VQHelp(Widget w, const char* request) {
   VQHelpGetAtoms(w);
   last_request = request;
   if (starting) return 0;
-  const Window viewer = viewer_window(w);
+  const Window viewer = read_announcement(XtDisplay(w), XtWindow(w));
   if (viewer != None && help_send(XtDisplay(w), viewer, last_request)) return 1;
   if (std::strcmp(request, kQuit) == 0) return 1;  // nobody is there to quit
   return start_viewer(w);

@@ -4,15 +4,14 @@
 
 #include <X11/Xatom.h>
 
-#include <cstring>
-#include <memory>
 #include <string_view>
+
+#include "help/protocol.h"
 
 namespace help {
 
 namespace {
 
-constexpr std::string_view kQuit = "*** QUIT HELP SYSTEM";
 constexpr long kLongest = 1 << 16;  // request, in units of four bytes
 
 Display* display = nullptr;
@@ -21,8 +20,8 @@ Window client = None;  // None when there is none to serve
 RequestHandlers handlers;
 XErrorHandler other_errors = nullptr;
 
-Atom announcement() { return XInternAtom(display, "VQHELP_WIN", False); }
-Atom request() { return XInternAtom(display, "VQHELP_DEST", False); }
+Atom announcement() { return XInternAtom(display, kAnnouncement, False); }
+Atom request() { return XInternAtom(display, kRequest, False); }
 
 /// The client may go at any time, and its window with it.
 int forget_client(Display* where, XErrorEvent* error) {
@@ -31,29 +30,10 @@ int forget_client(Display* where, XErrorEvent* error) {
   return 0;
 }
 
-struct XDeleter {
-  void operator()(unsigned char* data) const { XFree(data); }
-};
-using XData = std::unique_ptr<unsigned char, XDeleter>;
-
-/// A property of a window as the server has it, in units of `format` bits; null when it is not of that kind.
-XData property(Window window, Atom name, Atom type, int format) {
-  Atom found_type = None;
-  int found_format = 0;
-  unsigned long count = 0;
-  unsigned long rest = 0;
-  unsigned char* data = nullptr;
-  const int status = XGetWindowProperty(display, window, name, 0, kLongest, False, type, &found_type, &found_format,
-                                        &count, &rest, &data);
-  XData result(data);
-  const bool sound = status == Success && found_type == type && found_format == format && count > 0;
-  return sound ? std::move(result) : nullptr;
-}
-
 void take_request(Widget, XtPointer, XEvent* event, Boolean*) {
   if (event->type != PropertyNotify || event->xproperty.atom != request()) return;
   if (event->xproperty.state != PropertyNewValue) return;
-  const XData text = property(viewer, request(), XA_STRING, 8);  // Xlib ends it with a NUL of its own
+  const XData text = read_property(display, viewer, request(), XA_STRING, 8, kLongest);
   if (!text) return;
   const std::string words = reinterpret_cast<const char*>(text.get());
   if (words == kQuit) return handlers.quit();
@@ -61,12 +41,7 @@ void take_request(Widget, XtPointer, XEvent* event, Boolean*) {
 }
 
 /// Whether the client still takes this viewer for its own.
-bool is_announced() {
-  const XData data = property(client, announcement(), XA_WINDOW, 32);
-  Window announced = None;
-  if (data) std::memcpy(&announced, data.get(), sizeof announced);
-  return announced == viewer;
-}
+bool is_announced() { return read_announcement(display, client) == viewer; }
 
 }  // namespace
 
