@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/files.h"
+
 using namespace help;
 
 namespace {
@@ -129,7 +131,112 @@ TEST(Page, IsNotNestedWithoutEnd) {
   for (int i = 0; i < 1000; ++i) source += "<blockquote>";
   const std::string result = body(source + "x");
   EXPECT_EQ(60, static_cast<int>((result.size() - 1) / std::string("<blockquote></blockquote>").size()));
+  EXPECT_NE(std::string::npos, result.find(">x<"));
 }
+
+TEST(Page, EndsWhereItIsNestedBeyondAllReason) {
+  std::string source = "<p>a</p>";
+  for (int i = 0; i < 100000; ++i) source += "<b>";
+  for (int i = 0; i < 100000; ++i) source += "</i>";
+  EXPECT_TRUE(body(source + "x").starts_with("<p>a</p><b><b>"));
+}
+
+TEST(Page, MayBeLong) {
+  const std::string words(11000000, 'x');
+  EXPECT_EQ("<p>" + words + "</p><p>b</p>", body("<p>" + words + "<p title=\"" + words + "\">b"));
+}
+
+TEST(Page, NeedsNoBody) {
+  EXPECT_EQ("<html><head><title>a</title></head><body><b>b</b> c<p>d</p></body></html>",
+            read_page("<title>a</title><b>b</b> c<p>d").value().html);
+  EXPECT_EQ("abcd<i>e</i>", body("a</body></html>b</body>c</html>d<i>e"));
+}
+
+TEST(Page, ShowsTheWordsOfElementsThatItDoesNotKnow) {
+  EXPECT_EQ("abcd", body("<foo>a<bar x=1>b</foo>c</bar>d"));
+  EXPECT_EQ("words", body("<frameset><frame src=x><noframes>words</noframes></frameset>"));
+}
+
+TEST(Page, LeavesOutDeclarations) {
+  EXPECT_EQ("abcdef", body("a<!doctype html>b<!foo>c<![CDATA[x]]>d<?php echo ?>e<? echo ?>f"));
+  EXPECT_EQ("a", body("a<!foo"));
+}
+
+TEST(Page, LeavesOutComments) {
+  EXPECT_EQ("abc", body("a<!-- <b> -- > -->b<!---->c"));
+  EXPECT_EQ("a", body("a<!-- b"));
+}
+
+TEST(Page, MayHaveBracketsThatAreNoTags) {
+  EXPECT_EQ("a &lt; b &lt;", body("a < b <"));
+  EXPECT_EQ("<a>b</a>", body("<a title='>' x=\">\">b"));
+}
+
+TEST(Page, MayEndInTheMiddleOfATag) {
+  EXPECT_EQ("a<b></b>", body("a<b"));
+  EXPECT_EQ("a<p></p>", body("a<p title=\"x>b"));
+}
+
+TEST(Page, HasTheEncodingThatItIsIn) {
+  EXPECT_EQ("\u00E4", body("<meta http-equiv=Content-Type content='text/html; charset=utf-16'>\u00E4"));
+  EXPECT_EQ("\u00E4", body("<meta charset=utf-8>\xE4"));
+  EXPECT_EQ("\u00E4", body("<?xml version='1.0' encoding='nonsense'?>\u00E4"));
+}
+
+TEST(Page, LoadsNothing) {
+  const TemporaryFolder folder;
+  const std::string declarations = folder.with("declarations", "<!ENTITY x 'loaded'>");
+  const std::string html = read_page("<!DOCTYPE html SYSTEM \"" + declarations + "\"><body>&x;").value().html;
+  EXPECT_NE(std::string::npos, html.find("<body>&amp;x;</body>")) << html;
+}
+
+TEST(Page, IsReadWithoutAWord) {
+  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
+  body("<p a='1' a='2'></b>&x &#0;<1></1 \x01<table><p title='x");
+  EXPECT_EQ("", testing::internal::GetCapturedStdout());
+  EXPECT_EQ("", testing::internal::GetCapturedStderr());
+}
+
+TEST(Attribute, IsFoundHoweverItIsWritten) {
+  EXPECT_EQ((Strings{"b c", "b", "b", "a&b", "b>"}),
+            read_page("<html><a x=\"1\" href=\"b c\"></a><a HREF = 'b'></a><a href=b x=1></a>"
+                      "<a href='a&amp;b'></a><a href='b>'></a>")
+                .value()
+                .links);
+}
+
+TEST(Attribute, IsLeftOutWhereItHasNoValue) {
+  EXPECT_EQ("<a name=\"0\">b</a><a>c</a><a>d</a><a>e</a>",
+            body("<a name=href>b</a><a href>c</a><a title='href=x'>d</a><a = '>e"));
+}
+
+TEST(Entity, HasAName) {
+  EXPECT_EQ("Gr\u00F6\u00DFe", body("Gr&ouml;&szlig;e"));
+  EXPECT_EQ("\u00A0\u00FF", body("&nbsp;&yuml;"));
+  EXPECT_EQ("a &lt; b &amp; \"c\" &gt; d", body("a &lt; b &amp; &quot;c&quot; &gt; d"));
+  EXPECT_EQ("\u2026 \u2014 \u2192", body("&hellip; &mdash; &rarr;"));
+}
+
+TEST(Entity, HasANumber) {
+  EXPECT_EQ("A\u00E4\u20AC", body("&#65;&#228;&#8364;"));
+  EXPECT_EQ("A\u20AC", body("&#x41;&#X20ac;"));
+}
+
+TEST(Entity, NeedsNoSemicolonAtTheEndOfAWord) {
+  EXPECT_EQ("\u00A9 1999", body("&copy 1999"));
+  EXPECT_EQ("A, B", body("&#65, &#x42"));
+}
+
+TEST(Entity, OfNoCharacterIsReplaced) {
+  EXPECT_EQ("\uFFFD\uFFFD\uFFFD\uFFFD", body("&#0;&#xD800;&#x110000;&#99999999999999;"));
+}
+
+TEST(Entity, ThatIsUnknownStandsForItself) {
+  EXPECT_EQ("&amp;nothing; &amp;; &amp; &amp;#; &amp;#x; &amp;#1a; x&amp;y", body("&nothing; &; & &#; &#x; &#1a; x&y"));
+}
+
+TEST(Entity, IsReadInValuesToo) { EXPECT_EQ("\u00E4\uFFFDb&amp;c", body("<img alt='&auml;&#0;b&c'>")); }
 
 TEST(Page, SaysASentence) {
   const Page page = make_notice("No <page>", "caf\xE9 & more");

@@ -62,6 +62,7 @@ TEST(Find, GoesOnFromAPlaceAndThenFromTheTop) {
 TEST(Find, FindsNothingInNothing) {
   EXPECT_FALSE(PageText("").find("a", 0));
   EXPECT_FALSE(PageText("<body>a").find("", 0));
+  EXPECT_FALSE(PageText("<body>a<b").find("b", 0));
   EXPECT_FALSE(PageText("<body>a").find("abcdefgh", 7));
 }
 

@@ -1,111 +1,83 @@
-// Reads and writes the entities of a page.
+// Writes and reads the entities of a page.
 
 #include "help/viewer/entities.h"
+
+#include <libxml/HTMLparser.h>
+#include <libxml/chvalid.h>
 
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstdint>
-#include <optional>
-
-#include "libkel/utf8.h"
 
 namespace help {
 
 namespace {
 
-/// The names of the upper half of Latin-1, in the order of the characters.
-constexpr char32_t kLatin1Begin = 0xA0;
-constexpr std::array<std::string_view, 96> latin_1{
-    "nbsp",   "iexcl",  "cent",   "pound",  "curren", "yen",    "brvbar", "sect",   "uml",    "copy",   "ordf",
-    "laquo",  "not",    "shy",    "reg",    "macr",   "deg",    "plusmn", "sup2",   "sup3",   "acute",  "micro",
-    "para",   "middot", "cedil",  "sup1",   "ordm",   "raquo",  "frac14", "frac12", "frac34", "iquest", "Agrave",
-    "Aacute", "Acirc",  "Atilde", "Auml",   "Aring",  "AElig",  "Ccedil", "Egrave", "Eacute", "Ecirc",  "Euml",
-    "Igrave", "Iacute", "Icirc",  "Iuml",   "ETH",    "Ntilde", "Ograve", "Oacute", "Ocirc",  "Otilde", "Ouml",
-    "times",  "Oslash", "Ugrave", "Uacute", "Ucirc",  "Uuml",   "Yacute", "THORN",  "szlig",  "agrave", "aacute",
-    "acirc",  "atilde", "auml",   "aring",  "aelig",  "ccedil", "egrave", "eacute", "ecirc",  "euml",   "igrave",
-    "iacute", "icirc",  "iuml",   "eth",    "ntilde", "ograve", "oacute", "ocirc",  "otilde", "ouml",   "divide",
-    "oslash", "ugrave", "uacute", "ucirc",  "uuml",   "yacute", "thorn",  "yuml"};
-
-struct Entity {
-  std::string_view name;
-  char32_t character;
+struct Escape {
+  char character;
+  std::string_view entity;
 };
-constexpr Entity others[] = {
-    {"quot", '"'},      {"amp", '&'},       {"lt", '<'},        {"gt", '>'},        {"apos", '\''},
-    {"OElig", 0x0152},  {"oelig", 0x0153},  {"Scaron", 0x0160}, {"scaron", 0x0161}, {"Yuml", 0x0178},
-    {"ensp", 0x2002},   {"emsp", 0x2003},   {"thinsp", 0x2009}, {"ndash", 0x2013},  {"mdash", 0x2014},
-    {"lsquo", 0x2018},  {"rsquo", 0x2019},  {"sbquo", 0x201A},  {"ldquo", 0x201C},  {"rdquo", 0x201D},
-    {"bdquo", 0x201E},  {"dagger", 0x2020}, {"bull", 0x2022},   {"hellip", 0x2026}, {"prime", 0x2032},
-    {"lsaquo", 0x2039}, {"rsaquo", 0x203A}, {"euro", 0x20AC},   {"trade", 0x2122},  {"larr", 0x2190},
-    {"uarr", 0x2191},   {"rarr", 0x2192},   {"darr", 0x2193},   {"harr", 0x2194},   {"rArr", 0x21D2},
-    {"minus", 0x2212},  {"infin", 0x221E},  {"ne", 0x2260},     {"le", 0x2264},     {"ge", 0x2265},
-};
+constexpr std::array<Escape, 3> escapes{{{'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}}};
 
-std::optional<char32_t> numbered(std::string_view digits) {
+bool is_letter_or_digit(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9'); }
+
+/// The character that a number stands for; 0 when it is none.
+unsigned read_number(std::string_view digits) {
   const bool hexadecimal = digits.starts_with('x') || digits.starts_with('X');
   if (hexadecimal) digits.remove_prefix(1);
-  std::uint32_t code = 0;
+  unsigned code = 0;
   const auto [end, error] = std::from_chars(digits.begin(), digits.end(), code, hexadecimal ? 16 : 10);
-  if (error == std::errc::invalid_argument || end != digits.end()) return std::nullopt;
-  return error == std::errc() && code != 0 ? code : REPLACEMENT;
+  if (error == std::errc::invalid_argument || end != digits.end()) return 0;
+  return error == std::errc() && xmlIsCharQ(code) ? code : static_cast<unsigned>(REPLACEMENT);
 }
 
-std::optional<char32_t> named(std::string_view name) {
-  if (const auto* other = std::ranges::find(others, name, &Entity::name); other != std::end(others)) {
-    return other->character;
-  }
-  const auto* found = std::ranges::find(latin_1, name);
-  if (found == latin_1.end()) return std::nullopt;
-  return kLatin1Begin + static_cast<char32_t>(found - latin_1.begin());
+unsigned read_name(const std::string& name) {
+  const htmlEntityDesc* entity = htmlEntityLookup(reinterpret_cast<const xmlChar*>(name.c_str()));
+  return entity ? entity->value : 0;
 }
 
-/// What an entity, without its "&" and ";", stands for.
-std::optional<char32_t> meaning_of(std::string_view entity) {
-  return entity.starts_with('#') ? numbered(entity.substr(1)) : named(entity);
+/// What an entity, without its "&" and ";", stands for; 0 when it is none.
+unsigned read_entity(std::string_view entity) {
+  return entity.starts_with('#') ? read_number(entity.substr(1)) : read_name(std::string(entity));
 }
 
-bool is_entity_character(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '#';
+/// How many characters of a text that begins with "&" may be an entity.
+std::size_t measure_entity(std::string_view text) {
+  const std::size_t begin = text.substr(1).starts_with('#') ? 2 : 1;
+  const auto* end = std::ranges::find_if_not(text.substr(begin), is_letter_or_digit);
+  return static_cast<std::size_t>(end - text.begin());
 }
 
 }  // namespace
 
-std::string decoded(std::string_view text) {
+std::string escape(std::string_view text) {
   std::string result;
-  while (!text.empty()) {
-    const std::size_t plain = std::min(text.find('&'), text.size());
-    result += text.substr(0, plain);
-    text.remove_prefix(plain);
-    if (text.empty()) break;
-    const auto* end = std::ranges::find_if_not(text.begin() + 1, text.end(), is_entity_character);
-    const auto size = static_cast<std::size_t>(end - text.begin());
-    const std::optional<char32_t> character = meaning_of(text.substr(1, size - 1));
-    result += character ? utf8(*character) : std::string(text.substr(0, size));
-    text.remove_prefix(size);
-    if (character && text.starts_with(';')) text.remove_prefix(1);
+  for (char c : text) {
+    const auto* found = std::ranges::find(escapes, c, &Escape::character);
+    found == escapes.end() ? result += c : result += found->entity;
   }
   return result;
 }
 
-std::string escaped(std::string_view text) {
-  std::string result;
-  for (char c : text) {
-    switch (c) {
-      case '&':
-        result += "&amp;";
-        break;
-      case '<':
-        result += "&lt;";
-        break;
-      case '>':
-        result += "&gt;";
-        break;
-      default:
-        result += c;
-    }
+Decoded read_escaped(std::string_view text) {
+  for (const auto& [character, entity] : escapes) {
+    if (text.starts_with(entity)) return {static_cast<char32_t>(character), entity.size()};
   }
-  return result;
+  return first_character(text);
+}
+
+std::string number_entities(std::string_view html) {
+  std::string result;
+  for (std::size_t at = html.find('&'); at != std::string_view::npos; at = html.find('&')) {
+    result += html.substr(0, at);
+    html.remove_prefix(at);
+    const std::size_t size = measure_entity(html);
+    const unsigned code = read_entity(html.substr(1, size - 1));
+    result += "&#" + std::to_string(code ? code : '&') + ";";
+    html.remove_prefix(code ? size : 1);
+    if (code && html.starts_with(';')) html.remove_prefix(1);
+  }
+  return result + std::string(html);
 }
 
 }  // namespace help

@@ -6,13 +6,19 @@
 #include <string>
 #include <string_view>
 
+#include "libkel/utf8.h"
+
 namespace help {
 
-/// A text of a page with the characters that its entities stand for. What is no known entity stands for itself.
-std::string decoded(std::string_view text);
+/// The text with entities for "&", "<" and ">".
+std::string escape(std::string_view text);
 
-/// The text with entities for the characters that mean something in a page.
-std::string escaped(std::string_view text);
+/// The character at the front of such a text, which is not empty, and the bytes that it takes there.
+Decoded read_escaped(std::string_view text);
+
+/// A page with each of its entities as a number and a semicolon, such as "&#228;". One of no character becomes
+/// REPLACEMENT, and what is no known entity stands for itself.
+std::string number_entities(std::string_view html);
 
 }  // namespace help
 

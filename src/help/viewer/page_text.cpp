@@ -7,8 +7,6 @@
 
 #include "help/viewer/elements.h"
 #include "help/viewer/entities.h"
-#include "help/viewer/markup.h"
-#include "libkel/utf8.h"
 
 namespace help {
 
@@ -22,13 +20,6 @@ char32_t fold(char32_t c) {
   return is_space(c) ? U' ' : static_cast<char32_t>(std::towlower(static_cast<std::wint_t>(c)));
 }
 
-/// The character at the front of a text of a page, and what it takes there.
-Decoded read_character(std::string_view text) {
-  if (text.front() != '&') return first_character(text);
-  const std::size_t size = std::min(text.find(';'), text.size() - 1) + 1;
-  return {first_character(decoded(text.substr(0, size))).character, size};
-}
-
 std::u32string fold_words(std::string_view words) {
   std::u32string result;
   while (!words.empty()) {
@@ -40,31 +31,47 @@ std::u32string fold_words(std::string_view words) {
   return result;
 }
 
-bool is_in_line(const std::string& name) {
-  const Element* element = element_named(name.starts_with('/') ? std::string_view(name).substr(1) : name);
+/// The element that a tag begins or ends.
+std::string_view read_name(std::string_view tag) {
+  tag.remove_prefix(tag.starts_with("</") ? 2 : 1);
+  return tag.substr(0, tag.find_first_of(" >"));
+}
+
+bool is_in_line(std::string_view name) {
+  const Element* element = find_element(name);
   return element && element->stands == Stands::in_line;
+}
+
+/// Where a tag leads, if it is that of a link.
+std::string read_address(std::string_view tag) {
+  constexpr std::string_view kBefore = " href=\"";
+  const std::size_t at = tag.find(kBefore);
+  if (at == std::string_view::npos) return "";
+  tag.remove_prefix(at + kBefore.size());
+  return std::string(tag.substr(0, tag.find('"')));
 }
 
 }  // namespace
 
 PageText::PageText(std::string html) : html_(std::move(html)) {
-  std::size_t at = 0;
+  const std::string_view page = html_;
   std::string link;
-  bool in_body = false;
-  for (const Piece& piece : pieces_of(html_)) {
-    const std::string name = piece.kind == Piece::Kind::tag ? name_of(piece.source) : "";
-    if (name == "body") in_body = true;
-    if (name == "a") link = attribute(piece.source, "href");
-    if (name == "/a") link.clear();
-    if (piece.kind == Piece::Kind::text && in_body) add_text(piece.source, at, link);
-    if (piece.kind == Piece::Kind::tag && !is_in_line(name)) add_line_end(at);
-    at += piece.source.size();
+  for (std::size_t at = std::min(page.find("<body>"), page.size()); at < page.size();) {
+    const bool is_tag = page[at] == '<';
+    const std::string_view piece = page.substr(at, is_tag ? page.find('>', at) - at + 1 : page.find('<', at) - at);
+    if (is_tag) {
+      if (read_name(piece) == "a") link = read_address(piece);
+      if (!is_in_line(read_name(piece))) add_line_end(at);
+    } else {
+      add_text(piece, at, link);
+    }
+    at += piece.size();
   }
 }
 
 void PageText::add_text(std::string_view text, std::size_t begin, const std::string& link) {
   while (!text.empty()) {
-    const Decoded next = read_character(text);
+    const Decoded next = read_escaped(text);
     const char32_t c = fold(next.character);
     const bool again = c == U' ' && !characters_.empty() && characters_.back().folded == U' ';
     if (!again) {

@@ -24,6 +24,7 @@ class PageText {
   /// The anchor that marks what has been found.
   static constexpr const char* kMark = "found";
 
+  /// Of a page as the HTML widget gets it.
   explicit PageText(std::string html);
 
   /// The first such words at `from` or after it, or else before it. Nothing when there are none.
