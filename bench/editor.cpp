@@ -16,7 +16,7 @@
 #include <ctime>
 #include <string>
 
-#include "libkel/installation.h"
+#include "desktop/search_path.h"
 #include "vqc/cmd/application/command_line.h"
 #include "vqc/cmd/application/session.h"
 #include "vqc/cmd/editors/dialogs/family_dialog.h"

@@ -3,10 +3,9 @@
 
 #include <string>
 
-/// Lets the toolkit find the resource files that were installed, or built, with this program, after those that the
-/// user's environment names, and sets VQROOT to the installation unless it is set. To be called before the display is
-/// opened.
-void use_installation();
+/// The folder that this program was installed, or built, into. It is found from where the program's file really lies,
+/// so that an installation may be moved, and its programs be started through links.
+std::string installation();
 
 /// The path of a file that was installed, or built, with this program.
 std::string installed(const char* file);

@@ -9,9 +9,9 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "desktop/search_path.h"
 #include "gui/hands.h"
 #include "gui/looks.h"
-#include "libkel/installation.h"
 #include "vqc/cmd/application/command_line.h"
 #include "vqc/cmd/application/session.h"
 #include "vqc/cmd/editors/dialogs/family_dialog.h"

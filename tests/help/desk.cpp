@@ -13,7 +13,7 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "libkel/installation.h"
+#include "desktop/search_path.h"
 
 namespace {
 

@@ -9,10 +9,10 @@
 #include <cstring>
 #include <string>
 
+#include "desktop/search_path.h"
 #include "help/viewer/client.h"
 #include "help/viewer/viewer.h"
 #include "help/viewer/window.h"
-#include "libkel/installation.h"
 
 using namespace help;
 

@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <new>
 
-#include "libkel/installation.h"
+#include "desktop/search_path.h"
 #include "vqc/cmd/application/batch.h"
 #include "vqc/cmd/application/command_line.h"
 #include "vqc/cmd/application/session.h"
