@@ -92,15 +92,15 @@ class ProgramTest : public testing::Test {
     redirect(actions, STDOUT_FILENO, streams_ / "out", surroundings.out_closed);
     redirect(actions, STDERR_FILENO, streams_ / "err", surroundings.err_closed);
     words.insert(words.begin(), program_name);
-    const char* program = VQCONFIG_PROGRAM;
+    std::string file = program;
     if (surroundings.memory != 0) {
       words.front() = program;
-      program = "/bin/sh";
+      file = "/bin/sh";
       words.insert(words.begin(), {"sh", "-c", "ulimit -v $0 && exec \"$@\"", std::to_string(surroundings.memory)});
     }
     std::vector<std::string> environment = bare_environment();
     environment.insert(environment.end(), surroundings.environment.begin(), surroundings.environment.end());
-    const int status = wait_for(spawn(program, actions, words, environment));
+    const int status = wait_for(spawn(file, actions, words, environment));
     return {status, surroundings.out_closed ? "" : read_file(streams_ / "out"),
             surroundings.err_closed ? "" : read_file(streams_ / "err")};
   }
@@ -117,7 +117,8 @@ class ProgramTest : public testing::Test {
   bool exists(std::string_view name) const { return std::filesystem::exists(folder / name); }
 
   TemporaryFolder folder;
-  std::string program_name = "vqconfig";  // what the program is told to be its name
+  std::string program = VQCONFIG_PROGRAM;  // the file that is run
+  std::string program_name = "vqconfig";   // what the program is told to be its name
 
  private:
   static void redirect(SpawnActions& actions, int descriptor, const std::string& path, bool closed) {
@@ -128,11 +129,11 @@ class ProgramTest : public testing::Test {
     }
   }
 
-  static pid_t spawn(const char* program, const SpawnActions& actions, std::vector<std::string>& words,
+  static pid_t spawn(const std::string& file, const SpawnActions& actions, std::vector<std::string>& words,
                      std::vector<std::string>& environment) {
     pid_t process = 0;
-    const int error = posix_spawn(&process, program, actions.get(), nullptr, pointers_to(words).data(),
-                                  pointers_to(environment).data());
+    const int error = posix_spawnp(&process, file.c_str(), actions.get(), nullptr, pointers_to(words).data(),
+                                   pointers_to(environment).data());
     if (error != 0) throw std::runtime_error(std::string("cannot run the program: ") + std::strerror(error));
     return process;
   }

@@ -23,8 +23,8 @@
 #include "gui/looks.h"
 #include "gui/parts.h"
 #include "support/windows.h"
-#include "vqc/cmd/application/session.h"
 #include "vqc/cmd/editors/kit/shown_names.h"
+#include "vqc/cmd/editors/program/session.h"
 
 namespace {
 

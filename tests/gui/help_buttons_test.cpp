@@ -19,9 +19,9 @@
 #include "libkel/installation.h"
 #include "libkel/message.h"
 #include "support/windows.h"
-#include "vqc/cmd/application/help.h"
-#include "vqc/cmd/application/session.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
+#include "vqc/cmd/editors/program/help.h"
+#include "vqc/cmd/editors/program/session.h"
 
 // Help as a user has it: the installed viewer with the installed pages, next to the dialogs.
 

@@ -6,7 +6,7 @@
 
 #include "gui/looks.h"
 #include "support/windows.h"
-#include "vqc/cmd/application/session.h"
+#include "vqc/cmd/editors/program/session.h"
 
 namespace {
 

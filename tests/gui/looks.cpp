@@ -12,7 +12,7 @@
 #include <stdexcept>
 
 #include "gui/parts.h"
-#include "vqc/cmd/application/session.h"
+#include "vqc/cmd/editors/program/session.h"
 
 namespace {
 

@@ -69,8 +69,9 @@ bool wait_until_true(const std::function<bool()>& condition) {
   return true;
 }
 
-RunningProgram::RunningProgram(std::vector<std::string> words, const std::string& display_name) {
-  words.insert(words.begin(), {"env", "DISPLAY=" + display_name, VQCONFIG_PROGRAM});
+RunningProgram::RunningProgram(std::vector<std::string> words, const std::string& display_name,
+                               const std::string& program) {
+  words.insert(words.begin(), {"env", "DISPLAY=" + display_name, program});
   process_ = start_process(words, streams_ / "err", "/dev/null");
 }
 
@@ -134,6 +135,10 @@ void OtherDisplay::key(const char* name, bool with_control) {
   XTestFakeKeyEvent(connection_, code, False, CurrentTime);
   if (with_control) XTestFakeKeyEvent(connection_, control, False, CurrentTime);
   XSync(connection_, False);
+}
+
+std::string OtherDisplay::property_of(Window window, const char* name) const {
+  return property(connection_, window, name);
 }
 
 void OtherDisplay::move(Window window, int x, int y) {

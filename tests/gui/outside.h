@@ -19,7 +19,9 @@ std::vector<pid_t> processes(const std::string& program, const std::string& disp
 /// The program as a process; it is killed if it is left running.
 class RunningProgram {
  public:
-  RunningProgram(std::vector<std::string> words, const std::string& display_name);
+  /// Starts it on a display with these words after its name.
+  RunningProgram(std::vector<std::string> words, const std::string& display_name,
+                 const std::string& program = VQCONFIG_PROGRAM);
   RunningProgram(const RunningProgram&) = delete;
   RunningProgram& operator=(const RunningProgram&) = delete;
   ~RunningProgram();
@@ -51,6 +53,8 @@ class OtherDisplay {
   void focus(const std::string& title);
   void type(const std::string& text);
   void key(const char* name, bool with_control = false);
+  /// What a property of a window holds.
+  std::string property_of(Window window, const char* name) const;
   /// Moves a window, and where its upper left corner is.
   void move(Window window, int x, int y);
   std::pair<int, int> corner(Window window) const;

@@ -9,7 +9,7 @@
 #include <map>
 #include <memory>
 
-#include "vqc/cmd/application/session.h"
+#include "vqc/cmd/editors/program/session.h"
 
 namespace {
 

@@ -4,10 +4,10 @@
 
 #include "gui/looks.h"
 #include "support/windows.h"
-#include "vqc/cmd/application/session.h"
 #include "vqc/cmd/editors/kit/beside.h"
 #include "vqc/cmd/editors/kit/placement.h"
 #include "vqc/cmd/editors/kit/window_memory.h"
+#include "vqc/cmd/editors/program/session.h"
 
 static void PrintTo(const ScreenArea& area, std::ostream* out) { *out << geometry_of(area); }
 

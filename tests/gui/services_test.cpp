@@ -2,8 +2,8 @@
 #include "gui/looks.h"
 #include "gui/parts.h"
 #include "gui/session.h"
-#include "vqc/cmd/application/links.h"
 #include "vqc/cmd/editors/kit/cursor.h"
+#include "vqc/cmd/editors/program/links.h"
 #include "vqc/cmd/editors/title.h"
 
 // Small services of the whole program: the callbacks that interface code can name, the busy cursor and the titles.

@@ -13,9 +13,9 @@
 #include "gui/hands.h"
 #include "gui/looks.h"
 #include "vqc/cmd/application/command_line.h"
-#include "vqc/cmd/application/session.h"
 #include "vqc/cmd/editors/dialogs/family_dialog.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
+#include "vqc/cmd/editors/program/session.h"
 
 std::optional<int> exit_status;
 std::vector<std::string> warnings;
@@ -88,7 +88,6 @@ void Session::start(std::vector<std::string> words) {
   if (const char* obstacle = open_display(&argc, argv.data())) throw std::runtime_error(obstacle);
   XtAppSetWarningHandler(context(), keep_warning);
   parse_command_line(argc, argv.data());
-  interactive = true;
   if (!start_session(argc, argv.data())) throw std::runtime_error("the session does not start");
   session_hooks.end = [](int status) { exit_status = status; };
   wait_for([] { return is_viewable(main_shell()); });

@@ -10,7 +10,7 @@
 #include "gui/pixels.h"
 #include "gui/session.h"
 #include "gui/widget_tables.h"
-#include "vqc/cmd/application/session.h"
+#include "vqc/cmd/editors/program/session.h"
 
 // Where the Tab key goes: through each window as it is read.
 

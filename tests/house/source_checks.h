@@ -12,7 +12,7 @@
 // What every source must keep to. A path is spelled from src/, as includes are.
 
 /// A layer, by what the paths of its files begin with, and the layers whose headers its files may include beside their
-/// own.
+/// own. A folder within another comes first.
 struct Layer {
   std::string_view folder;
   std::vector<std::string_view> may_include;
@@ -28,10 +28,11 @@ inline const std::vector<Layer>& layers() {
       {"vqc/cmd/model/", {"libkel/"}},
       {"vqc/cmd/savefile/", {"libkel/", "vqc/cmd/model/"}},
       {"vqc/cmd/generate/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/"}},
-      {"vqc/cmd/editors/", {"libkel/", "desktop/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/generate/"}},
-      {"vqc/cmd/application/",
+      {"vqc/cmd/application/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/generate/"}},
+      {"vqc/cmd/editors/program/",
        {"libkel/", "desktop/", "help/client/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/generate/",
-        "vqc/cmd/editors/"}},
+        "vqc/cmd/application/", "vqc/cmd/editors/"}},
+      {"vqc/cmd/editors/", {"libkel/", "desktop/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/generate/"}},
   };
   return all;
 }
@@ -100,8 +101,12 @@ inline std::vector<std::string> includes_of(const std::string& source) {
 }
 
 inline constexpr std::array motif_users = {std::string_view("desktop/"), std::string_view("vqc/cmd/editors/"),
-                                           std::string_view("vqc/cmd/application/"), std::string_view("help/viewer/")};
-inline constexpr std::array exit_callers = {std::string_view("vqc/cmd/application/"), std::string_view("help/viewer/")};
+                                           std::string_view("help/viewer/")};
+inline constexpr std::array x_users = {std::string_view("desktop/"), std::string_view("vqc/cmd/editors/"),
+                                       std::string_view("help/")};
+inline constexpr std::array exit_callers = {std::string_view("vqc/cmd/application/"),
+                                            std::string_view("vqc/cmd/editors/program/"),
+                                            std::string_view("help/viewer/")};
 
 /// Why the file at `path` may not include `header`, or "".
 inline std::string wrong_include(const std::string& path, const std::string& header) {
@@ -111,10 +116,12 @@ inline std::string wrong_include(const std::string& path, const std::string& hea
   if (name.starts_with("Xm/")) {
     return in_any(motif_users, path) ? "" : path + " includes Motif: " + header;
   }
+  if (name.starts_with("X11/")) return in_any(x_users, path) ? "" : path + " includes X: " + header;
   if (header.front() == '<')
     return layer_of(name) ? path + " takes a header of the program's for another's: " + header : "";
-  if (!layer_of(name)) return path + " includes a header that is not spelled from src/: " + header;
-  const bool allowed = name.starts_with(layer->folder) || in_any(layer->may_include, name);
+  const Layer* other = layer_of(name);
+  if (!other) return path + " includes a header that is not spelled from src/: " + header;
+  const bool allowed = other == layer || in_any(layer->may_include, other->folder);
   return allowed ? "" : path + " looks to the right: " + header;
 }
 

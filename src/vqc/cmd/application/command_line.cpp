@@ -93,4 +93,5 @@ class CommandLine {
 void parse_command_line(int argc, char** argv) {
   CommandLine(argc, argv).parse();
   batch_save = batch_save_file != nullptr;
+  interactive = !batch_config && !batch_code && !batch_stubs;
 }

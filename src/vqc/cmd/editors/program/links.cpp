@@ -1,4 +1,4 @@
-#include "vqc/cmd/application/links.h"
+#include "vqc/cmd/editors/program/links.h"
 
 namespace {
 

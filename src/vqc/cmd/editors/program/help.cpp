@@ -1,8 +1,8 @@
-#include "vqc/cmd/application/help.h"
+#include "vqc/cmd/editors/program/help.h"
 
 #include "help/client/help.h"
 #include "libkel/message.h"
-#include "vqc/cmd/application/resources.h"
+#include "vqc/cmd/editors/program/resources.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
-#include "vqc/cmd/application/exit.h"
+#include "vqc/cmd/editors/program/exit.h"
 
 #include <cstdlib>
 
-#include "vqc/cmd/application/help.h"
 #include "vqc/cmd/editors/kit/memory.h"
 #include "vqc/cmd/editors/kit/placement.h"
+#include "vqc/cmd/editors/program/help.h"
 
 void ExitVQConfig(int status) {
   vqc_QuitHelp();

@@ -1,4 +1,4 @@
-#include "vqc/cmd/application/session.h"
+#include "vqc/cmd/editors/program/session.h"
 
 #include <Xm/Xm.h>
 
@@ -11,9 +11,6 @@
 #include "libkel/installation.h"
 #include "libkel/message.h"
 #include "vqc/cmd/application/batch.h"
-#include "vqc/cmd/application/exit.h"
-#include "vqc/cmd/application/help.h"
-#include "vqc/cmd/application/resources.h"
 #include "vqc/cmd/editors/aliaslist.h"
 #include "vqc/cmd/editors/convlist.h"
 #include "vqc/cmd/editors/dialogs/family_dialog.h"
@@ -29,6 +26,9 @@
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
+#include "vqc/cmd/editors/program/exit.h"
+#include "vqc/cmd/editors/program/help.h"
+#include "vqc/cmd/editors/program/resources.h"
 #include "vqc/cmd/editors/stop.h"
 #include "vqc/cmd/editors/title.h"
 #include "vqc/cmd/editors/widgetlist.h"

@@ -1,10 +1,7 @@
-#ifndef VQC_CMD_APPLICATION_SESSION_H
-#define VQC_CMD_APPLICATION_SESSION_H
+#ifndef VQC_CMD_EDITORS_PROGRAM_SESSION_H
+#define VQC_CMD_EDITORS_PROGRAM_SESSION_H
 
 #include <X11/Intrinsic.h>
-
-/// Whether this is a session with a user, not a batch run.
-inline bool interactive = false;
 
 /// The connection to the display; null when none could be opened.
 inline Display* display = nullptr;

@@ -1,4 +1,4 @@
-#include "vqc/cmd/application/resources.h"
+#include "vqc/cmd/editors/program/resources.h"
 
 #include <X11/StringDefs.h>
 
