@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -166,6 +167,21 @@ TEST_F(Installed, ProgramFindsItsEditor) {
   fs::rename(place / "usr", place / "opt");
   program = place / "opt/bin/vqconfig";
   EXPECT_EQ(no_display, run({"missing"}));
+}
+
+TEST_F(Installed, ComponentBatchIsWhatAMachineNeedsThatOnlyGenerates) {
+  install({"--component", "batch"});
+  std::vector<std::string> found;
+  for (const auto& entry : fs::recursive_directory_iterator(place.path())) {
+    if (entry.is_regular_file()) found.push_back(fs::relative(entry.path(), place / "usr"));
+  }
+  std::sort(found.begin(), found.end());
+  EXPECT_EQ((Words{"bin/vqconfig", "share/man/man1/vqconfig.1", "share/man/man5/vqc.5"}), found);
+  EXPECT_EQ(silence, run({"-cCs", folder.with("w.vqc", "VQconfig")}));
+  EXPECT_EQ((Outcome{255, "",
+                     "vqconfig: cannot start the editor, " + place.path() +
+                         "/usr/libexec/vqconfig-editor: " + "No such file or directory. Exiting...\n"}),
+            run({"w.vqc"}));
 }
 
 class Display : public Installation {
