@@ -39,9 +39,11 @@ MOST_OVER_FLOOR = {"large": 2.5, "huge": 3.0}
 MOST_GROWTH = 1.10
 MOST_PER_BYTE = 2.0  # times the cost of a byte of the plain large document
 MOST_MEMORY = 2.5  # bytes for each byte of input
-MOST_SMALL = 1.3  # times the empty program
+MOST_SMALL = 1.0  # times the quickest peer
+MOST_SMALL_BEFORE = 0.5  # times an earlier build
 
-PEER_ROUNDS = {"medium": 9, "large": 3}
+START_ROUNDS = 101
+PEER_ROUNDS = {"small": START_ROUNDS, "medium": 9, "large": 3}
 PEERS = {  # name: language of the description, its file's ending, command
     "wayland-scanner private-code": ("wayland", ".xml", ["wayland-scanner", "private-code", "{input}", "{out}/b.c"]),
     "wayland-scanner client-header": ("wayland", ".xml", ["wayland-scanner", "client-header", "{input}", "{out}/b.h"]),
@@ -116,7 +118,8 @@ class Bench:
         self.vqconfig = str(options.vqconfig.resolve())
         self.folder = Path(folder)
         self.environment = {name: value for name, value in os.environ.items() if name != "DISPLAY"}
-        self.empty = self.job("empty", Path(os.devnull), [str(options.empty.resolve())], rounds=101)
+        self.empty = self.job("empty", Path(os.devnull), [str(options.empty.resolve())], START_ROUNDS)
+        self.before = options.before and str(options.before.resolve())
 
     def job(self, name, source, command, rounds):
         """A job whose command may say {out} for its folder and {input} for what it reads."""
@@ -124,9 +127,9 @@ class Bench:
         filled = [word.format(out=out, input=source) for word in command]
         return Job(name, filled, out, source.stat().st_size, rounds)
 
-    def tool_job(self, name, document, rounds):
+    def tool_job(self, name, document, rounds, program=None):
         files = ["-C", "{out}/config.c", "-c", "{out}/code.c", "-s", "{out}/stubs.c"]
-        return self.job(name, document, [self.vqconfig, *files, "{input}"], rounds)
+        return self.job(name, document, [program or self.vqconfig, *files, "{input}"], rounds)
 
     def floor_job(self, document, lengths, rounds):
         """The floor writes files as long as the generated ones."""
@@ -254,16 +257,24 @@ class Report:
 
 def report_small(bench, report):
     """Measures the empty program as well, which the other parts need: it must come first."""
-    report.heading("A small document, beside an empty program with the same libraries")
+    report.heading("A small document: CPU milliseconds and peak megabytes of a run, from its start to its end")
     document = bench.make("make_document", "small.vqc", plain("small"))
-    job = bench.tool_job("vqconfig", document, bench.empty.rounds)
-    bench.take_turns([bench.empty, job])
-    print(f"  empty program {bench.empty.seconds * 1e3:.2f} ms, {bench.empty.peak / 1e6:.1f} MB; "
-          f"vqconfig {job.seconds * 1e3:.2f} ms, {job.peak / 1e6:.1f} MB")
-    report.wrong += bool(job.status or bench.empty.status)
-    report.figure("small: CPU time, times that of the empty program", job.seconds / bench.empty.seconds, "at most",
-                  MOST_SMALL)
-    bench.discard([document])
+    tool = bench.tool_job("vqconfig", document, START_ROUNDS)
+    before = bench.tool_job("earlier vqconfig", document, START_ROUNDS, bench.before) if bench.before else None
+    peers, inputs = peer_jobs(bench, "small")
+    jobs = [bench.empty, tool, *([before] if before else []), *peers]
+    bench.take_turns(jobs)
+    for job in jobs:
+        print(f"  {job.name:<36} {job.seconds * 1e3:8.2f} {job.peak / 1e6:8.1f}")
+    report.wrong += bool(tool.status or bench.empty.status)
+    if before:
+        report.figure("small: CPU time, times that of the earlier build", tool.seconds / before.seconds, "at most",
+                      MOST_SMALL_BEFORE)
+    if survivors := [peer for peer in peers if not peer.status]:
+        quickest = min(survivors, key=lambda peer: peer.seconds)
+        report.figure(f"small: CPU time, times that of {quickest.name}", tool.seconds / quickest.seconds, "at most",
+                      MOST_SMALL)
+    bench.discard([document, *inputs])
 
 
 def report_throughput(report, measured):
@@ -359,6 +370,7 @@ def parse_options():
     parser.add_argument("--tools", type=Path, required=True,
                         help="folder with make_document, make_peers, floor, measure and empty")
     parser.add_argument("--empty", type=Path, help="an empty program with vqconfig's libraries, if not in that folder")
+    parser.add_argument("--before", type=Path, help="an earlier build of vqconfig, to compare the small document with")
     parser.add_argument("--quick", action="store_true", help="leave out the huge document and the longest lists")
     parser.add_argument("--temp", help="where to make the temporary folder, which needs about 3 GB")
     options = parser.parse_args()
