@@ -1,6 +1,10 @@
-#include "gui/session.h"
+#include <gtest/gtest.h>
+
+#include <X11/Intrinsic.h>
 
 #include <cstdlib>
+#include <string>
+#include <vector>
 
 #include "vqc/cmd/application/toolkit_words.h"
 
