@@ -18,7 +18,7 @@
 
 #include "desktop/search_path.h"
 #include "vqc/cmd/application/command_line.h"
-#include "vqc/cmd/editors/dialogs/family_dialog.h"
+#include "vqc/cmd/editors/familydlg.h"
 #include "vqc/cmd/editors/program/session.h"
 
 namespace {

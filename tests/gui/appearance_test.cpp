@@ -36,8 +36,7 @@ class Appearance : public Session {
 
   static void open_widget_editor() {
     edit_family("Athena");
-    enter("widgetlist_selection", "Label");
-    press_ok("widgetlist_selection");
+    edit_widget("Label");
     ASSERT_TRUE(has_keyboard("widgetedit_dialog"));
   }
 };
@@ -201,11 +200,8 @@ std::map<std::string, std::vector<int>> places_in(Widget w, const std::string& p
   std::map<std::string, std::vector<int>> places;
   const Area area = area_of(w);
   if (!XmIsList(w)) places[path] = {area.left, area.top, area.width, area.height};
-  if (!XtIsComposite(w) || path.ends_with("SW")) return places;
-  WidgetList children = nullptr;
-  Cardinal count = 0;
-  XtVaGetValues(w, XmNchildren, &children, XmNnumChildren, &count, nullptr);
-  for (Cardinal i = 0; i < count; ++i) places.merge(places_in(children[i], path + "." + XtName(children[i])));
+  if (path.ends_with("SW")) return places;
+  for (Widget child : children_of(w)) places.merge(places_in(child, path + "." + XtName(child)));
   return places;
 }
 

@@ -54,8 +54,7 @@ class ArrowList : public Session, public testing::WithParamInterface<Arrows> {
     edit_family("F");
     ASSERT_TRUE(is_shown("entity_dialog"));
     if (box() == "enumedit_selection") {
-      enter("enumlist_selection", "E");
-      press_ok("enumlist_selection");
+      edit_enumeration("E");
       ASSERT_TRUE(is_shown("enumedit_dialog"));
     } else if (!is_set(arrows().view)) {
       choose_menu("entity_viewb", arrows().view);

@@ -18,10 +18,7 @@ class EnumEditor : public Session {
     edit_family("F");
   }
 
-  static void edit(const std::string& name) {
-    enter("enumlist_selection", name);
-    press_ok("enumlist_selection");
-  }
+  static void edit(const std::string& name) { edit_enumeration(name); }
   static void expect_fields(const char* type_field, const char* code, const char* resfile) {
     EXPECT_EQ(type_field, text("enumedit_type"));
     EXPECT_EQ(code, text("enumedit_code_symbol"));

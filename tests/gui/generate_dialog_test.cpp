@@ -38,10 +38,8 @@ struct FamilyToggle {
 
 /// The toggles of the families, in their order.
 std::vector<Widget> family_toggles() {
-  WidgetList children = nullptr;
-  Cardinal count = 0;
-  XtVaGetValues(widget("gen_toggles"), XmNchildren, &children, XmNnumChildren, &count, nullptr);
-  return {children, children + count};
+  const auto children = children_of(widget("gen_toggles"));
+  return {children.begin(), children.end()};
 }
 
 std::vector<FamilyToggle> toggles_shown() {

@@ -356,3 +356,39 @@ void edit_family(const std::string& name) {
   enter("family_selection", name);
   press_ok("family_selection");
 }
+
+void edit_widget(const std::string& name) {
+  enter("widgetlist_selection", name);
+  press_ok("widgetlist_selection");
+}
+
+void edit_enumeration(const std::string& name) {
+  enter("enumlist_selection", name);
+  press_ok("enumlist_selection");
+}
+
+std::string saved() {
+  if (save_file) {
+    press("family_saveb");
+  } else {
+    save_as("saved.vqc");
+  }
+  return read_file(save_file.c_str());
+}
+
+std::string saved_item(const std::string& beginning) {
+  const std::string document = saved();
+  const std::size_t line_end = document.find("\n" + beginning);
+  if (line_end == std::string::npos) return "";
+  return document.substr(line_end + 1, document.find("\n}\n", line_end) + 2 - line_end);
+}
+
+std::vector<std::string> saved_names(const std::string& family, const std::string& keyword) {
+  std::istringstream lines(saved_item("family '" + family + "' {"));
+  const std::string beginning = "\t" + keyword + "='";
+  std::vector<std::string> names;
+  for (std::string line; std::getline(lines, line);) {
+    if (line.starts_with(beginning)) names.push_back(line.substr(beginning.size(), line.size() - beginning.size() - 1));
+  }
+  return names;
+}

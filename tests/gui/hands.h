@@ -75,5 +75,15 @@ void read_into(const std::string& path);
 /// Adds a family, and opens the family dialog on it.
 void add_family(const std::string& name);
 void edit_family(const std::string& name);
+/// Opens the widget editor, or the enumeration editor, from the family dialog.
+void edit_widget(const std::string& name);
+void edit_enumeration(const std::string& name);
+
+/// The document as the program's own Save writes it.
+std::string saved();
+/// What stands in it from a line that begins like this up to the "}" that ends the item; "" when there is none.
+std::string saved_item(const std::string& beginning);
+/// The names that a family lists there under a keyword.
+std::vector<std::string> saved_names(const std::string& family, const std::string& keyword);
 
 #endif

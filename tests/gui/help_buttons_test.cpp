@@ -59,8 +59,8 @@ void overlook_leaks_of_libraries() {
 
 /// The window that a user has before him when he presses a button.
 Widget window_of(const std::string& button) {
-  Widget shell = shell_of(widget(button));
-  return XmIsMenuShell(shell) ? shell_of(XtParent(shell)) : shell;
+  Widget shell = shell_around(widget(button));
+  return XmIsMenuShell(shell) ? shell_around(XtParent(shell)) : shell;
 }
 
 /// A session whose user asks for help.
@@ -93,7 +93,7 @@ class Help : public EveryDialog {
   }
   /// The same of the help key.
   void expect_page_of_key(const std::string& part_of_window, const std::string& title) {
-    Widget shell = shell_of(widget(part_of_window));
+    Widget shell = shell_around(widget(part_of_window));
     ASSERT_TRUE(has_keyboard(shell)) << part_of_window;
     expect_page(title, shell, [] { key("F1"); });
   }
@@ -165,7 +165,7 @@ class HelpRequests : public Session {
   /// Clicks on the Help button of a box, and goes to it and presses its keys.
   static void expect_one_request(const std::string& box, const std::string& topic) {
     const std::vector<std::string> once = {topic};
-    turn_to(shell_of(widget(box)));
+    turn_to(shell_around(widget(box)));
     topics.clear();
     click(box + ".Help");
     EXPECT_EQ(once, topics) << box;
@@ -200,15 +200,13 @@ TEST_F(HelpRequests, OfTheListsOfAFamilyAreMadeOnce) {
 
 TEST_F(HelpRequests, OfAnEnumerationAreMadeOnce) {
   edit_family("F");
-  enter("enumlist_selection", "E");
-  press_ok("enumlist_selection");
+  edit_enumeration("E");
   expect_one_request("enumedit_selection", "vqc_enum_edit");
 }
 
 TEST_F(HelpRequests, OfThePickersAreMadeOnce) {
   edit_family("F");
-  enter("widgetlist_selection", "W");
-  press_ok("widgetlist_selection");
+  edit_widget("W");
   press("widgetedit_page_b");
   expect_one_request("pageedit_selection", "vqc_page_edit");
   press_cancel("pageedit_selection");
@@ -285,8 +283,7 @@ TEST_F(HelpKey, OpensThePageOfTheOptions) {
 
 TEST_F(HelpKey, OpensThePageOfTheWidgetEditor) {
   edit_family("F");
-  enter("widgetlist_selection", "W");
-  press_ok("widgetlist_selection");
+  edit_widget("W");
   click("widgetedit_include_filename");
   expect_page_of_key("widgetedit_include_filename", "Widget Editor");
 }

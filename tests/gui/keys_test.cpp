@@ -2,8 +2,7 @@
 
 #include <Xm/TextF.h>
 
-#include <ostream>
-
+#include "gui/dialogs.h"
 #include "gui/hands.h"
 #include "gui/looks.h"
 #include "gui/parts.h"
@@ -15,88 +14,25 @@
 
 namespace {
 
-const char document[] =
-    "VQconfig\nwidget 'W' {\n}\nenumeration 'E' {\nenumentry 'e' {\n}\n}\n"
-    "family 'F' {\nwidget='W'\nenumeration='E'\n}\n";
-
 /// All that have no use; the main window has menu items for three more.
 const std::string unused_letters = "bdefghijkmptuy";
 const std::string letters_of_menus = "lnr";
 
-void edit_widget() {
-  edit_family("F");
-  enter("widgetlist_selection", "W");
-  press_ok("widgetlist_selection");
+/// The error box too, while a question waits for its answer.
+std::vector<Dialog> modal_dialogs() {
+  std::vector<Dialog> dialogs = every_dialog(Rank::modal);
+  dialogs.push_back({"error_dialog", [] {
+                       dialogs_of({"savechanges_dialog"}).front().open();
+                       error_show("bad_save_file");
+                     }});
+  return dialogs;
 }
-
-void edit_enumeration() {
-  edit_family("F");
-  enter("enumlist_selection", "E");
-  press_ok("enumlist_selection");
-}
-
-void pick_page() {
-  edit_widget();
-  press("widgetedit_page_b");
-}
-
-void pick_popup() {
-  edit_widget();
-  press("widgetedit_popup_b");
-}
-
-void ask_about_resource() {
-  edit_widget();
-  enter("we_resource_t", "r");
-  press("widgetedit_closeb");
-}
-
-void ask_about_changes() {
-  add_family("Changed");
-  press("family_exitb");
-}
-
-void show_error() { error_show("bad_save_file"); }
-
-void show_error_during_a_question() {
-  ask_about_changes();
-  show_error();
-}
-
-/// A dialog, and how a user comes to it.
-struct Dialog {
-  const char* shell;
-  void (*open)();
-};
-void PrintTo(const Dialog& dialog, std::ostream* stream) { *stream << dialog.shell; }
-
-const Dialog dialogs[] = {
-    {"entity_dialog", [] { edit_family("F"); }},
-    {"widgetedit_dialog", edit_widget},
-    {"enumedit_dialog", edit_enumeration},
-    {"pageedit_dialog", pick_page},
-    {"popupedit_dialog", pick_popup},
-    {"stop_list_shell", [] { press("family_stop_b"); }},
-    {"options_shell", [] { press("family_generate_options_b"); }},
-    {"open_dialog", [] { press("family_openb"); }},
-    {"read_dialog", [] { press("family_readb"); }},
-    {"save_dialog", [] { press("family_saveasb"); }},
-    {"about_dialog", [] { press("family_helpaboutb"); }},
-    {"error_dialog", show_error},
-};
-
-const Dialog modal_dialogs[] = {
-    {"gen_dialog", [] { press("family_genconfigb"); }},
-    {"resource_warn_dialog", ask_about_resource},
-    {"savechanges_dialog", ask_about_changes},
-    {"error_dialog", show_error_during_a_question},
-};
 
 /// The text fields that can be seen in a window.
 std::vector<Widget> fields_in(Widget shell) {
   std::vector<Widget> fields;
   for_each_below(shell, [&](Widget w) {
-    if (XmIsTextField(w) && shell_of(w) == shell && is_viewable(w)) fields.push_back(w);
+    if (XmIsTextField(w) && shell_around(w) == shell && is_viewable(w)) fields.push_back(w);
   });
   return fields;
 }
@@ -106,7 +42,7 @@ int times_ended = 0;
 class Keys : public Session {
  protected:
   Keys() {
-    start({"-xrm", "VQconfig*generateOptions: True", folder.with("document.vqc", document)});
+    start({"-xrm", "VQconfig*generateOptions: True", folder.with("document.vqc", document_for_dialogs)});
     session_hooks.end = [](int) { ++times_ended; };
   }
   std::string file() const { return read_file(folder / "document.vqc"); }
@@ -158,11 +94,10 @@ TEST_P(KeysOfDialog, CloseItAndOtherwiseDoNothing) {
   EXPECT_FALSE(is_shown(GetParam().shell));
   EXPECT_TRUE(is_viewable(main_shell()));
   EXPECT_EQ(0, times_ended);
-  EXPECT_EQ(document, file());
+  EXPECT_EQ(document_for_dialogs, file());
 }
 
-INSTANTIATE_TEST_SUITE_P(In, KeysOfDialog, testing::ValuesIn(dialogs),
-                         [](const testing::TestParamInfo<Dialog>& row) { return std::string(row.param.shell); });
+INSTANTIATE_TEST_SUITE_P(In, KeysOfDialog, testing::ValuesIn(every_dialog(Rank::modeless)), shell_name);
 
 class KeysOfModalDialog : public Keys, public testing::WithParamInterface<Dialog> {};
 
@@ -172,18 +107,18 @@ TEST_P(KeysOfModalDialog, CloseItAndStartNothingBehindIt) {
   for (const char* modifiers : {"ctrl", "ctrl+shift"}) type_with(modifiers, "soqnrl" + unused_letters);
   EXPECT_TRUE(has_keyboard(GetParam().shell));
   EXPECT_EQ(was_dirty, dirty);
-  EXPECT_EQ(document, file());
+  EXPECT_EQ(document_for_dialogs, file());
   for (const char* shell : {"open_dialog", "read_dialog", "save_dialog", "stop_list_shell"}) {
     EXPECT_FALSE(find_widget(shell)) << shell;
   }
   key("ctrl+w");
   EXPECT_FALSE(is_shown(GetParam().shell));
   EXPECT_EQ(was_dirty, dirty);
-  EXPECT_EQ(document, file());
+  EXPECT_EQ(document_for_dialogs, file());
   EXPECT_EQ(0, times_ended);
 }
 
-INSTANTIATE_TEST_SUITE_P(In, KeysOfModalDialog, testing::ValuesIn(modal_dialogs),
+INSTANTIATE_TEST_SUITE_P(In, KeysOfModalDialog, testing::ValuesIn(modal_dialogs()),
                          [](const testing::TestParamInfo<Dialog>& row) {
                            return std::string(row.param.shell) + std::to_string(row.index);
                          });
@@ -230,7 +165,7 @@ TEST_F(Keys, OfTheMainWindowKeepTheOthersOfItsMenus) {
 }
 
 TEST_F(Keys, AskBeforeAChangedResourceIsClosed) {
-  edit_widget();
+  open_widget_editor();
   click("we_resource_t");
   type("r");
   key("ctrl+w");
@@ -241,7 +176,7 @@ TEST_F(Keys, AskBeforeAChangedResourceIsClosed) {
 TEST_F(Keys, ActWithCapsLockAndNumLock) {
   switch_lock("Caps_Lock");
   switch_lock("Num_Lock");
-  edit_widget();
+  open_widget_editor();
   add_family("Extra");
   click("widgetedit_realise");
   type("a");
@@ -328,19 +263,11 @@ TEST_P(KeysInFieldsOfDialog, TypeNothing) {
   expect_no_letter_typed_in(widget(GetParam().shell));
 }
 
-const Dialog dialogs_with_fields[] = {
-    {"widgetedit_dialog", edit_widget},
-    {"enumedit_dialog", edit_enumeration},
-    {"pageedit_dialog", pick_page},
-    {"popupedit_dialog", pick_popup},
-    {"options_shell", [] { press("family_generate_options_b"); }},
-    {"open_dialog", [] { press("family_openb"); }},
-    {"read_dialog", [] { press("family_readb"); }},
-    {"save_dialog", [] { press("family_saveasb"); }},
-    {"gen_dialog", [] { press("family_genconfigb"); }},
-};
-INSTANTIATE_TEST_SUITE_P(Of, KeysInFieldsOfDialog, testing::ValuesIn(dialogs_with_fields),
-                         [](const testing::TestParamInfo<Dialog>& row) { return std::string(row.param.shell); });
+INSTANTIATE_TEST_SUITE_P(Of, KeysInFieldsOfDialog,
+                         testing::ValuesIn(dialogs_of({"widgetedit_dialog", "enumedit_dialog", "pageedit_dialog",
+                                                       "popupedit_dialog", "options_shell", "open_dialog",
+                                                       "read_dialog", "save_dialog", "gen_dialog"})),
+                         shell_name);
 
 TEST_F(KeysInFields, OfAFamilysPagesTypeNothing) {
   edit_family("F");
@@ -356,7 +283,7 @@ TEST_F(KeysInFields, OfAFamilysPagesTypeNothing) {
 class TakingBack : public Keys {
  protected:
   TakingBack() {
-    edit_widget();
+    open_widget_editor();
     click("widgetedit_realise");
   }
   static void expect_taken_back(const std::string& before, const std::string& after) {
@@ -459,7 +386,7 @@ TEST_F(TakingBack, WhatTheProgramWritesIsNotTakenBack) {
 
 TEST_F(TakingBack, KeepsWhatTheFieldCannotShow) {
   read_into(folder.with("odd.vqc", "VQconfig\nwidget 'W' {\nrealise='d\xfc'\n}\n"));
-  edit_widget();
+  open_widget_editor();
   click("widgetedit_realise");
   key("End");
   type("x");

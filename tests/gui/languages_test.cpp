@@ -62,12 +62,9 @@ class Language : public EveryDialog, public testing::WithParamInterface<const ch
  protected:
   static std::string path() { return std::string(RESOURCE_FILES) + "/" + GetParam() + "app-defaults/VQconfig"; }
 
-  static Names children_of(const std::string& name) {
-    WidgetList children = nullptr;
-    Cardinal count = 0;
-    XtVaGetValues(widget(name), XmNchildren, &children, XmNnumChildren, &count, nullptr);
+  static Names names_below(const std::string& name) {
     Names names;
-    for (Cardinal i = 0; i < count; ++i) names.emplace_back(XtName(children[i]));
+    for (Widget child : children_of(widget(name))) names.emplace_back(XtName(child));
     return names;
   }
 };
@@ -124,13 +121,8 @@ TEST_P(Language, EveryDialogHasATitle) {
   for (const char* shell :
        {"about_dialog", "error_dialog", "open_dialog", "read_dialog", "savechanges_dialog", "options_shell",
         "stop_list_shell", "pageedit_dialog", "popupedit_dialog", "resource_warn_dialog"}) {
-    const WidgetList children = [&] {
-      WidgetList list = nullptr;
-      XtVaGetValues(widget(shell), XmNchildren, &list, nullptr);
-      return list;
-    }();
-    EXPECT_NE("",
-              file.of_widget(widget(shell), "title", "Title") + file.of_widget(children[0], "dialogTitle", "XmString"))
+    EXPECT_NE("", file.of_widget(widget(shell), "title", "Title") +
+                      file.of_widget(children_of(widget(shell)).front(), "dialogTitle", "XmString"))
         << shell;
   }
 }
@@ -241,7 +233,7 @@ TEST_P(Language, MnemonicsAreLettersOfTheirLabelsAndUniqueInTheirMenus) {
   for (const char* menu : {"family_menubar", "family_file_menu", "family_edit_menu", "family_options_menu",
                            "family_generate_menu", "family_help_menu", "entity_menubar", "view_pulldown"}) {
     std::map<std::string, std::string> owners;
-    for (const std::string& name : children_of(menu)) {
+    for (const std::string& name : names_below(menu)) {
       if (!shows_label(widget(name))) continue;
       const std::string mnemonic = file.of_widget(widget(name), "mnemonic", "Mnemonic");
       ASSERT_EQ(1u, mnemonic.size()) << name;

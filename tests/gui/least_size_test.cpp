@@ -38,9 +38,9 @@ bool is_whole(const std::string& name) {
   Position shell_x = 0;
   Position shell_y = 0;
   XtTranslateCoords(w, 0, 0, &x, &y);
-  XtTranslateCoords(shell_of(w), 0, 0, &shell_x, &shell_y);
+  XtTranslateCoords(shell_around(w), 0, 0, &shell_x, &shell_y);
   const auto& area = reinterpret_cast<RectObj>(w)->rectangle;
-  const Size window = size_of(shell_of(w));
+  const Size window = size_of(shell_around(w));
   return is_viewable(w) && x >= shell_x && y >= shell_y && x + area.width <= shell_x + window.width &&
          y + area.height <= shell_y + window.height;
 }

@@ -236,8 +236,7 @@ TEST_F(LongSession, AWidgetWithTenResources) {
   start();
   add_family("F");
   edit_family("F");
-  enter("widgetlist_selection", "W");
-  press_ok("widgetlist_selection");
+  edit_widget("W");
   press_ok("widgetlist_selection");
   ASSERT_TRUE(is_shown("widgetedit_dialog"));
   for (const Resource& resource : ten_resources) edit_resource(resource);

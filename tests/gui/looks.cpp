@@ -134,8 +134,8 @@ bool is_shown(const std::string& shell) {
   settle();
   Widget w = find_widget(shell);
   if (!w) return false;
-  const auto children = value_of<WidgetList>(w, XmNchildren);
-  if (value_of<Cardinal>(w, XmNnumChildren) == 0 || !XtIsManaged(children[0])) return false;
+  const auto children = children_of(w);
+  if (children.empty() || !XtIsManaged(children.front())) return false;
   return wait_for([w] { return is_viewable(w); });
 }
 
@@ -147,7 +147,7 @@ bool has_keyboard(Widget shell) {
     int revert = 0;
     XGetInputFocus(display, &window, &revert);
     Widget focused = window > PointerRoot ? XtWindowToWidget(display, window) : nullptr;
-    return focused && shell_of(focused) == shell;
+    return focused && shell_around(focused) == shell;
   });
 }
 

@@ -120,8 +120,7 @@ class NameList : public Session, public testing::WithParamInterface<List> {
     if (list().view) {
       if (!is_set(list().view)) choose_menu("entity_viewb", list().view);
     } else if (box() == "enumedit_selection") {
-      enter("enumlist_selection", "E");
-      press_ok("enumlist_selection");
+      edit_enumeration("E");
     } else {
       open_widget();
     }
@@ -129,8 +128,7 @@ class NameList : public Session, public testing::WithParamInterface<List> {
   }
 
   void open_widget() const {
-    enter("widgetlist_selection", "W");
-    press_ok("widgetlist_selection");
+    edit_widget("W");
     if (box() == "pageedit_selection") press("widgetedit_page_b");
     if (box() == "popupedit_selection") press("widgetedit_popup_b");
   }
@@ -290,7 +288,7 @@ TEST_P(NameList, ADoubleClickDoesWhatOkDoes) {
   double_click_row(box(), place(1));
   if (list().opener) {
     ASSERT_NE(nullptr, find_widget(list().field));
-    EXPECT_TRUE(is_shown(XtName(shell_of(widget(list().field)))));
+    EXPECT_TRUE(is_shown(XtName(shell_around(widget(list().field)))));
   }
   const bool ok_updates = list().field && !list().opener && std::string(list().ok).ends_with(".OK");
   EXPECT_EQ(ok_updates, dirty);

@@ -17,8 +17,7 @@ class PageEditor : public Session {
   PageEditor() {
     open_document(document);
     edit_family("F");
-    enter("widgetlist_selection", "W");
-    press_ok("widgetlist_selection");
+    edit_widget("W");
     select("we_resource_list", "r");
   }
   static void add(const std::string& name) {

@@ -32,8 +32,7 @@ class PopupEditor : public Session {
   PopupEditor() {
     open_document(document);
     edit_family("F");
-    enter("widgetlist_selection", "W");
-    press_ok("widgetlist_selection");
+    edit_widget("W");
     select("we_resource_list", "r");
   }
   static void expect_fields(const char* name, const char* init, const char* update) {

@@ -23,8 +23,7 @@ class ResourceEditor : public Session {
   void edit(std::string_view document = three_resources) {
     open_document(document);
     edit_family("F");
-    enter("widgetlist_selection", "W");
-    press_ok("widgetlist_selection");
+    edit_widget("W");
     ASSERT_TRUE(is_shown("widgetedit_dialog"));
   }
   void edit_empty_widget() { edit("VQconfig\nwidget 'W' {\n}\nfamily 'F' {\nwidget='W'\n}\n"); }

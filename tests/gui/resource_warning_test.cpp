@@ -17,8 +17,7 @@ class ResourceWarning : public Session {
         "'second','p','misc',True,VQC_FREE_DEFAULT,VQC_FREE_DEFAULT;\n}\n"
         "family 'F' {\nwidget='W'\n}\n");
     edit_family("F");
-    enter("widgetlist_selection", "W");
-    press_ok("widgetlist_selection");
+    edit_widget("W");
   }
 
   static Items resources() { return items("we_resource_list"); }

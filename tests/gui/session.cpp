@@ -1,19 +1,15 @@
 #include "gui/session.h"
 
-#include <Xm/TextF.h>
 #include <poll.h>
 #include <unistd.h>
 
 #include <array>
 #include <chrono>
-#include <sstream>
 #include <stdexcept>
 
 #include "desktop/search_path.h"
-#include "gui/hands.h"
-#include "gui/looks.h"
+#include "support/windows.h"
 #include "vqc/cmd/application/command_line.h"
-#include "vqc/cmd/editors/dialogs/family_dialog.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/program/session.h"
 
@@ -90,7 +86,7 @@ void Session::start(std::vector<std::string> words) {
   parse_command_line(argc, argv.data());
   if (!start_session(argc, argv.data())) throw std::runtime_error("the session does not start");
   session_hooks.end = [](int status) { exit_status = status; };
-  wait_for([] { return is_viewable(main_shell()); });
+  wait_for([] { return is_viewable(display, XtWindow(main_shell())); });
   settle();
 }
 
@@ -112,43 +108,10 @@ bool wait_for(const std::function<bool()>& condition, double seconds) {
 
 long events_seen(int type) { return event_counts[static_cast<std::size_t>(type)]; }
 
-Widget main_shell() { return family_dialog[FAMILY_SHELL]; }
-
 Widget find_widget(const std::string& name) { return XtNameToWidget(main_shell(), ("*" + name).c_str()); }
 
 Widget widget(const std::string& name) {
   Widget found_widget = find_widget(name);
   if (!found_widget) throw std::runtime_error("there is no widget " + name);
   return found_widget;
-}
-
-Widget shell_of(Widget w) {
-  while (!XtIsShell(w)) w = XtParent(w);
-  return w;
-}
-
-std::string saved() {
-  if (save_file) {
-    press("family_saveb");
-  } else {
-    save_as("saved.vqc");
-  }
-  return read_file(save_file.c_str());
-}
-
-std::string saved_item(const std::string& beginning) {
-  const std::string document = saved();
-  const std::size_t line_end = document.find("\n" + beginning);
-  if (line_end == std::string::npos) return "";
-  return document.substr(line_end + 1, document.find("\n}\n", line_end) + 2 - line_end);
-}
-
-std::vector<std::string> saved_names(const std::string& family, const std::string& keyword) {
-  std::istringstream lines(saved_item("family '" + family + "' {"));
-  const std::string beginning = "\t" + keyword + "='";
-  std::vector<std::string> names;
-  for (std::string line; std::getline(lines, line);) {
-    if (line.starts_with(beginning)) names.push_back(line.substr(beginning.size(), line.size() - beginning.size() - 1));
-  }
-  return names;
 }

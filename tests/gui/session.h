@@ -17,6 +17,8 @@
 
 #include "support/files.h"
 #include "support/model.h"
+#include "vqc/cmd/editors/kit/main_shell.h"
+#include "vqc/cmd/editors/kit/widgets.h"
 
 /// A test of a session with the program, inside the test's process: one session per process, since the toolkit keeps
 /// state for life. Fails when the toolkit prints a warning.
@@ -45,21 +47,10 @@ bool wait_for(const std::function<bool()>& condition, double seconds = 8);
 /// How many X events of a type the program has been given.
 long events_seen(int type);
 
-/// The main window's shell.
-Widget main_shell();
 /// The widget of that name, wherever it is in the program; "box.Text" is a child of "box", "box*ItemsList" is somewhere
 /// below it. Null when there is none.
 Widget find_widget(const std::string& name);
 /// The same, and an error when there is none.
 Widget widget(const std::string& name);
-/// The shell that a widget is in.
-Widget shell_of(Widget w);
-
-/// The document as the program's own Save writes it.
-std::string saved();
-/// What stands in it from a line that begins like this up to the "}" that ends the item; "" when there is none.
-std::string saved_item(const std::string& beginning);
-/// The names that a family lists there under a keyword.
-std::vector<std::string> saved_names(const std::string& family, const std::string& keyword);
 
 #endif

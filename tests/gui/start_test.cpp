@@ -165,8 +165,7 @@ TEST_F(NoResourceFile, TheQuestionShowsItsBareName) {
 TEST_F(NoResourceFile, EditingGoesOn) {
   open_document(athena);
   edit_family("Athena");
-  enter("widgetlist_selection", "Label");
-  press_ok("widgetlist_selection");
+  edit_widget("Label");
   EXPECT_EQ(Items{"r"}, items("we_resource_list"));
   add_family("New");
   EXPECT_NE("", saved_item("family 'New'"));
@@ -177,7 +176,7 @@ TEST_F(NoResourceFile, EveryFileBoxOpens) {
   for (const auto& [item, box] : {std::pair("family_openb", "open_fsb"), std::pair("family_readb", "read_fsb"),
                                   std::pair("family_saveasb", "save_fsb"), std::pair("family_genconfigb", "gen_fsb")}) {
     press(item);
-    const std::string shell = XtName(shell_of(widget(box)));
+    const std::string shell = XtName(shell_around(widget(box)));
     EXPECT_TRUE(is_shown(shell)) << box;
     press(std::string(box) + ".Cancel");
   }

@@ -91,8 +91,7 @@ class TabOrder : public Session {
 
   static void open_widget_editor() {
     edit_family("F");
-    enter("widgetlist_selection", "W");
-    press_ok("widgetlist_selection");
+    edit_widget("W");
   }
 
   static constexpr char document[] = "VQconfig\nwidget 'W' {\n}\nfamily 'F' {\nwidget='W'\n}\n";

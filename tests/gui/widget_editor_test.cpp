@@ -53,8 +53,7 @@ class WidgetEditor : public Session {
   void edit(std::string_view document) {
     open_document(document);
     edit_family("F");
-    enter("widgetlist_selection", "W");
-    press_ok("widgetlist_selection");
+    edit_widget("W");
     ASSERT_TRUE(is_shown("widgetedit_dialog"));
   }
 

@@ -23,10 +23,7 @@ class WidgetList : public Session {
     enter("widgetlist_selection", name);
     press_cancel("widgetlist_selection");
   }
-  void edit(const std::string& name) {
-    enter("widgetlist_selection", name);
-    press_ok("widgetlist_selection");
-  }
+  void edit(const std::string& name) { edit_widget(name); }
   void expect_editor_shows(const char* name, const std::string& realise) {
     EXPECT_EQ(filled("widget_title", name), title("widgetedit_dialog"));
     EXPECT_EQ(realise, text("widgetedit_realise"));

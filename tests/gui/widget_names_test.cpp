@@ -19,13 +19,9 @@ class WidgetNames : public EveryDialog {
  protected:
   WidgetNames() { open_every_dialog(); }
 
-  static Names children_of(Widget w) {
-    WidgetList children = nullptr;
-    Cardinal count = 0;
+  static Names names_below(Widget w) {
     Names names;
-    if (!XtIsComposite(w)) return names;
-    XtVaGetValues(w, XmNchildren, &children, XmNnumChildren, &count, nullptr);
-    for (Cardinal i = 0; i < count; ++i) names.emplace_back(XtName(children[i]));
+    for (Widget child : children_of(w)) names.emplace_back(XtName(child));
     return names;
   }
 };
@@ -66,7 +62,7 @@ TEST_F(WidgetNames, NoTwoSiblingsShareAName) {
   for (const auto& row : promised_widgets()) {
     if (!find_widget(row.name) || std::string(row.name) == "gen_toggles") continue;  // whose toggles are all "toggleb"
     std::map<std::string, int> seen;
-    for (const std::string& name : children_of(find_widget(row.name))) ++seen[name];
+    for (const std::string& name : names_below(find_widget(row.name))) ++seen[name];
     for (const auto& [name, times] : seen) EXPECT_EQ(1, times) << row.name << "." << name;
   }
 }

@@ -358,14 +358,12 @@ const HelpButton buttons[] = {
 
 void open_editors() {
   edit_family("F");
-  enter("widgetlist_selection", "W");
-  press_ok("widgetlist_selection");
+  edit_widget("W");
   press("widgetedit_page_b");
   press("widgetedit_popup_b");
   enter("we_resource_t", "r");
   press("widgetedit_closeb");
-  enter("enumlist_selection", "E");
-  press_ok("enumlist_selection");
+  edit_enumeration("E");
 }
 
 }  // namespace

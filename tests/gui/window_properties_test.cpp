@@ -91,7 +91,7 @@ TEST_F(WindowProperties, SayWhatKindOfWindowItIs) {
 TEST_F(WindowProperties, TellMenusFromDialogs) {
   start();
   click("family_file_cascade");
-  Widget menu = shell_of(widget("family_file_menu"));
+  Widget menu = shell_around(widget("family_file_menu"));
   ASSERT_TRUE(wait_for([&] { return is_viewable(menu); }));
   EXPECT_EQ(atom("_NET_WM_WINDOW_TYPE_DROPDOWN_MENU"), kind(menu));
 }

@@ -20,17 +20,50 @@ struct DialogRow {
   std::string topic;  // of the dialogs' own that its Help callback names, or ""
 };
 
+/// The value that a designated initialiser gives to a member; "" when it gives none.
+inline std::string value_of(const std::string& initialiser, const std::string& member) {
+  std::smatch found;
+  const std::regex value("\\." + member + " = \"?(\\w+)");
+  return std::regex_search(initialiser, found, value) ? found[1].str() : "";
+}
+
+/// The rows that the frame of a list gives: its box, without the buttons that have no callback, the form beside the
+/// list, and the button that closes the dialog.
+inline std::vector<DialogRow> rows_of_page(const std::string& page) {
+  const std::string box = value_of(page, "name") + "_selection";
+  std::vector<DialogRow> rows = {
+      {box, "create_editor_box", value_of(page, "parent"), value_of(page, "topic")},
+      {value_of(page, "form"), "create_form", box, ""},
+  };
+  if (value_of(page, "ok").empty()) rows.push_back({"OK", "unmanage_child", box, ""});
+  if (value_of(page, "apply").empty()) rows.push_back({"Apply", "unmanage_child", box, ""});
+  if (!value_of(page, "quit").empty()) {
+    rows.push_back({value_of(page, "name") + "_quitb", "XmCreatePushButton", box, ""});
+  }
+  return rows;
+}
+
+/// The rows of all tables of a source, and those of the frames of its lists.
 inline std::vector<DialogRow> rows_of(const std::string& source) {
   static const std::regex row(R"re(\{"([^"]+)",\s*((?!XmN)\w+),\s*(?:"([^"]+)"|nullptr))re");
-  static const std::regex topic(R"re(vqc_do_help, "(vqc_\w+)")re");
-  const std::string table = source.substr(0, source.find("const WidgetLink links"));
+  static const std::regex stop_class(R"re(\{"(\w+)",\s*"Xm\w+",\s*\d\})re");
+  static const std::regex topic(R"re("(vqc_\w+)")re");
+  static const std::regex page(R"re(const ListPage \w+ = \{([^}]*)\})re");
+  const std::sregex_iterator none;
   std::vector<DialogRow> rows;
-  for (std::sregex_iterator match(table.begin(), table.end(), row), none; match != none;) {
-    DialogRow found{(*match)[1], (*match)[2], (*match)[3], ""};
-    const auto begin = (*match)[0].second;
-    const auto end = ++match == none ? table.end() : (*match)[0].first;
-    if (std::smatch named; std::regex_search(begin, end, named, topic)) found.topic = named[1];
-    rows.push_back(found);
+  for (std::sregex_iterator match(source.begin(), source.end(), row); match != none; ++match) {
+    const auto end = source.find("},\n", static_cast<std::size_t>(match->position()));
+    const std::string rest(match->suffix().first,
+                           source.begin() + static_cast<std::ptrdiff_t>(std::min(end, source.size())));
+    std::smatch named;
+    rows.push_back(
+        {(*match)[1], (*match)[2], (*match)[3], std::regex_search(rest, named, topic) ? named[1].str() : ""});
+  }
+  for (std::sregex_iterator match(source.begin(), source.end(), stop_class); match != none; ++match) {
+    rows.push_back({(*match)[1], "XmCreateToggleButton", "stop_list_form", ""});
+  }
+  for (std::sregex_iterator match(source.begin(), source.end(), page); match != none; ++match) {
+    for (const DialogRow& each : rows_of_page((*match)[1])) rows.push_back(each);
   }
   return rows;
 }
@@ -94,13 +127,14 @@ inline std::string class_of(const DialogRow& row) {
   return row.creator.ends_with("file_box") ? "XmFileSelectionBox" : "";
 }
 
-/// Whether the table does away with the button that has this text: {"Apply", unwanted, box} with applyLabelString.
+/// Whether the table does away with the button that has this text: {"Apply", unmanage_child, box} with
+/// applyLabelString.
 inline bool is_unwanted(const std::vector<DialogRow>& rows, const DialogRow& box, const std::string& resource) {
   static const std::map<std::string, std::string> buttons = {
       {"okLabelString", "OK"}, {"applyLabelString", "Apply"}, {"cancelLabelString", "Cancel"}};
   const auto button = buttons.find(resource);
   return button != buttons.end() && std::ranges::any_of(rows, [&](const DialogRow& row) {
-           return row.creator == "unwanted" && row.parent == box.name && row.name == button->second;
+           return row.creator == "unmanage_child" && row.parent == box.name && row.name == button->second;
          });
 }
 
@@ -118,27 +152,27 @@ inline std::set<std::string> texts_on(const std::vector<DialogRow>& rows, const 
   return texts;
 }
 
-/// The page that is about what no Help button of a dialog covers; "" for a dialog without help.
-inline std::string topic_of_the_rest(const std::string& dialog, const std::set<std::string>& topics) {
-  if (dialog == "options_shell") return "vqc_gen_options";
-  if (dialog == "entity_dialog") return "vqc_family";
+/// The page that is about what no Help button of a module's dialog covers; "" for a dialog without help.
+inline std::string topic_of_the_rest(const std::string& module, const std::set<std::string>& topics) {
+  if (module == "options") return "vqc_gen_options";
+  if (module == "entity") return "vqc_family";
   return topics.empty() ? "" : *topics.begin();
 }
 
 using TextsByTopic = std::map<std::string, std::set<std::string>>;
 
 /// Adds what one dialog shows to the topics that it belongs to.
-inline void add_texts(const std::string& dialog, const std::vector<DialogRow>& rows, const Labels& labels,
+inline void add_texts(const std::string& module, const std::vector<DialogRow>& rows, const Labels& labels,
                       TextsByTopic& texts) {
   const std::set<std::string> topics = topics_of(rows);
   for (const DialogRow& row : rows) {
     const std::string around = topic_around(rows, row.name);
-    const std::string topic = around.empty() ? topic_of_the_rest(dialog, topics) : around;
+    const std::string topic = around.empty() ? topic_of_the_rest(module, topics) : around;
     if (!topic.empty()) texts[topic].merge(texts_on(rows, row, labels));
   }
 }
 
-/// What is to be read in all dialogs, whose tables are the sources in `folder`.
+/// What is to be read in all dialogs, whose tables stand in the sources in `folder`.
 inline TextsByTopic texts_by_topic(const std::string& folder, const Labels& labels) {
   TextsByTopic texts;
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {

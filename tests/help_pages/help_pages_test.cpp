@@ -19,7 +19,7 @@ using Complaints = std::vector<std::string>;
 using Pages = std::map<std::string, HtmlPage>;
 
 const std::string root = SOURCE_ROOT;
-const std::string dialogs = root + "/src/vqc/cmd/editors/dialogs";
+const std::string dialogs = root + "/src/vqc/cmd/editors";
 const std::string resources = root + "/resources/X11/";
 
 /// A language that has help pages: the name of its locale folder, and where its texts are below resources/X11.
@@ -208,45 +208,64 @@ TEST(DeadLink, IsOneToNoPageOrNoPlace) {
 
 const char table[] = R"(
 const WidgetRow rows[] = {
-    {"shell", XmCreateDialogShell, nullptr, SHELL},
-    {"menu_b", XmCreatePushButton, "shell"},
-    {"list_box",
-     create_editor_box,
-     "shell",
-     BOX,
-     {{XmNokCallback, add}, {XmNhelpCallback, vqc_do_help, "vqc_list"}}},
-    {"Apply", unwanted, "list_box"},
-    {"quit_b", XmCreatePushButton, "list_box", NO_SLOT, {{XmNactivateCallback, hide}}},
-    {"form", XmCreateForm, "shell"},
-    {"field_l", XmCreateLabel, "form"},
-    {"help_b", XmCreatePushButton, "form", NO_SLOT, {{XmNactivateCallback, vqc_do_help, "vqc_form"}}},
+    {"shell",   XmCreateDialogShell, nullptr,  on_close(hide), SHELL},
+    {"menu_b",  XmCreatePushButton,  "shell"},
+    {"file",    create_file_box,     "shell",
+     on_answer(open, hide, "vqc_file"), FILE},
+    {"form",    XmCreateForm,        "shell"},
+    {"field_l", XmCreateLabel,       "form"},
+    {"help_b",  XmCreatePushButton,  "form",   on_press(vqc_do_help, "vqc_form")},
 };
-const WidgetLink links[] = {{"list_box", XmNcancelButton, "quit_b"}};
+const WidgetLink links[] = {{"form", XmNcancelButton, "help_b"}};
+const ListPage page = {.name = "list",
+                       .parent = "shell",
+                       .topic = "vqc_list",
+                       .ok = add,
+                       .quit = hide,
+                       .form = "list_form"};
 )";
 
 const char texts[] =
-    "! Names\n*XmSelectionBox.okLabelString: Edit\n*XmSelectionBox.applyLabelString: Add\n*list_box.okLabelString: Add\n"
-    "*list_box.listLabelString: Names\n*quit_b.labelString: Close\n*field_l.labelString:  Type of it\n"
+    "! Names\n*XmSelectionBox.okLabelString: Edit\n*XmSelectionBox.applyLabelString: Add\n*list_selection.okLabelString: Add\n"
+    "*list_selection.listLabelString: Names\n*list_quitb.labelString: Close\n*field_l.labelString:  Type of it\n"
     "*help_b.labelString: Help\n*menu_b.labelString: View\nVQconfig.title: %s\n";
 
 TEST(DialogTable, HasRowsWithTheirTopics) {
   const std::vector<DialogRow> rows = rows_of(table);
-  ASSERT_EQ(8U, rows.size());
-  EXPECT_EQ("list_box", rows[2].name);
-  EXPECT_EQ("create_editor_box", rows[2].creator);
+  ASSERT_LE(6U, rows.size());
+  EXPECT_EQ("file", rows[2].name);
+  EXPECT_EQ("create_file_box", rows[2].creator);
   EXPECT_EQ("shell", rows[2].parent);
-  EXPECT_EQ("vqc_list", rows[2].topic);
-  EXPECT_EQ("", rows[4].topic);
-  EXPECT_EQ((std::set<std::string>{"vqc_form", "vqc_list"}), topics_of(rows));
+  EXPECT_EQ("vqc_file", rows[2].topic);
+  EXPECT_EQ("", rows[3].topic);
+  EXPECT_EQ((std::set<std::string>{"vqc_file", "vqc_form", "vqc_list"}), topics_of(rows));
+}
+
+TEST(DialogTable, HasTheRowsOfTheFramesOfLists) {
+  const std::vector<DialogRow> rows = rows_of(table);
+  std::set<std::string> names;
+  for (const DialogRow& row : rows) {
+    if (row.parent == "list_selection") names.insert(row.name);
+  }
+  EXPECT_EQ((std::set<std::string>{"list_form", "Apply", "list_quitb"}), names);
+  EXPECT_EQ("vqc_list", topic_around(rows, "list_form"));
+}
+
+TEST(DialogTable, HasATogglePerStopClass) {
+  const std::vector<DialogRow> rows = rows_of("{\"stop_a\",  \"XmA\", 1},\n    {\"stop_b\", \"XmB\", 8},\n");
+  ASSERT_EQ(2U, rows.size());
+  EXPECT_EQ("stop_b", rows[1].name);
+  EXPECT_EQ("XmCreateToggleButton", rows[1].creator);
 }
 
 TEST(DialogTable, GivesEachTopicWhatItsBoxShows) {
   TextsByTopic found;
-  add_texts("entity_dialog", rows_of(table), labels_in(texts), found);
-  EXPECT_EQ(
-      (TextsByTopic{
-          {"vqc_family", {"View"}}, {"vqc_form", {"Help", "Type of it"}}, {"vqc_list", {"Add", "Close", "Names"}}}),
-      found);
+  add_texts("entity", rows_of(table), labels_in(texts), found);
+  EXPECT_EQ((TextsByTopic{{"vqc_family", {"View"}},
+                          {"vqc_file", {}},
+                          {"vqc_form", {"Help", "Type of it"}},
+                          {"vqc_list", {"Add", "Close", "Names"}}}),
+            found);
 }
 
 }  // namespace

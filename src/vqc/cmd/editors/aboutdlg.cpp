@@ -1,15 +1,36 @@
+// The box that says which version of the program this is.
+
 #include "vqc/cmd/editors/aboutdlg.h"
+
+#include <Xm/DialogS.h>
+#include <Xm/Label.h>
+#include <Xm/PushB.h>
 
 #include <cstring>
 
 #include "libkel/message.h"
 #include "libkel/text.h"
-#include "vqc/cmd/editors/dialogs/about_dialog.h"
-#include "vqc/cmd/editors/dialogs/family_dialog.h"
 #include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 
 namespace {
+
+enum Slot { SHELL, FORM, NAME, VERSION, SLOTS };
+
+// clang-format off
+const WidgetRow rows[] = {
+    {"about_dialog",  XmCreateDialogShell, nullptr,        {}, SHELL},
+    {"about_form",    create_form,         "about_dialog", {}, FORM},
+    {"about_name",    XmCreateLabel,       "about_form",   {}, NAME},
+    {"about_version", XmCreateLabel,       "about_form",   {}, VERSION},
+    {"about_ok",      XmCreatePushButton,  "about_form",   on_press(about_do_hide)},
+};
+
+const WidgetLink links[] = {
+    {"about_form", XmNdefaultButton, "about_ok"},
+    {"about_form", XmNcancelButton,  "about_ok"},
+};
+// clang-format on
 
 /// The text of a label; `given` when no resource sets one, so that it shows its own name.
 Text text_or(const char* given, Widget label) {
@@ -35,13 +56,15 @@ void set_texts(Widget shell, Widget name, Widget version) {
 
 }  // namespace
 
+Widget* create_about_dialog(Widget parent) { return build_dialog(parent, rows, SLOTS, links); }
+
 void about_do_show(Widget w, XtPointer, XtPointer) {
   const BusyCursor busy(w);
   if (!about_dialog) {
-    if (!made(about_dialog, create_about_dialog, family_dialog[FAMILY_SHELL])) return;
-    set_texts(about_dialog[ABOUT_SHELL], about_dialog[ABOUT_NAME], about_dialog[ABOUT_VERSION]);
+    if (!ensure_dialog(about_dialog, create_about_dialog)) return;
+    set_texts(about_dialog[SHELL], about_dialog[NAME], about_dialog[VERSION]);
   }
-  show_dialog(about_dialog[ABOUT_FORM], Place::over);
+  show_dialog(about_dialog[FORM], Place::over);
 }
 
-void about_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(about_dialog[ABOUT_FORM]); }
+void about_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(about_dialog[FORM]); }

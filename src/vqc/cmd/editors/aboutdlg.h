@@ -1,9 +1,15 @@
 #ifndef VQC_CMD_EDITORS_ABOUTDLG_H
 #define VQC_CMD_EDITORS_ABOUTDLG_H
 
-#include <Xm/Xm.h>
+// The box that says which version of the program this is.
 
-// The about box.
+#include "vqc/cmd/editors/kit/dialog.h"
+
+/// Null until the dialog is first needed.
+inline Widget* about_dialog = nullptr;
+
+Widget* create_about_dialog(Widget parent);
+inline void delete_about_dialog(Widget* record) { delete_dialog(record); }
 
 void about_do_show(Widget w, XtPointer, XtPointer);
 void about_do_hide(Widget w, XtPointer, XtPointer);

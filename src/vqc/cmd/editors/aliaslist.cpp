@@ -1,10 +1,35 @@
+// The page of a family's type aliases.
+
 #include "vqc/cmd/editors/aliaslist.h"
 
-#include "vqc/cmd/editors/dialogs/entity_dialog.h"
+#include <Xm/Label.h>
+#include <Xm/TextF.h>
+
+#include "vqc/cmd/editors/entity_dialog.h"
 #include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/list_page.h"
 #include "vqc/cmd/model/alias.h"
 
 namespace {
+
+// clang-format off
+const WidgetRow field_rows[] = {
+    {"aliaslist_to_name",   XmCreateTextField, "aliaslist_name_form", {}, ALIASLIST_TO_NAME},
+    {"aliaslist_to_name_l", XmCreateLabel,     "aliaslist_name_form"},
+};
+// clang-format on
+
+const ListPage aliases = {.name = "aliaslist",
+                          .parent = "entity_view_form",
+                          .slot = ALIASLIST_BOX,
+                          .topic = "vqc_aliases",
+                          .ok = aliaslist_do_update,
+                          .apply = aliaslist_do_add,
+                          .cancel = aliaslist_do_delete,
+                          .select = aliaslist_do_display,
+                          .quit = entity_do_hide,
+                          .form = "aliaslist_name_form",
+                          .rows = field_rows};
 
 Widget to_name_field() { return entity_dialog[ALIASLIST_TO_NAME]; }
 
@@ -25,6 +50,8 @@ void select_alias(const Text& name) {
 }
 
 }  // namespace
+
+DialogPart aliaslist_page() { return list_page(aliases); }
 
 ListEditor aliaslist_editor{.dialog = entity_dialog,
                             .box_slot = ALIASLIST_BOX,

@@ -1,9 +1,13 @@
 #ifndef VQC_CMD_EDITORS_ALIASLIST_H
 #define VQC_CMD_EDITORS_ALIASLIST_H
 
+// The page of a family's type aliases. What it edits belongs to the document: an alias is the same in every family.
+
+#include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
 
-// The page of a family's type aliases. What it edits belongs to the document: an alias is the same in every family.
+/// Its part of the family dialog.
+DialogPart aliaslist_page();
 
 extern ListEditor aliaslist_editor;
 inline constexpr XtCallbackProc aliaslist_do_add = do_add<aliaslist_editor>;

@@ -1,10 +1,54 @@
+// The page of a family's resource converters.
+
 #include "vqc/cmd/editors/convlist.h"
 
-#include "vqc/cmd/editors/dialogs/entity_dialog.h"
+#include <Xm/Frame.h>
+#include <Xm/Label.h>
+#include <Xm/PushB.h>
+#include <Xm/TextF.h>
+#include <Xm/ToggleB.h>
+
+#include "vqc/cmd/editors/entity_dialog.h"
+#include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/list_page.h"
+#include "vqc/cmd/editors/popuplist.h"
 #include "vqc/cmd/model/converter.h"
 
 namespace {
+
+// clang-format off
+const WidgetRow field_rows[] = {
+    {"converter_function_frame", XmCreateFrame,        "converter_data_form"},
+    {"converter_function_form",  create_form,          "converter_function_frame"},
+    {"converter_proc",           XmCreateTextField,    "converter_function_form", {}, CONVERTER_PROC},
+    {"converter_proc_l",         XmCreateLabel,        "converter_function_form"},
+    {"converter_vq_tog",         XmCreateToggleButton, "converter_function_form", {}, CONVERTER_VQ},
+    {"converter_code_tog",       XmCreateToggleButton, "converter_function_form", {}, CONVERTER_CODE},
+    {"converter_popup_frame",    XmCreateFrame,        "converter_data_form"},
+    {"converter_popup_form",     create_form,          "converter_popup_frame"},
+    {"convert_popup_t",          XmCreateTextField,    "converter_popup_form",    {}, CONVERT_POPUP},
+    {"convert_popup_l",          XmCreateLabel,        "converter_popup_form"},
+    {"convert_popup_b",          XmCreatePushButton,   "converter_popup_form"},
+};
+
+const WidgetLink links[] = {{"convert_popup_b", XmNactivateCallback, "convert_popup_t", show_popups_cb}};
+// clang-format on
+
+const ListPage converters = {.name = "converter",
+                             .parent = "entity_view_form",
+                             .slot = CONVERTER_BOX,
+                             .topic = "vqc_converter",
+                             .ok = converterlist_do_update,
+                             .apply = converterlist_do_add,
+                             .cancel = converterlist_do_delete,
+                             .select = converterlist_do_display,
+                             .up = converterlist_do_up,
+                             .down = converterlist_do_down,
+                             .quit = entity_do_hide,
+                             .form = "converter_data_form",
+                             .rows = field_rows,
+                             .links = links};
 
 void show_converter(const ConverterDef& converter) {
   settextf(entity_dialog[CONVERTER_PROC], converter.proc_name);
@@ -36,7 +80,11 @@ void select_converter(const Text& name) {
   if (auto* element = converterlist_ptr(family_getcurrent(), name)) converterlist_setcurrent(element);
 }
 
+bool has_current_family() { return family_getcurrent() != nullptr; }
+
 }  // namespace
+
+DialogPart converterlist_page() { return list_page(converters); }
 
 ListEditor converterlist_editor{.dialog = entity_dialog,
                                 .box_slot = CONVERTER_BOX,
@@ -49,4 +97,9 @@ void current_converter_changed(Reference<ConverterDef>* element) {
   if (!entity_dialog) return;
   if (!element) converterlist_editor.clear_name();
   show_converter(element ? *element->record : ConverterDef{});
+}
+
+void show_popups_cb(Widget w, XtPointer field, XtPointer) {
+  const BusyCursor busy(w);
+  popupdlg_set_initial_state(static_cast<Widget>(field), XtParent(entity_dialog[ENTITY_SHELL]), has_current_family);
 }

@@ -1,10 +1,14 @@
 #ifndef VQC_CMD_EDITORS_CONVLIST_H
 #define VQC_CMD_EDITORS_CONVLIST_H
 
-#include "vqc/cmd/editors/kit/list_editor.h"
-
 // The page of a family's resource converters. What it edits belongs to the document: a converter is the same in every
 // family.
+
+#include "vqc/cmd/editors/kit/dialog.h"
+#include "vqc/cmd/editors/kit/list_editor.h"
+
+/// Its part of the family dialog.
+DialogPart converterlist_page();
 
 extern ListEditor converterlist_editor;
 inline constexpr XtCallbackProc converterlist_do_add = do_add<converterlist_editor>;
@@ -14,6 +18,9 @@ inline constexpr XtCallbackProc converterlist_do_display = do_select<converterli
 inline constexpr XtCallbackProc converterlist_do_up = do_up<converterlist_editor>;
 inline constexpr XtCallbackProc converterlist_do_down = do_down<converterlist_editor>;
 inline void converterlist_setfamily(const Family* family) { set_family(converterlist_editor, family); }
+
+/// Opens the popup editor on the popup named in the field given as client data.
+void show_popups_cb(Widget w, XtPointer field, XtPointer);
 
 /// Hears that another converter of the family, or none, is current now.
 void current_converter_changed(Reference<ConverterDef>* element);

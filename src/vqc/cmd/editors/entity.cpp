@@ -1,33 +1,56 @@
+// The frame of the family dialog, and the switching of its pages.
+
 #include "vqc/cmd/editors/entity.h"
 
+#include <Xm/CascadeB.h>
+#include <Xm/DialogS.h>
+#include <Xm/RowColumn.h>
 #include <Xm/SelectioB.h>
 #include <Xm/ToggleB.h>
 
 #include "vqc/cmd/editors/aliaslist.h"
 #include "vqc/cmd/editors/convlist.h"
-#include "vqc/cmd/editors/dialogs/entity_dialog.h"
-#include "vqc/cmd/editors/dialogs/family_dialog.h"
 #include "vqc/cmd/editors/enumlist.h"
+#include "vqc/cmd/editors/familyinit.h"
 #include "vqc/cmd/editors/headerlists.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
-#include "vqc/cmd/editors/popuplist.h"
 #include "vqc/cmd/editors/title.h"
 #include "vqc/cmd/editors/widgetlist.h"
 #include "vqc/cmd/model/family.h"
 
 namespace {
 
-struct InitFlag {
-  EntitySlot toggle;
-  bool FamilyInit::*flag;
+// clang-format off
+const WidgetRow frame_rows[] = {
+    {"entity_dialog",               XmCreateDialogShell,   nullptr,         {}, ENTITY_SHELL},
+    {"entity_form",                 create_form,           "entity_dialog", {}, ENTITY_FORM},
+    {"entity_menubar",              XmCreateMenuBar,       "entity_form"},
+    {"view_pulldown",               create_radio_menu,     "entity_menubar"},
+    {"entity_opt_aliases_t",        XmCreateToggleButton,  "view_pulldown"},
+    {"entity_opt_converters_t",     XmCreateToggleButton,  "view_pulldown"},
+    {"entity_opt_enums_t",          XmCreateToggleButton,  "view_pulldown"},
+    {"entity_opt_code_headers_t",   XmCreateToggleButton,  "view_pulldown"},
+    {"entity_opt_config_headers_t", XmCreateToggleButton,  "view_pulldown"},
+    {"entity_opt_family_headers_t", XmCreateToggleButton,  "view_pulldown"},
+    {"entity_opt_family_init_t",    XmCreateToggleButton,  "view_pulldown"},
+    {"entity_opt_widgets_t",        XmCreateToggleButton,  "view_pulldown", {}, ENTITY_VIEW_WIDGETS},
+    {"entity_viewb",                XmCreateCascadeButton, "entity_menubar"},
+    {"entity_view_form",            create_form,           "entity_form"},
 };
-constexpr InitFlag init_flags[] = {
-    {FAMILYINIT_ADD_VQ, &FamilyInit::generate_family_init_vq},
-    {FAMILYINIT_ADD_CODE, &FamilyInit::generate_family_init_code},
-    {FAMILYINIT_ADD_STUB, &FamilyInit::generate_family_init_stub},
-    {FAMILYINIT_PRE_SHELL, &FamilyInit::generate_family_init_pre_shell},
+
+const WidgetLink frame_links[] = {
+    {"entity_viewb",                XmNsubMenuId,            "view_pulldown"},
+    {"entity_opt_aliases_t",        XmNvalueChangedCallback, "aliaslist_selection",        entity_do_show_page},
+    {"entity_opt_converters_t",     XmNvalueChangedCallback, "converter_selection",        entity_do_show_page},
+    {"entity_opt_enums_t",          XmNvalueChangedCallback, "enumlist_selection",         entity_do_show_page},
+    {"entity_opt_code_headers_t",   XmNvalueChangedCallback, "codeheaderlist_selection",   entity_do_show_page},
+    {"entity_opt_config_headers_t", XmNvalueChangedCallback, "confheaderlist_selection",   entity_do_show_page},
+    {"entity_opt_family_headers_t", XmNvalueChangedCallback, "familyheaderlist_selection", entity_do_show_page},
+    {"entity_opt_family_init_t",    XmNvalueChangedCallback, "familyinit_form",            entity_do_show_page},
+    {"entity_opt_widgets_t",        XmNvalueChangedCallback, "widgetlist_selection",       entity_do_show_page},
 };
+// clang-format on
 
 /// Where the user begins on a page.
 Widget first_field(Widget page) {
@@ -37,19 +60,17 @@ Widget first_field(Widget page) {
 
 /// Maps one page, with the focus; the others stay managed, and filled.
 void map_page(Widget shown) {
-  for (int view = ENTITY_VIEW_ALIASES; view <= ENTITY_VIEW_WIDGETS; ++view) {
-    Widget page = entity_dialog[page_of_view(view)];
+  for (int slot = ALIASLIST_BOX; slot <= WIDGETLIST_BOX; ++slot) {
+    Widget page = entity_dialog[slot];
     XtSetMappedWhenManaged(page, page == shown ? True : False);
   }
   XtVaSetValues(entity_dialog[ENTITY_FORM], XmNinitialFocus, shown, nullptr);
   XmProcessTraversal(first_field(shown), XmTRAVERSE_CURRENT);
 }
 
-bool has_current_family() { return family_getcurrent() != nullptr; }
-
 bool create_on_first_use() {
   if (entity_dialog) return true;
-  if (!made(entity_dialog, create_entity_dialog, family_dialog[FAMILY_SHELL])) return false;
+  if (!ensure_dialog(entity_dialog, create_entity_dialog)) return false;
   entity_setfamily(family_getcurrent());
   map_page(entity_dialog[WIDGETLIST_BOX]);
   return true;
@@ -57,13 +78,21 @@ bool create_on_first_use() {
 
 }  // namespace
 
+Widget* create_entity_dialog(Widget parent) {
+  Widget* record = build_dialog(
+      parent,
+      {part(frame_rows, frame_links), codeheaderlist_page(), confheaderlist_page(), familyheaderlist_page(),
+       aliaslist_page(), enumlist_page(), widgetlist_page(), converterlist_page(), familyinit_page()},
+      ENTITY_SLOTS);
+  if (record) settoggle(record[ENTITY_VIEW_WIDGETS], true);
+  return record;
+}
+
 int entity_show() {
   if (!create_on_first_use()) return 0;
   show_dialog(entity_dialog[ENTITY_FORM]);
   return 1;
 }
-
-void entity_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(entity_dialog[ENTITY_FORM]); }
 
 void entity_do_show_page(Widget toggle, XtPointer page, XtPointer call) {
   if (!static_cast<XmToggleButtonCallbackStruct*>(call)->set) return;
@@ -83,22 +112,4 @@ int entity_setfamily(Family* family) {
   familyinit_setfamily(family);
   widgetlist_setfamily(family);
   return 1;
-}
-
-void show_popups_cb(Widget w, XtPointer field, XtPointer) {
-  const BusyCursor busy(w);
-  popupdlg_set_initial_state(static_cast<Widget>(field), XtParent(entity_dialog[ENTITY_SHELL]), has_current_family);
-}
-
-void familyinit_setfamily(const Family* family) {
-  if (!entity_dialog) return;
-  settextf(entity_dialog[FAMILYINIT_INIT], family ? family->family_init.c_str() : nullptr);
-  for (const auto& [toggle, flag] : init_flags) settoggle(entity_dialog[toggle], family && family->*flag);
-}
-
-void family_init_do_update(Widget, XtPointer, XtPointer) {
-  Family* family = family_getcurrent();
-  if (!entity_dialog || !family) return;
-  family->family_init = gettextf(entity_dialog[FAMILYINIT_INIT]);  // an empty text is a text here
-  for (const auto& [toggle, flag] : init_flags) gettoggle(entity_dialog[toggle], &(family->*flag));
 }

@@ -1,14 +1,47 @@
+// The enumeration editor: the type and the entries of the family's current enumeration.
+
 #include "vqc/cmd/editors/enumedit.h"
 
-#include "vqc/cmd/editors/dialogs/enumedit_dialog.h"
-#include "vqc/cmd/editors/dialogs/family_dialog.h"
-#include "vqc/cmd/editors/kit/cursor.h"
+#include <Xm/DialogS.h>
+#include <Xm/Label.h>
+#include <Xm/TextF.h>
+
 #include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/list_page.h"
 #include "vqc/cmd/editors/title.h"
 #include "vqc/cmd/model/enumentry.h"
 #include "vqc/cmd/model/enumlist.h"
 
 namespace {
+
+enum Slot { SHELL, BOX, TYPE, CODE_SYMBOL, RESFILE_SYMBOL, SLOTS };
+
+// clang-format off
+const WidgetRow shell_rows[] = {{"enumedit_dialog", XmCreateDialogShell, nullptr, {}, SHELL}};
+
+const WidgetRow field_rows[] = {
+    {"enumedit_type",             XmCreateTextField, "enumedit_work_form", {}, TYPE},
+    {"enumedit_type_l",           XmCreateLabel,     "enumedit_work_form"},
+    {"enumedit_code_symbol",      XmCreateTextField, "enumedit_work_form", {}, CODE_SYMBOL},
+    {"enumedit_code_symbol_l",    XmCreateLabel,     "enumedit_work_form"},
+    {"enumedit_resfile_symbol",   XmCreateTextField, "enumedit_work_form", {}, RESFILE_SYMBOL},
+    {"enumedit_resfile_symbol_l", XmCreateLabel,     "enumedit_work_form"},
+};
+// clang-format on
+
+const ListPage entries = {.name = "enumedit",
+                          .parent = "enumedit_dialog",
+                          .slot = BOX,
+                          .topic = "vqc_enum_edit",
+                          .ok = enumentry_do_update,
+                          .apply = enumentry_do_add,
+                          .cancel = enumentry_do_delete,
+                          .select = enumentry_do_display,
+                          .up = enumentry_do_up,
+                          .down = enumentry_do_down,
+                          .quit = enumedit_do_hide,
+                          .form = "enumedit_work_form",
+                          .rows = field_rows};
 
 EnumDef* current_enum() {
   const Reference<EnumDef>* element = enumlist_getcurrent();
@@ -16,20 +49,20 @@ EnumDef* current_enum() {
 }
 
 void show_symbols(const EnumEntry& entry) {
-  settextf(enumedit_dialog[ENUMEDIT_CODE_SYMBOL], entry.code_symbol);
-  settextf(enumedit_dialog[ENUMEDIT_RESFILE_SYMBOL], entry.resfile_symbol);
+  settextf(enumedit_dialog[CODE_SYMBOL], entry.code_symbol);
+  settextf(enumedit_dialog[RESFILE_SYMBOL], entry.resfile_symbol);
 }
 
 void store_symbols(const Text& name) {
   EnumEntry* entry = enumentry_ptr(current_enum(), name);
-  gettextf(enumedit_dialog[ENUMEDIT_CODE_SYMBOL], &entry->code_symbol);
-  gettextf(enumedit_dialog[ENUMEDIT_RESFILE_SYMBOL], &entry->resfile_symbol);
+  gettextf(enumedit_dialog[CODE_SYMBOL], &entry->code_symbol);
+  gettextf(enumedit_dialog[RESFILE_SYMBOL], &entry->resfile_symbol);
 }
 
 void show_entry(const Text& name) {
   const EnumEntry* entry = enumentry_ptr(current_enum(), name);
   if (!entry) return;
-  settextf(enumedit_dialog[ENUMEDIT_TYPE], current_enum()->type_name);
+  settextf(enumedit_dialog[TYPE], current_enum()->type_name);
   show_symbols(*entry);
 }
 
@@ -48,7 +81,7 @@ std::vector<Text> entry_names() {
 
 ListEditor enumentry_editor{
     .dialog = enumedit_dialog,
-    .box_slot = ENUMEDIT_BOX,
+    .box_slot = BOX,
     .names = {.has = [](const Text& name) { return enumentry_ptr(current_enum(), name) != nullptr; },
               .add = [](const Text& name) { return enumentry_add(name, current_enum()); },
               .remove = delete_entry,
@@ -62,22 +95,26 @@ ListEditor enumentry_editor{
     .delete_clears_name = true,
 };
 
-void enumedit_show() {
-  if (!enumedit_dialog) {
-    if (!made(enumedit_dialog, create_enumedit_dialog, family_dialog[FAMILY_SHELL])) return;
-    enumedit_setenum(enumlist_getcurrent());
-  }
-  show_dialog(enumedit_dialog[ENUMEDIT_BOX]);
+Widget* create_enumedit_dialog(Widget parent) {
+  return build_dialog(parent, {part(shell_rows), list_page(entries)}, SLOTS);
 }
 
-void enumedit_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(enumedit_dialog[ENUMEDIT_BOX]); }
+void enumedit_show() {
+  if (!enumedit_dialog) {
+    if (!ensure_dialog(enumedit_dialog, create_enumedit_dialog)) return;
+    enumedit_setenum(enumlist_getcurrent());
+  }
+  show_dialog(enumedit_dialog[BOX]);
+}
+
+void enumedit_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(enumedit_dialog[BOX]); }
 
 /// An enumeration without entries is shown as none at all.
 void enumedit_setenum(const Reference<EnumDef>* element) {
   if (!enumedit_dialog) return;
   const EnumDef* shown = element && enumentry_count(element->record) > 0 ? element->record : nullptr;
-  vq_set_title(enumedit_dialog[ENUMEDIT_SHELL], "enum_title", shown ? shown->name.c_str() : nullptr);
-  settextf(enumedit_dialog[ENUMEDIT_TYPE], shown ? shown->type_name.c_str() : nullptr);
+  vq_set_title(enumedit_dialog[SHELL], "enum_title", shown ? shown->name.c_str() : nullptr);
+  settextf(enumedit_dialog[TYPE], shown ? shown->type_name.c_str() : nullptr);
   show_symbols({});
   if (shown) {
     refill(enumentry_editor, true);
@@ -91,6 +128,6 @@ void enumentry_do_update(Widget w, XtPointer, XtPointer call) {
   EnumDef* enumeration = current_enum();
   if (!enumeration) return;
   dirty = true;
-  gettextf(enumedit_dialog[ENUMEDIT_TYPE], &enumeration->type_name);
+  gettextf(enumedit_dialog[TYPE], &enumeration->type_name);
   with_name(w, call, enumentry_editor, accept_name);
 }

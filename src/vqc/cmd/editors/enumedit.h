@@ -1,9 +1,16 @@
 #ifndef VQC_CMD_EDITORS_ENUMEDIT_H
 #define VQC_CMD_EDITORS_ENUMEDIT_H
 
+// The enumeration editor: the type and the entries of the family's current enumeration.
+
+#include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
 
-// The enumeration editor: the type and the entries of the family's current enumeration.
+/// Null until the dialog is first needed.
+inline Widget* enumedit_dialog = nullptr;
+
+Widget* create_enumedit_dialog(Widget parent);
+inline void delete_enumedit_dialog(Widget* record) { delete_dialog(record); }
 
 /// Shows the dialog, made when it is first needed.
 void enumedit_show();

@@ -1,10 +1,28 @@
+// The page of a family's enumerations.
+
 #include "vqc/cmd/editors/enumlist.h"
 
-#include "vqc/cmd/editors/dialogs/entity_dialog.h"
+#include <Xm/Separator.h>
+
+#include "vqc/cmd/editors/entity_dialog.h"
 #include "vqc/cmd/editors/enumedit.h"
+#include "vqc/cmd/editors/kit/list_page.h"
 #include "vqc/cmd/model/enumlist.h"
 
 namespace {
+
+const WidgetRow separator_rows[] = {{"separator5", XmCreateSeparator, "enumlist_selection"}};
+
+const ListPage enumerations = {.name = "enumlist",
+                               .parent = "entity_view_form",
+                               .slot = ENUMLIST_BOX,
+                               .topic = "vqc_enums",
+                               .ok = enumlist_do_edit,
+                               .apply = enumlist_do_add,
+                               .cancel = enumlist_do_delete,
+                               .select = enumlist_do_select,
+                               .quit = entity_do_hide,
+                               .rows = separator_rows};
 
 void select_enum(const Text& name) { enumlist_setcurrent(enumlist_ptr(family_getcurrent(), name)); }
 
@@ -18,6 +36,8 @@ void edit_enum(const Text& name) {
 }
 
 }  // namespace
+
+DialogPart enumlist_page() { return list_page(enumerations); }
 
 ListEditor enumlist_editor{.dialog = entity_dialog,
                            .box_slot = ENUMLIST_BOX,

@@ -1,9 +1,13 @@
 #ifndef VQC_CMD_EDITORS_ENUMLIST_H
 #define VQC_CMD_EDITORS_ENUMLIST_H
 
+// The page of a family's enumerations. The current one is what the enumeration editor shows.
+
+#include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
 
-// The page of a family's enumerations. The current one is what the enumeration editor shows.
+/// Its part of the family dialog.
+DialogPart enumlist_page();
 
 extern ListEditor enumlist_editor;
 inline constexpr XtCallbackProc enumlist_do_add = do_add<enumlist_editor>;

@@ -1,37 +1,85 @@
+// The main window: its menus, and the list of families.
+
 #include "vqc/cmd/editors/familydlg.h"
 
-#include "vqc/cmd/editors/entity.h"
-#include "vqc/cmd/editors/pagelist.h"
-#include "vqc/cmd/editors/popuplist.h"
+#include <X11/Shell.h>
+#include <Xm/CascadeB.h>
+#include <Xm/PushB.h>
+#include <Xm/RowColumn.h>
+#include <Xm/Separator.h>
 
-ListEditor family_editor{
-    .dialog = family_dialog,
-    .box_slot = FAMILY_SELECTION,
-    .names = {.has = [](const Text& name) { return family_ptr(name) != nullptr; },
-              .add = family_add,
-              .remove = family_delete,
-              .position = [](const Text& name) { return family_pool.position(family_pool.list, name); },
-              .move_up = [](const Text& name, bool) { return family_move_up(name); },
-              .move_down = [](const Text& name, bool) { return family_move_down(name); },
-              .names = names_in_pool<family_pool>},
-    .added =
-        [](const Text& name) {
-          if (!family_getcurrent()) family_setcurrent(family_ptr(name));
-          refresh_names(page_picker);  // the first family brings what every family has
-          refresh_names(popup_picker);
-        },
-    .accepted =
-        [](const Text& name) {
-          family_setcurrent(family_ptr(name));
-          entity_show();
-        },
-    .selected = [](const Text& name) { family_setcurrent(family_ptr(name)); },
-    .delete_clears_name = true,
+#include "desktop/font_units.h"
+#include "vqc/cmd/editors/aboutdlg.h"
+#include "vqc/cmd/editors/file_commands.h"
+#include "vqc/cmd/editors/gendlg.h"
+#include "vqc/cmd/editors/kit/main_shell.h"
+#include "vqc/cmd/editors/kit/session_hooks.h"
+#include "vqc/cmd/editors/options.h"
+#include "vqc/cmd/editors/stop.h"
+
+namespace {
+
+// clang-format off
+const WidgetRow menu_rows[] = {
+    {"family_form",               create_form,           nullptr},
+
+    {"family_menubar",            XmCreateMenuBar,       "family_form"},
+
+    {"family_file_menu",          XmCreatePulldownMenu,  "family_menubar"},
+    {"family_newb",               XmCreatePushButton,    "family_file_menu",     on_press(do_new)},
+    {"family_openb",              XmCreatePushButton,    "family_file_menu",     on_press(open_do_popup)},
+    {"family_readb",              XmCreatePushButton,    "family_file_menu",     on_press(read_do_popup)},
+    {"family_saveb",              XmCreatePushButton,    "family_file_menu",     on_press(save_do_popup)},
+    {"family_saveasb",            XmCreatePushButton,    "family_file_menu",     on_press(saveas_do_popup)},
+    {"separator4",                XmCreateSeparator,     "family_file_menu"},
+    {"family_exitb",              XmCreatePushButton,    "family_file_menu",     on_press(do_exit)},
+    {"family_file_cascade",       XmCreateCascadeButton, "family_menubar"},
+
+    {"family_edit_menu",          XmCreatePulldownMenu,  "family_menubar"},
+    {"family_stop_b",             XmCreatePushButton,    "family_edit_menu",     on_press(stoplist_do_popup)},
+    {"family_edit_cascade",       XmCreateCascadeButton, "family_menubar"},
+
+    {"family_options_menu",       XmCreatePulldownMenu,  "family_menubar"},
+    {"family_generate_options_b", XmCreatePushButton,    "family_options_menu",  on_press(genopt_do_popup)},
+    {"family_options_cascade",    XmCreateCascadeButton, "family_menubar",       {}, FAMILY_OPTIONS_CASCADE},
+
+    {"family_generate_menu",      XmCreatePulldownMenu,  "family_menubar"},
+    {"family_genconfigb",         XmCreatePushButton,    "family_generate_menu", on_press(gencon_do_popup)},
+    {"family_gencodeb",           XmCreatePushButton,    "family_generate_menu", on_press(gencode_do_popup)},
+    {"family_genstubs_b",         XmCreatePushButton,    "family_generate_menu", on_press(genstubs_do_popup)},
+    {"family_generate_cascade",   XmCreateCascadeButton, "family_menubar"},
+
+    {"family_help_menu",          XmCreatePulldownMenu,  "family_menubar"},
+    {"family_helpaboutb",         XmCreatePushButton,    "family_help_menu",     on_press(about_do_show)},
+    {"family_helpgenb",           XmCreatePushButton,    "family_help_menu",     on_press(vqc_do_help, "vqc_family")},
+    {"family_help_separator",     XmCreateSeparator,     "family_help_menu"},
+    {"family_helpcontentsb",      XmCreatePushButton,    "family_help_menu",     on_press(vqc_do_help, "entry")},
+    {"family_helptutorialb",      XmCreatePushButton,    "family_help_menu",     on_press(vqc_do_help, "tutorial")},
+    {"family_helpkeyboardb",      XmCreatePushButton,    "family_help_menu",     on_press(vqc_do_help, "keyboard")},
+    {"family_help_cascade",       XmCreateCascadeButton, "family_menubar"},
 };
 
-void family_display() { list_show(family_editor.list(), family_editor.names.names()); }
+const WidgetLink menu_links[] = {
+    {"family_file_cascade",     XmNsubMenuId,      "family_file_menu"},
+    {"family_edit_cascade",     XmNsubMenuId,      "family_edit_menu"},
+    {"family_options_cascade",  XmNsubMenuId,      "family_options_menu"},
+    {"family_generate_cascade", XmNsubMenuId,      "family_generate_menu"},
+    {"family_help_cascade",     XmNsubMenuId,      "family_help_menu"},
+    {"family_menubar",          XmNmenuHelpWidget, "family_help_cascade"},
+};
+// clang-format on
 
-void current_family_changed(Family* family) {
-  if (!family) family_editor.clear_name();
-  entity_setfamily(family);
+}  // namespace
+
+Widget* create_family_dialog(Display* display, char* name, int argc, char** argv) {
+  Widget shell =
+      XtVaAppCreateShell(name, "VQconfig", applicationShellWidgetClass, display, XmNargc, argc, XmNargv, argv, nullptr);
+  if (!shell) return nullptr;
+  set_font_unit(shell);
+  Widget* record = build_dialog(shell, {part(menu_rows, menu_links), familylist_page()}, FAMILY_SLOTS);
+  if (!record) return nullptr;
+  record[FAMILY_SHELL] = shell;
+  answer_close(shell, do_exit);
+  set_main_shell(shell);
+  return record;
 }

@@ -1,25 +1,106 @@
+// The commands of the File menu, which end in each other: what loses a document may have to save it first, and what has
+// been saved goes on with what waited.
+
 #include "vqc/cmd/editors/file_commands.h"
 
-#include "vqc/cmd/editors/familydlg.h"
+#include <Xm/DialogS.h>
+#include <Xm/PushB.h>
+
+#include <string>
+
+#include "libkel/message.h"
+#include "vqc/cmd/editors/familylist.h"
+#include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/cursor.h"
+#include "vqc/cmd/editors/kit/file_box.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
-#include "vqc/cmd/editors/open.h"
 #include "vqc/cmd/editors/options.h"
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
-#include "vqc/cmd/editors/save.h"
 #include "vqc/cmd/editors/title.h"
 #include "vqc/cmd/model/document.h"
 #include "vqc/cmd/model/family.h"
+#include "vqc/cmd/savefile/parse.h"
+#include "vqc/cmd/savefile/save.h"
 
 namespace {
+
+/// Of each of the four dialogs.
+enum Slot { SHELL, BOX, SLOTS };
+
+// clang-format off
+const WidgetRow open_rows[] = {
+    {"open_dialog", XmCreateDialogShell, nullptr,       on_close(open_do_hide), SHELL},
+    {"open_fsb",    create_file_box,     "open_dialog", on_answer(do_open, open_do_hide, "vqc_open"), BOX},
+};
+
+const WidgetRow read_rows[] = {
+    {"read_dialog", XmCreateDialogShell, nullptr,       on_close(read_do_hide), SHELL},
+    {"read_fsb",    create_file_box,     "read_dialog", on_answer(do_read, read_do_hide, "vqc_read"), BOX},
+};
+
+const WidgetRow save_rows[] = {
+    {"save_dialog", XmCreateDialogShell, nullptr,       on_close(save_do_hide), SHELL},
+    {"save_fsb",    create_file_box,     "save_dialog", on_answer(do_save, save_do_hide, "vqc_save"), BOX},
+};
+
+const WidgetRow savechanges_rows[] = {
+    {"savechanges_dialog",     XmCreateDialogShell, nullptr,                  on_close(savechanges_docancel), SHELL},
+    {"savechanges_messagebox", create_question_box, "savechanges_dialog",
+     on_answer(savechanges_dosave, savechanges_docancel, "vqc_savechanges"), BOX},
+    {"savechanges_nob",        XmCreatePushButton,  "savechanges_messagebox", on_press(savechanges_dodiscard)},
+    {"OK",                     find_child,          "savechanges_messagebox"},
+};
+
+const WidgetLink savechanges_links[] = {
+    {"savechanges_messagebox", XmNdefaultButton, "OK"},
+    {"savechanges_messagebox", XmNinitialFocus,  "OK"},
+};
+// clang-format on
+
+/// The question's text for each operation, for a document with a name and one without.
+struct Question {
+  SaveOp operation;
+  const char* named;
+  const char* unnamed;
+};
+constexpr Question questions[] = {
+    {SaveOp::open, "sbf_open", "sbu_open"},
+    {SaveOp::start_new, "sbf_new", "sbu_new"},
+    {SaveOp::exit, "sbf_exit", "sbu_exit"},
+};
+
+std::string question_text(SaveOp operation) {
+  for (const Question& question : questions) {
+    if (question.operation != operation) continue;
+    return filled(text_or_name(save_file ? question.named : question.unnamed), {save_file});
+  }
+  return {};
+}
+
+void show_save_dialog(const char* title) {
+  if (!ensure_dialog(save_dialog, create_save_dialog)) return;
+  title_file_box(save_dialog[BOX], title);
+  show_file_box(save_dialog[BOX], save_file, name_in_box(save_dialog[BOX], save_file));
+}
+
+void close_save_dialog() {
+  if (save_dialog) hide_dialog(save_dialog[BOX]);
+}
+
+/// Shows what a load has added to the document. What is typed in the page and popup editors stays.
+void show_additions() {
+  family_display();
+  family_setcurrent(nullptr);
+  refresh_names(page_picker);
+  refresh_names(popup_picker);
+}
 
 void really_exit() {
   if (session_hooks.end) session_hooks.end(0);
 }
 
-}  // namespace
-
+/// Carries out the operation that waits.
 void run_save_op() {
   if (save_op != SaveOp::none) close_save_dialog();  // saving from there would carry it out again
   switch (save_op) {
@@ -34,36 +115,28 @@ void run_save_op() {
   }
 }
 
+/// Carries out an operation that loses the document, after the question if something has changed.
+void unless_changed(Widget w, SaveOp operation, void (*carry_out)()) {
+  const BusyCursor busy(w);
+  if (dirty) {
+    savechanges_popup(operation);
+  } else {
+    carry_out();
+  }
+}
+
+}  // namespace
+
+Widget* create_open_dialog(Widget parent) { return build_dialog(parent, open_rows, SLOTS); }
+Widget* create_read_dialog(Widget parent) { return build_dialog(parent, read_rows, SLOTS); }
+Widget* create_save_dialog(Widget parent) { return build_dialog(parent, save_rows, SLOTS); }
+Widget* create_savechanges_dialog(Widget parent) {
+  return build_dialog(parent, savechanges_rows, SLOTS, savechanges_links);
+}
+
 void document_saved() {
   run_save_op();
   save_op = SaveOp::none;
-}
-
-void do_new(Widget w, XtPointer, XtPointer) {
-  const BusyCursor busy(w);
-  if (dirty) {
-    savechanges_popup(SaveOp::start_new);
-  } else {
-    really_do_new();
-  }
-}
-
-void really_do_new() {
-  clear_document();
-  options_dialog_reset();
-  save_file = nullptr;
-  dirty = false;
-  show_document();
-  vqc_set_title(nullptr);
-}
-
-void do_exit(Widget w, XtPointer, XtPointer) {
-  const BusyCursor busy(w);
-  if (dirty) {
-    savechanges_popup(SaveOp::exit);
-  } else {
-    really_exit();
-  }
 }
 
 std::span<const CommandKey> file_command_keys() {
@@ -78,9 +151,106 @@ void show_document() {
   popuplist_display();
 }
 
-void show_additions() {
-  family_display();
-  family_setcurrent(nullptr);
-  refresh_names(page_picker);
-  refresh_names(popup_picker);
+void do_new(Widget w, XtPointer, XtPointer) { unless_changed(w, SaveOp::start_new, really_do_new); }
+
+void really_do_new() {
+  clear_document();
+  options_dialog_reset();
+  save_file = nullptr;
+  dirty = false;
+  show_document();
+  vqc_set_title(nullptr);
+}
+
+void do_exit(Widget w, XtPointer, XtPointer) { unless_changed(w, SaveOp::exit, really_exit); }
+
+void open_do_popup(Widget w, XtPointer, XtPointer) { unless_changed(w, SaveOp::open, really_open_popup); }
+
+void really_open_popup() {
+  if (ensure_dialog(open_dialog, create_open_dialog)) show_file_box(open_dialog[BOX], save_file);
+}
+
+void do_open(Widget w, XtPointer, XtPointer call) {
+  const BusyCursor busy(w);
+  save_file = chosen_path(w, call);
+  parseit(&save_file, 1);
+  dirty = false;
+  hide_dialog(open_dialog[BOX]);
+  show_document();
+  options_dialog_load();
+}
+
+void open_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(open_dialog[BOX]); }
+
+void read_do_popup(Widget w, XtPointer, XtPointer) {
+  const BusyCursor busy(w);
+  if (ensure_dialog(read_dialog, create_read_dialog)) show_file_box(read_dialog[BOX], save_file);
+}
+
+void do_read(Widget w, XtPointer, XtPointer call) {
+  const BusyCursor busy(w);
+  Text path = chosen_path(w, call);
+  parseit(&path, 0);
+  hide_dialog(read_dialog[BOX]);
+  show_additions();
+}
+
+void read_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(read_dialog[BOX]); }
+
+void save_do_popup(Widget w, XtPointer, XtPointer) {
+  const BusyCursor busy(w);
+  save_op = SaveOp::none;
+  really_save_popup();
+}
+
+void saveas_do_popup(Widget w, XtPointer, XtPointer) {
+  const BusyCursor busy(w);
+  save_op = SaveOp::none;
+  show_save_dialog("save_as_title");
+}
+
+void really_save_popup() {
+  if (save_file) {
+    write_save_file(save_file);
+  } else {
+    show_save_dialog("save_title");
+  }
+}
+
+void do_save(Widget w, XtPointer, XtPointer call) {
+  const BusyCursor busy(w);
+  save_file = chosen_path(w, call);
+  close_save_dialog();
+  write_save_file(save_file);
+}
+
+void save_do_hide(Widget, XtPointer, XtPointer) {
+  save_op = SaveOp::none;
+  close_save_dialog();
+}
+
+void savechanges_popup(SaveOp operation) {
+  save_op = operation;
+  if (!ensure_dialog(savechanges_dialog, create_savechanges_dialog)) return;
+  const std::string question = question_text(operation);
+  XtVaSetValues(savechanges_dialog[BOX], XmNmessageString, CompoundString::of_lines(question.c_str()).get(), nullptr);
+  show_dialog(savechanges_dialog[BOX], Place::over);
+}
+
+void savechanges_dosave(Widget w, XtPointer, XtPointer) {
+  const BusyCursor busy(w);
+  hide_dialog(savechanges_dialog[BOX]);
+  really_save_popup();
+}
+
+void savechanges_dodiscard(Widget w, XtPointer, XtPointer) {
+  const BusyCursor busy(w);
+  hide_dialog(savechanges_dialog[BOX]);
+  dirty = false;
+  run_save_op();
+}
+
+void savechanges_docancel(Widget, XtPointer, XtPointer) {
+  save_op = SaveOp::none;
+  hide_dialog(savechanges_dialog[BOX]);
 }

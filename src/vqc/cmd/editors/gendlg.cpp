@@ -1,12 +1,14 @@
+// The dialog behind the three Generate commands.
+
 #include "vqc/cmd/editors/gendlg.h"
 
-#include <Xm/FileSB.h>
+#include <Xm/DialogS.h>
+#include <Xm/RowColumn.h>
+#include <Xm/ScrolledW.h>
 #include <Xm/ToggleB.h>
 
 #include <vector>
 
-#include "vqc/cmd/editors/dialogs/family_dialog.h"
-#include "vqc/cmd/editors/dialogs/gen_dialog.h"
 #include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
@@ -15,6 +17,17 @@
 #include "vqc/cmd/model/options.h"
 
 namespace {
+
+enum Slot { SHELL, FSB, TOGGLES, SLOTS };
+
+// clang-format off
+const WidgetRow rows[] = {
+    {"gen_dialog",   XmCreateDialogShell,    nullptr,        on_close(gen_do_hide), SHELL},
+    {"gen_fsb",      create_modal_file_box,  "gen_dialog",   on_answer(gen_do_generate, gen_do_hide, "vqc_gen"), FSB},
+    {"gen_families", XmCreateScrolledWindow, "gen_fsb"},
+    {"gen_toggles",  XmCreateRowColumn,      "gen_families", {}, TOGGLES},
+};
+// clang-format on
 
 FileKind pending_kind = CONFIG_FILE;
 std::vector<Widget> family_toggles;
@@ -47,16 +60,18 @@ Text derived_name(Widget box, FileKind kind) {
 
 void gen_popup(Widget w, FileKind kind, const char* name, const char* title) {
   const BusyCursor busy(w);
-  if (!made(gen_dialog, create_gen_dialog, family_dialog[FAMILY_SHELL])) return;
+  if (!ensure_dialog(gen_dialog, create_gen_dialog)) return;
   pending_kind = kind;
-  Widget box = gen_dialog[GEN_FSB];
+  Widget box = gen_dialog[FSB];
   title_file_box(box, title);
   XtVaSetValues(box, XmNpattern, static_cast<XmString>(CompoundString("*.c")), nullptr);
-  rebuild_toggles(gen_dialog[GEN_TOGGLES]);
+  rebuild_toggles(gen_dialog[TOGGLES]);
   show_file_box(box, save_file, name ? Text(name) : derived_name(box, kind));
 }
 
 }  // namespace
+
+Widget* create_gen_dialog(Widget parent) { return build_dialog(parent, rows, SLOTS); }
 
 const FamilyChoice toggled_families = {toggled};
 
@@ -75,8 +90,8 @@ void genstubs_do_popup(Widget w, XtPointer, XtPointer) {
 void gen_do_generate(Widget w, XtPointer, XtPointer call) {
   const BusyCursor busy(w);
   const Text path = chosen_path(w, call);
-  hide_dialog(gen_dialog[GEN_FSB]);  // first: a message could not be answered behind a modal dialog
+  hide_dialog(gen_dialog[FSB]);  // first: a message could not be answered behind a modal dialog
   generate(path, true, pending_kind);
 }
 
-void gen_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(gen_dialog[GEN_FSB]); }
+void gen_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(gen_dialog[FSB]); }

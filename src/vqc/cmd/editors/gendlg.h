@@ -1,11 +1,16 @@
 #ifndef VQC_CMD_EDITORS_GENDLG_H
 #define VQC_CMD_EDITORS_GENDLG_H
 
-#include <Xm/Xm.h>
+// The dialog behind the three Generate commands: a file, and a toggle for each family that goes into it.
 
+#include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/generate/generate.h"
 
-// The dialog behind the three Generate commands: a file, and a toggle for each family that goes into it.
+/// Null until the dialog is first needed.
+inline Widget* gen_dialog = nullptr;
+
+Widget* create_gen_dialog(Widget parent);
+inline void delete_gen_dialog(Widget* record) { delete_dialog(record); }
 
 void gencon_do_popup(Widget w, XtPointer, XtPointer);
 void gencode_do_popup(Widget w, XtPointer, XtPointer);

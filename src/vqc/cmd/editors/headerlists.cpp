@@ -1,6 +1,50 @@
+// The pages of a family's three lists of headers.
+
 #include "vqc/cmd/editors/headerlists.h"
 
-#include "vqc/cmd/editors/dialogs/entity_dialog.h"
+#include "vqc/cmd/editors/entity_dialog.h"
+#include "vqc/cmd/editors/kit/list_page.h"
+
+namespace {
+
+const ListPage code_headers = {.name = "codeheaderlist",
+                               .parent = "entity_view_form",
+                               .slot = CODEHEADERLIST_BOX,
+                               .topic = "vqc_code_hdrs",
+                               .ok = codeheaderlist_do_add,
+                               .cancel = codeheaderlist_do_delete,
+                               .select = codeheaderlist_do_select,
+                               .up = codeheaderlist_do_up,
+                               .down = codeheaderlist_do_down,
+                               .quit = entity_do_hide};
+
+const ListPage config_headers = {.name = "confheaderlist",
+                                 .parent = "entity_view_form",
+                                 .slot = CONFHEADERLIST_BOX,
+                                 .topic = "vqc_conf_hdrs",
+                                 .ok = confheaderlist_do_add,
+                                 .cancel = confheaderlist_do_delete,
+                                 .select = confheaderlist_do_select,
+                                 .up = confheaderlist_do_up,
+                                 .down = confheaderlist_do_down,
+                                 .quit = entity_do_hide};
+
+const ListPage family_headers = {.name = "familyheaderlist",
+                                 .parent = "entity_view_form",
+                                 .slot = FAMILYHEADERLIST_BOX,
+                                 .topic = "vqc_family_hdrs",
+                                 .ok = familyheaderlist_do_add,
+                                 .cancel = familyheaderlist_do_delete,
+                                 .select = familyheaderlist_do_select,
+                                 .up = familyheaderlist_do_up,
+                                 .down = familyheaderlist_do_down,
+                                 .quit = entity_do_hide};
+
+}  // namespace
+
+DialogPart codeheaderlist_page() { return list_page(code_headers); }
+DialogPart confheaderlist_page() { return list_page(config_headers); }
+DialogPart familyheaderlist_page() { return list_page(family_headers); }
 
 ListEditor codeheaderlist_editor{.dialog = entity_dialog,
                                  .box_slot = CODEHEADERLIST_BOX,

@@ -1,9 +1,15 @@
 #ifndef VQC_CMD_EDITORS_HEADERLISTS_H
 #define VQC_CMD_EDITORS_HEADERLISTS_H
 
+// The pages of a family's three lists of headers.
+
+#include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
 
-// The pages of a family's three lists of headers.
+/// Their parts of the family dialog.
+DialogPart codeheaderlist_page();
+DialogPart confheaderlist_page();
+DialogPart familyheaderlist_page();
 
 extern ListEditor codeheaderlist_editor;
 inline constexpr XtCallbackProc codeheaderlist_do_add = do_add<codeheaderlist_editor>;

@@ -1,13 +1,19 @@
+// The dialog of the document's names for the generated tables.
+
 #include "vqc/cmd/editors/options.h"
 
+#include <Xm/DialogS.h>
+#include <Xm/Frame.h>
+#include <Xm/Label.h>
+#include <Xm/PushB.h>
+#include <Xm/Separator.h>
+#include <Xm/TextF.h>
 #include <Xm/ToggleB.h>
 
 #include <string>
 
 #include "libkel/nextwhite.h"
 #include "libkel/overwhite.h"
-#include "vqc/cmd/editors/dialogs/family_dialog.h"
-#include "vqc/cmd/editors/dialogs/options_shell.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
@@ -15,21 +21,83 @@
 
 namespace {
 
+enum Slot {
+  SHELL,
+  FORM,
+  FAMILY_TABLE,
+  FAMILY_NAMES,
+  XWIDGETS,
+  ENUMERATIONS,
+  ALIASES,
+  CONVERTERS,
+  POPUPS,
+  STOP_LIST,
+  FAMILY_COUNT,
+  PAGE_NAMES,
+  COMMENT,
+  VERBOSE,
+  SLOTS,
+};
+
+// clang-format off
+const WidgetRow rows[] = {
+    {"options_shell",           XmCreateDialogShell,  nullptr,             {}, SHELL},
+    {"options_form",            create_form,          "options_shell",     {{{XmNhelpCallback, options_help_callback}}}, FORM},
+    {"options_ok",              XmCreatePushButton,   "options_form",      on_press(options_ok_callback)},
+    {"options_reset",           XmCreatePushButton,   "options_form",      on_press(options_reset_callback)},
+    {"options_cancel",          XmCreatePushButton,   "options_form",      on_press(options_cancel_callback)},
+    {"options_help",            XmCreatePushButton,   "options_form",      on_press(options_help_callback)},
+    {"options_separator_2",     XmCreateSeparator,    "options_form"},
+    {"options_verbose_code",    XmCreateToggleButton, "options_form",      on_change(options_verbose_changed_callback), VERBOSE},
+    {"options_comment_code",    XmCreateToggleButton, "options_form",      on_change(options_comment_changed_callback), COMMENT},
+    {"options_data_frame",      XmCreateFrame,        "options_form"},
+    {"options_data_label",      XmCreateLabel,        "options_data_frame"},
+    {"options_data_form",       create_form,          "options_data_frame"},
+    {"family_table_text",       XmCreateTextField,    "options_data_form", {}, FAMILY_TABLE},
+    {"family_table_label",      XmCreateLabel,        "options_data_form"},
+    {"family_names_text",       XmCreateTextField,    "options_data_form", {}, FAMILY_NAMES},
+    {"family_names_label",      XmCreateLabel,        "options_data_form"},
+    {"xwidget_array_text",      XmCreateTextField,    "options_data_form", {}, XWIDGETS},
+    {"xwidget_array_label",     XmCreateLabel,        "options_data_form"},
+    {"enumeration_array_text",  XmCreateTextField,    "options_data_form", {}, ENUMERATIONS},
+    {"enumeration_array_label", XmCreateLabel,        "options_data_form"},
+    {"alias_array_text",        XmCreateTextField,    "options_data_form", {}, ALIASES},
+    {"alias_array_label",       XmCreateLabel,        "options_data_form"},
+    {"converter_array_text",    XmCreateTextField,    "options_data_form", {}, CONVERTERS},
+    {"converter_array_label",   XmCreateLabel,        "options_data_form"},
+    {"popup_array_text",        XmCreateTextField,    "options_data_form", {}, POPUPS},
+    {"popup_array_label",       XmCreateLabel,        "options_data_form"},
+    {"stop_list_array_text",    XmCreateTextField,    "options_data_form", {}, STOP_LIST},
+    {"stop_list_array_label",   XmCreateLabel,        "options_data_form"},
+    {"family_count_text",       XmCreateTextField,    "options_data_form", {}, FAMILY_COUNT},
+    {"family_count_label",      XmCreateLabel,        "options_data_form"},
+    {"page_names_text",         XmCreateTextField,    "options_data_form", {}, PAGE_NAMES},
+    {"page_names_label",        XmCreateLabel,        "options_data_form"},
+    {"options_separator_1",     XmCreateSeparator,    "options_data_form"},
+};
+
+const WidgetLink links[] = {
+    {"options_form", XmNdefaultButton, "options_ok"},
+    {"options_form", XmNcancelButton,  "options_cancel"},
+    {"options_form", XmNinitialFocus,  "family_table_text"},
+};
+// clang-format on
+
 struct OptionField {
-  OptionsSlot field;
+  Slot field;
   NameOption NameOptions::*option;
 };
 constexpr OptionField option_fields[] = {
-    {OPTIONS_FAMILY_TABLE, &NameOptions::family_table},
-    {OPTIONS_FAMILY_NAMES, &NameOptions::family_names},
-    {OPTIONS_XWIDGETS, &NameOptions::xwidgets},
-    {OPTIONS_ENUMERATIONS, &NameOptions::enumerations},
-    {OPTIONS_ALIASES, &NameOptions::aliases},
-    {OPTIONS_CONVERTERS, &NameOptions::converters},
-    {OPTIONS_POPUPS, &NameOptions::popups},
-    {OPTIONS_STOP_LIST, &NameOptions::stop_list},
-    {OPTIONS_FAMILY_COUNT, &NameOptions::family_count},
-    {OPTIONS_PAGE_NAMES, &NameOptions::page_names},
+    {FAMILY_TABLE, &NameOptions::family_table},
+    {FAMILY_NAMES, &NameOptions::family_names},
+    {XWIDGETS, &NameOptions::xwidgets},
+    {ENUMERATIONS, &NameOptions::enumerations},
+    {ALIASES, &NameOptions::aliases},
+    {CONVERTERS, &NameOptions::converters},
+    {POPUPS, &NameOptions::popups},
+    {STOP_LIST, &NameOptions::stop_list},
+    {FAMILY_COUNT, &NameOptions::family_count},
+    {PAGE_NAMES, &NameOptions::page_names},
 };
 
 /// The first word of a text; null when it has none.
@@ -42,23 +110,25 @@ Text first_word(const Text& text) {
 
 }  // namespace
 
+Widget* create_options_shell(Widget parent) { return build_dialog(parent, rows, SLOTS, links); }
+
 void genopt_do_popup(Widget w, XtPointer, XtPointer) {
   const BusyCursor busy(w);
-  options_popup(family_dialog[FAMILY_SHELL]);
+  options_popup(main_shell());
 }
 
 void options_popup(Widget parent) {
-  if (!made(options_shell, create_options_shell, parent)) return;
+  if (!ensure_dialog(options_shell, create_options_shell, parent)) return;
   document_switches.dialog_exists = true;
   options_dialog_load();
-  show_dialog(options_shell[OPTIONS_FORM]);
+  show_dialog(options_shell[FORM]);
 }
 
 void options_dialog_load() {
   if (!options_shell) return;
   for (const auto& [field, option] : option_fields) settextf(options_shell[field], (name_options.*option).value());
-  XmToggleButtonSetState(options_shell[OPTIONS_COMMENT], vqc_comment_code() ? True : False, True);
-  XmToggleButtonSetState(options_shell[OPTIONS_VERBOSE], vqc_verbose_code() ? True : False, True);
+  XmToggleButtonSetState(options_shell[COMMENT], vqc_comment_code() ? True : False, True);
+  XmToggleButtonSetState(options_shell[VERBOSE], vqc_verbose_code() ? True : False, True);
 }
 
 void options_dialog_reset() {
@@ -70,12 +140,12 @@ void options_ok_callback(Widget, XtPointer, XtPointer) {
   for (const auto& [field, option] : option_fields) {
     (name_options.*option).document = first_word(gettextf(options_shell[field]));
   }
-  hide_dialog(options_shell[OPTIONS_FORM]);
+  hide_dialog(options_shell[FORM]);
 }
 
 void options_reset_callback(Widget, XtPointer, XtPointer) { options_dialog_reset(); }
 
-void options_cancel_callback(Widget, XtPointer, XtPointer) { hide_dialog(options_shell[OPTIONS_FORM]); }
+void options_cancel_callback(Widget, XtPointer, XtPointer) { hide_dialog(options_shell[FORM]); }
 
 void options_help_callback(Widget w, XtPointer, XtPointer call) {
   vqc_do_help(w, const_cast<char*>("vqc_gen_options"), call);

@@ -1,9 +1,15 @@
 #ifndef VQC_CMD_EDITORS_OPTIONS_H
 #define VQC_CMD_EDITORS_OPTIONS_H
 
-#include <Xm/Xm.h>
-
 // The dialog of the document's names for the generated tables. None of this marks the document as changed.
+
+#include "vqc/cmd/editors/kit/dialog.h"
+
+/// Null until the dialog is first needed.
+inline Widget* options_shell = nullptr;
+
+Widget* create_options_shell(Widget parent);
+inline void delete_options_shell(Widget* record) { delete_dialog(record); }
 
 /// Opens it from the main window's menu.
 void genopt_do_popup(Widget w, XtPointer, XtPointer);

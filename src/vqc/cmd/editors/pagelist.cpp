@@ -1,13 +1,50 @@
+// The page editor, which picks a resource page.
+
 #include "vqc/cmd/editors/pagelist.h"
 
-#include "vqc/cmd/editors/dialogs/pageedit_dialog.h"
+#include <Xm/ArrowB.h>
+#include <Xm/DialogS.h>
+#include <Xm/PushB.h>
+
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/list_page.h"
 #include "vqc/cmd/model/builtin.h"
 #include "vqc/cmd/model/page.h"
 
+namespace {
+
+enum Slot { SHELL, BOX, SLOTS };
+
+// clang-format off
+const WidgetRow shell_rows[] = {{"pageedit_dialog", XmCreateDialogShell, nullptr, {}, SHELL}};
+
+const WidgetRow work_rows[] = {
+    {"pageedit_up_arrow",   XmCreateArrowButton, "pageedit_work_area", on_press(pagelist_do_up)},
+    {"pageedit_down_arrow", XmCreateArrowButton, "pageedit_work_area", on_press(pagelist_do_down)},
+    {"pageedit_updateb",    XmCreatePushButton,  "pageedit_work_area", on_press(pagelist_do_add)},
+    {"pageedit_removeb",    XmCreatePushButton,  "pageedit_work_area", on_press(pagelist_do_delete)},
+};
+// clang-format on
+
+const ListPage pages = {.name = "pageedit",
+                        .parent = "pageedit_dialog",
+                        .slot = BOX,
+                        .topic = "vqc_page_edit",
+                        .apply = pagelist_do_apply,
+                        .cancel = pagelist_do_hide,
+                        .select = pagelist_do_display,
+                        .form = "pageedit_work_area",
+                        .rows = work_rows};
+
+}  // namespace
+
+Widget* create_pageedit_dialog(Widget parent) {
+  return build_dialog(parent, {part(shell_rows), list_page(pages)}, SLOTS);
+}
+
 Picker page_picker{
-    .editor = {.dialog = pageedit_dialog, .box_slot = PAGEEDIT_BOX, .names = names_to_pick<page_kind, page_pool>()},
+    .editor = {.dialog = pageedit_dialog, .box_slot = BOX, .names = names_to_pick<page_kind, page_pool>()},
     .create = create_pageedit_dialog,
     .exists = [](const Text& name) { return page_ptr(name) != nullptr; },
     .show = [](const Text& name) { page_setcurrent(page_ptr(name)); },

@@ -1,9 +1,16 @@
 #ifndef VQC_CMD_EDITORS_PAGELIST_H
 #define VQC_CMD_EDITORS_PAGELIST_H
 
+// The page editor, which picks a resource page.
+
+#include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/picker.h"
 
-// The page editor, which picks a resource page.
+/// Null until the dialog is first needed.
+inline Widget* pageedit_dialog = nullptr;
+
+Widget* create_pageedit_dialog(Widget parent);
+inline void delete_pageedit_dialog(Widget* record) { delete_dialog(record); }
 
 extern Picker page_picker;
 

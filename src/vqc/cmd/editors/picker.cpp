@@ -1,3 +1,5 @@
+// Picks names for the text fields of other dialogs.
+
 #include "vqc/cmd/editors/picker.h"
 
 #include "vqc/cmd/editors/kit/cursor.h"
@@ -27,7 +29,7 @@ int place_in_list(const ListEditor& editor, const Text& name) {
 void open_picker(Picker& picker, Widget field, Widget parent, bool (*has_target)()) {
   picker.field = field;
   picker.has_target = has_target;
-  if (!made(picker.editor.dialog, picker.create, parent)) return;
+  if (!ensure_dialog(picker.editor.dialog, picker.create, parent)) return;
   show_all_names(picker);
   picker.show(gettextf(field));
   show_dialog(picker.editor.box(), Place::over);

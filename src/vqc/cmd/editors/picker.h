@@ -1,6 +1,8 @@
 #ifndef VQC_CMD_EDITORS_PICKER_H
 #define VQC_CMD_EDITORS_PICKER_H
 
+// A list editor that picks a name for a text field of another dialog.
+
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
 

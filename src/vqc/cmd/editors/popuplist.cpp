@@ -1,19 +1,55 @@
+// The popup editor, which picks a resource popup and edits the procedures of those that are not predefined.
+
 #include "vqc/cmd/editors/popuplist.h"
 
-#include "vqc/cmd/editors/dialogs/popupedit_dialog.h"
+#include <Xm/DialogS.h>
+#include <Xm/Label.h>
+#include <Xm/PushB.h>
+#include <Xm/TextF.h>
+
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/list_page.h"
 #include "vqc/cmd/model/builtin.h"
 #include "vqc/cmd/model/popup.h"
 
 namespace {
 
+enum Slot { SHELL, BOX, INIT, UPDATE, SLOTS };
+
+// clang-format off
+const WidgetRow shell_rows[] = {{"popupedit_dialog", XmCreateDialogShell, nullptr, {}, SHELL}};
+
+const WidgetRow work_rows[] = {
+    {"dialog_init",                 XmCreateTextField,  "popupedit_work_area", {}, INIT},
+    {"converter_dialogue_init_l",   XmCreateLabel,      "popupedit_work_area"},
+    {"dialog_update",               XmCreateTextField,  "popupedit_work_area", {}, UPDATE},
+    {"converter_dialogue_update_l", XmCreateLabel,      "popupedit_work_area"},
+    {"popupedit_applytb",           XmCreatePushButton, "popupedit_work_area", on_press(popuplist_do_add)},
+    {"popupedit_deletetb",          XmCreatePushButton, "popupedit_work_area", on_press(popuplist_do_delete)},
+};
+// clang-format on
+
+const ListPage popups = {.name = "popupedit",
+                         .parent = "popupedit_dialog",
+                         .slot = BOX,
+                         .topic = "vqc_popup_edit",
+                         .apply = popuplist_do_apply,
+                         .cancel = popuplist_do_hide,
+                         .select = popuplist_do_display,
+                         .form = "popupedit_work_area",
+                         .rows = work_rows};
+
 void show_popup(const Text& name) { popup_setcurrent(popup_ptr(name)); }
 
 }  // namespace
 
+Widget* create_popupedit_dialog(Widget parent) {
+  return build_dialog(parent, {part(shell_rows), list_page(popups)}, SLOTS);
+}
+
 Picker popup_picker{
-    .editor = {.dialog = popupedit_dialog, .box_slot = POPUPEDIT_BOX, .names = names_to_pick<popup_kind, popup_pool>()},
+    .editor = {.dialog = popupedit_dialog, .box_slot = BOX, .names = names_to_pick<popup_kind, popup_pool>()},
     .create = create_popupedit_dialog,
     .exists = [](const Text& name) { return popup_ptr(name) != nullptr; },
     .show = show_popup,
@@ -28,13 +64,13 @@ void popuplist_do_add(Widget w, XtPointer, XtPointer) {
   name_into_family(popup_picker, name);
   if (!popuplist_ptr(family_getcurrent(), name)) return;
   PopupDef* popup = popup_ptr(name);
-  gettextf(popupedit_dialog[POPUPEDIT_INIT], &popup->dialog_init);
-  gettextf(popupedit_dialog[POPUPEDIT_UPDATE], &popup->dialog_update);
+  gettextf(popupedit_dialog[INIT], &popup->dialog_init);
+  gettextf(popupedit_dialog[UPDATE], &popup->dialog_update);
 }
 
 void current_popup_changed(PopupDef* popup) {
   if (!popupedit_dialog) return;
   settextf(popup_picker.editor.name_field(), popup ? popup->name.c_str() : nullptr);
-  settextf(popupedit_dialog[POPUPEDIT_INIT], popup ? popup->dialog_init.c_str() : nullptr);
-  settextf(popupedit_dialog[POPUPEDIT_UPDATE], popup ? popup->dialog_update.c_str() : nullptr);
+  settextf(popupedit_dialog[INIT], popup ? popup->dialog_init.c_str() : nullptr);
+  settextf(popupedit_dialog[UPDATE], popup ? popup->dialog_update.c_str() : nullptr);
 }

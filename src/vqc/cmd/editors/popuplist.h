@@ -1,9 +1,16 @@
 #ifndef VQC_CMD_EDITORS_POPUPLIST_H
 #define VQC_CMD_EDITORS_POPUPLIST_H
 
+// The popup editor, which picks a resource popup and edits the procedures of those that are not predefined.
+
+#include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/picker.h"
 
-// The popup editor, which picks a resource popup and edits the procedures of those that are not predefined.
+/// Null until the dialog is first needed.
+inline Widget* popupedit_dialog = nullptr;
+
+Widget* create_popupedit_dialog(Widget parent);
+inline void delete_popupedit_dialog(Widget* record) { delete_dialog(record); }
 
 extern Picker popup_picker;
 

@@ -1,9 +1,15 @@
 #ifndef VQC_CMD_EDITORS_STOP_H
 #define VQC_CMD_EDITORS_STOP_H
 
-#include <Xm/Xm.h>
-
 // The stop list dialog: a toggle for each widget class that can be left out.
+
+#include "vqc/cmd/editors/kit/dialog.h"
+
+/// Null until the dialog is first needed.
+inline Widget* stop_list_shell = nullptr;
+
+Widget* create_stop_list_shell(Widget parent);
+inline void delete_stop_list_shell(Widget* record) { delete_dialog(record); }
 
 void stoplist_do_popup(Widget w, XtPointer, XtPointer);
 void stop_list_do_apply(Widget w, XtPointer, XtPointer);

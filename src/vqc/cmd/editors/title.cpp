@@ -1,16 +1,18 @@
+// Sets the titles of windows.
+
 #include "vqc/cmd/editors/title.h"
 
 #include <string>
 
 #include "libkel/leafnm.h"
 #include "libkel/message.h"
-#include "vqc/cmd/editors/dialogs/family_dialog.h"
+#include "vqc/cmd/editors/kit/main_shell.h"
 
 void vqc_set_title(const char* path) {
-  if (!family_dialog) return;
+  if (!main_shell()) return;
   std::string title = "vqconfig";
   if (path) title.append(": ").append(leafnm(path));
-  XtVaSetValues(family_dialog[FAMILY_SHELL], XmNtitle, title.c_str(), nullptr);
+  XtVaSetValues(main_shell(), XmNtitle, title.c_str(), nullptr);
 }
 
 void vq_set_title(Widget shell, const char* resource_name, const char* arg) {

@@ -1,6 +1,8 @@
 #ifndef VQC_CMD_EDITORS_TITLE_H
 #define VQC_CMD_EDITORS_TITLE_H
 
+// The titles of windows.
+
 #include <Xm/Xm.h>
 
 /// Titles the main window with the program's name and the leaf name of `path`; null stands for a document without a

@@ -1,13 +1,21 @@
 #ifndef VQC_CMD_EDITORS_WIDGETEDIT_H
 #define VQC_CMD_EDITORS_WIDGETEDIT_H
 
-#include <Xm/Xm.h>
-
-#include "vqc/cmd/model/records.h"
-
 // The widget editor: the fields of the widget list's current widget, which are stored when the user applies them, and
 // its resources, which are stored one at a time. A resource that has been changed but not stored is asked about before
 // its fields show something else.
+
+#include "vqc/cmd/editors/kit/dialog.h"
+#include "vqc/cmd/model/records.h"
+
+/// Null until the dialogs are first needed.
+inline Widget* widgetedit_dialog = nullptr;
+inline Widget* resource_warn_dialog = nullptr;
+
+Widget* create_widgetedit_dialog(Widget parent);
+inline void delete_widgetedit_dialog(Widget* record) { delete_dialog(record); }
+Widget* create_resource_warn_dialog(Widget parent);
+inline void delete_resource_warn_dialog(Widget* record) { delete_dialog(record); }
 
 /// Shows the dialog, made when it is first needed.
 void widgetedit_show();

@@ -1,10 +1,25 @@
+// The page of a family's widget classes.
+
 #include "vqc/cmd/editors/widgetlist.h"
 
-#include "vqc/cmd/editors/dialogs/entity_dialog.h"
+#include "vqc/cmd/editors/entity_dialog.h"
+#include "vqc/cmd/editors/kit/list_page.h"
 #include "vqc/cmd/editors/widgetedit.h"
 #include "vqc/cmd/model/widgetedit.h"
 
 namespace {
+
+const ListPage widgets = {.name = "widgetlist",
+                          .parent = "entity_view_form",
+                          .slot = WIDGETLIST_BOX,
+                          .topic = "vqc_classw",
+                          .ok = widgetlist_do_edit,
+                          .apply = widgetlist_do_add,
+                          .cancel = widgetlist_do_delete,
+                          .select = widgetlist_do_select,
+                          .up = widgetlist_do_up,
+                          .down = widgetlist_do_down,
+                          .quit = entity_do_hide};
 
 void select_widget(const Text& name) { widgetlist_setcurrent(widgetlist_ptr(family_getcurrent(), name)); }
 
@@ -18,6 +33,8 @@ void edit_widget(const Text& name) {
 }
 
 }  // namespace
+
+DialogPart widgetlist_page() { return list_page(widgets); }
 
 ListEditor widgetlist_editor{.dialog = entity_dialog,
                              .box_slot = WIDGETLIST_BOX,

@@ -1,9 +1,13 @@
 #ifndef VQC_CMD_EDITORS_WIDGETLIST_H
 #define VQC_CMD_EDITORS_WIDGETLIST_H
 
+// The page of a family's widget classes. The current one is what the widget editor shows.
+
+#include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
 
-// The page of a family's widget classes. The current one is what the widget editor shows.
+/// Its part of the family dialog.
+DialogPart widgetlist_page();
 
 extern ListEditor widgetlist_editor;
 inline constexpr XtCallbackProc widgetlist_do_add = do_add<widgetlist_editor>;

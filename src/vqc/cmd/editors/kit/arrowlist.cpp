@@ -1,3 +1,5 @@
+// Moves the selected item of a list, in the model first.
+
 #include "vqc/cmd/editors/kit/arrowlist.h"
 
 #include <Xm/List.h>

@@ -1,6 +1,8 @@
 #ifndef VQC_CMD_EDITORS_KIT_ARROWLIST_H
 #define VQC_CMD_EDITORS_KIT_ARROWLIST_H
 
+// What the arrows beside a list do.
+
 #include <Xm/Xm.h>
 
 #include "vqc/cmd/model/ordered_list.h"

@@ -1,3 +1,5 @@
+// Weighs the places that suggest themselves for a window.
+
 #include "vqc/cmd/editors/kit/beside.h"
 
 #include <array>

@@ -1,6 +1,8 @@
 #ifndef VQC_CMD_EDITORS_KIT_BESIDE_H
 #define VQC_CMD_EDITORS_KIT_BESIDE_H
 
+// Chooses the place of a window by what it would hide. Nothing of X is asked here.
+
 #include <vector>
 
 #include "vqc/cmd/editors/kit/screen_area.h"

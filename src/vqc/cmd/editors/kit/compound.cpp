@@ -1,3 +1,5 @@
+// Turns plain texts into Motif's compound strings and back.
+
 #include "vqc/cmd/editors/kit/compound.h"
 
 #include <cwchar>

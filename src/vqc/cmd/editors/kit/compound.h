@@ -1,6 +1,8 @@
 #ifndef VQC_CMD_EDITORS_KIT_COMPOUND_H
 #define VQC_CMD_EDITORS_KIT_COMPOUND_H
 
+// Compound strings, in which Motif has its texts, and plain ones.
+
 #include <Xm/Xm.h>
 
 #include <memory>

@@ -1,9 +1,11 @@
+// Shows the busy cursor in the window of a widget.
+
 #include "vqc/cmd/editors/kit/cursor.h"
 
 #include <X11/cursorfont.h>
 #include <Xm/Gadget.h>
 
-#include "vqc/cmd/editors/kit/dialog.h"
+#include "vqc/cmd/editors/kit/widgets.h"
 
 namespace {
 

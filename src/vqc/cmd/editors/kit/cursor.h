@@ -1,6 +1,8 @@
 #ifndef VQC_CMD_EDITORS_KIT_CURSOR_H
 #define VQC_CMD_EDITORS_KIT_CURSOR_H
 
+// The busy cursor.
+
 #include <Xm/Xm.h>
 
 /// Show the busy cursor, or the normal one again, in the window of the shell that holds `w`. 0, with nothing done, for

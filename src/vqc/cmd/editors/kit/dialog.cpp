@@ -1,9 +1,10 @@
+// Makes dialogs from their tables, and the boxes and forms that Motif's own creators do not give.
+
 #include "vqc/cmd/editors/kit/dialog.h"
 
 #include <Xm/DialogS.h>
 #include <Xm/FileSB.h>
 #include <Xm/Form.h>
-#include <Xm/MenuShell.h>
 #include <Xm/MessageB.h>
 #include <Xm/Protocols.h>
 #include <Xm/RowColumn.h>
@@ -16,6 +17,8 @@
 
 #include "vqc/cmd/editors/kit/memory.h"
 #include "vqc/cmd/editors/kit/polish.h"
+#include "vqc/cmd/editors/kit/session_hooks.h"
+#include "vqc/cmd/editors/kit/widgets.h"
 
 namespace {
 
@@ -51,7 +54,7 @@ class Builder {
       made_[i] = row.create(named(row.parent), const_cast<char*>(row.name), nullptr, 0);
       if (made_[i]) {
         add_callbacks(made_[i], row);
-      } else if (row.create != unwanted) {
+      } else if (row.create != unmanage_child) {
         return false;
       }
     }
@@ -59,8 +62,13 @@ class Builder {
   }
 
   void set_links(std::span<const WidgetLink> links) {
-    for (const auto& [widget, resource, value] : links) {
-      XtVaSetValues(named(widget), resource, value ? named(value) : nullptr, nullptr);
+    for (const auto& [widget, resource, value, procedure] : links) {
+      Widget linked = value ? named(value) : nullptr;
+      if (procedure) {
+        add_callback(named(widget), resource, procedure, linked);
+      } else {
+        XtVaSetValues(named(widget), resource, linked, nullptr);
+      }
     }
   }
 
@@ -85,7 +93,7 @@ class Builder {
 
   void fill(Widget* record) const {
     for (std::size_t i = 0; i < rows_.size(); ++i) {
-      if (rows_[i].slot != NO_SLOT) record[rows_[i].slot] = made_[i];
+      if (rows_[i].slot != kNoSlot) record[rows_[i].slot] = made_[i];
     }
   }
 
@@ -101,9 +109,9 @@ class Builder {
 
   static void add_callbacks(Widget widget, const WidgetRow& row) {
     for (const auto& [list, procedure, data] : row.callbacks) {
-      if (!list) return;
-      if (list == CLOSED) {
-        on_close(widget, procedure);
+      if (!procedure) continue;
+      if (list == kClosed) {
+        answer_close(widget, procedure);
       } else {
         add_callback(widget, list, procedure, data);
       }
@@ -114,8 +122,6 @@ class Builder {
   static bool pops_up(Widget widget) {
     return XtIsShell(widget) || XmIsDialogShell(XtParent(widget)) || is_menu(widget);
   }
-
-  static bool is_menu(Widget widget) { return XtIsSubclass(XtParent(widget), xmMenuShellWidgetClass); }
 
   Widget parent_;
   std::span<const WidgetRow> rows_;
@@ -135,15 +141,25 @@ void press_default_button(Widget, XtPointer box, XtPointer call) {
 
 }  // namespace
 
-Widget found(Widget parent, char* name, ArgList, Cardinal) { return XtNameToWidget(parent, name); }
+Callbacks on_help(const char* topic) { return {{{XmNhelpCallback, vqc_do_help, topic}}}; }
 
-Widget found_button(Widget parent, char* name, ArgList, Cardinal) {
+Callbacks on_answer(XtCallbackProc ok, XtCallbackProc cancel, const char* topic) {
+  return {{{XmNokCallback, ok}, {XmNcancelCallback, cancel}, {XmNhelpCallback, vqc_do_help, topic}}};
+}
+
+DialogPart part(std::span<const WidgetRow> rows, std::span<const WidgetLink> links) {
+  return {{rows.begin(), rows.end()}, {links.begin(), links.end()}};
+}
+
+Widget find_child(Widget parent, char* name, ArgList, Cardinal) { return XtNameToWidget(parent, name); }
+
+Widget find_button(Widget parent, char* name, ArgList, Cardinal) {
   Widget button = XtNameToWidget(parent, name);
   if (button) XtRemoveAllCallbacks(button, XmNactivateCallback);
   return button;
 }
 
-Widget unwanted(Widget parent, char* name, ArgList, Cardinal) {
+Widget unmanage_child(Widget parent, char* name, ArgList, Cardinal) {
   if (Widget child = XtNameToWidget(parent, name)) XtUnmanageChild(child);
   return nullptr;
 }
@@ -189,16 +205,11 @@ Widget create_radio_menu(Widget parent, char* name, ArgList, Cardinal) {
   return XmCreatePulldownMenu(parent, name, radio, XtNumber(radio));
 }
 
-Widget shell_around(Widget w) {
-  while (w && !XtIsShell(w)) w = XtParent(w);
-  return w;
-}
-
 void add_callback(Widget w, const char* list, XtCallbackProc procedure, const void* data) {
   XtAddCallback(w, list, GuardedCallback::call, guarded_callback(w, procedure, data));
 }
 
-void on_close(Widget shell, XtCallbackProc procedure) {
+void answer_close(Widget shell, XtCallbackProc procedure) {
   XtVaSetValues(shell, XmNdeleteResponse, XmDO_NOTHING, nullptr);
   XmAddWMProtocolCallback(shell, XInternAtom(XtDisplay(shell), const_cast<char*>("WM_DELETE_WINDOW"), False),
                           GuardedCallback::call, guarded_callback(shell, procedure, nullptr));
@@ -218,7 +229,16 @@ Widget* build_dialog(Widget parent, std::span<const WidgetRow> rows, int slots, 
   return record;
 }
 
-bool made(Widget*& record, Widget* (*create)(Widget parent), Widget parent) {
+Widget* build_dialog(Widget parent, std::initializer_list<DialogPart> parts, int slots) {
+  DialogPart whole;
+  for (const auto& [rows, links] : parts) {
+    whole.rows.insert(whole.rows.end(), rows.begin(), rows.end());
+    whole.links.insert(whole.links.end(), links.begin(), links.end());
+  }
+  return build_dialog(parent, whole.rows, slots, whole.links);
+}
+
+bool ensure_dialog(Widget*& record, Widget* (*create)(Widget parent), Widget parent) {
   if (!record) record = create(parent);
   return record != nullptr;
 }

@@ -1,3 +1,5 @@
+// Fills and reads text fields and toggles, and remembers what a field could not show.
+
 #include "vqc/cmd/editors/kit/fields.h"
 
 #include <X11/Xatom.h>
@@ -13,6 +15,7 @@
 
 #include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/undo.h"
+#include "vqc/cmd/editors/kit/widgets.h"
 
 namespace {
 
@@ -42,10 +45,7 @@ void remember(Widget w, Given given) {
   if (is_first) XtAddCallback(w, XmNmodifyVerifyCallback, watch_typing_over, nullptr);
 }
 
-Text shown_text(Widget w) {
-  const bool is_field = XtIsSubclass(w, xmTextFieldWidgetClass);
-  return ToolkitCharacters(is_field ? XmTextFieldGetString(w) : XmTextGetString(w)).get();
-}
+Text shown_text(Widget w) { return characters_in(w).c_str(); }
 
 void select_text(Widget field, XtPointer, XtPointer) {
   XtRemoveCallback(field, XmNfocusCallback, select_text, nullptr);
@@ -64,12 +64,7 @@ bool may_select(Widget field) {
 int settext(Widget w, const char* text) {
   if (!w) return 0;
   const Text whole = text ? text : "";
-  std::string characters = displayable(whole);
-  if (XtIsSubclass(w, xmTextFieldWidgetClass)) {
-    XmTextFieldSetString(w, characters.data());
-  } else {
-    XmTextSetString(w, characters.data());
-  }
+  set_characters(w, displayable(whole));
   forget_typing(w);
   remember(w, {whole, shown_text(w)});
   return 1;
@@ -100,10 +95,7 @@ Text undistorted(Widget w, const Text& shown) {
 }
 
 Text gettextf(Widget w, Text* field) {
-  Text text;
-  if (w) {
-    text = undistorted(w, shown_text(w));
-  }
+  Text text = w ? undistorted(w, shown_text(w)) : nullptr;
   if (field) *field = non_empty(text);
   return text;
 }

@@ -1,6 +1,8 @@
 #ifndef VQC_CMD_EDITORS_KIT_FIELDS_H
 #define VQC_CMD_EDITORS_KIT_FIELDS_H
 
+// What stands in text fields and toggles, without loss.
+
 #include <Xm/Xm.h>
 
 #include "libkel/text.h"

@@ -1,3 +1,5 @@
+// Shows boxes that ask for a file, and puts together the path that the user has chosen.
+
 #include "vqc/cmd/editors/kit/file_box.h"
 
 #include <Xm/FileSB.h>

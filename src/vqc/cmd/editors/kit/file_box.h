@@ -1,6 +1,8 @@
 #ifndef VQC_CMD_EDITORS_KIT_FILE_BOX_H
 #define VQC_CMD_EDITORS_KIT_FILE_BOX_H
 
+// Boxes that ask for a file.
+
 #include <Xm/Xm.h>
 
 #include "libkel/text.h"

@@ -1,19 +1,17 @@
+// Takes the letters with Ctrl before the toolkit gives a key to a widget.
+
 #include "vqc/cmd/editors/kit/keys.h"
 
 #include <X11/keysym.h>
 #include <Xm/DialogS.h>
-#include <Xm/MenuShell.h>
-#include <Xm/RowColumn.h>
-#include <Xm/Text.h>
-#include <Xm/TextF.h>
 
 #include <algorithm>
 #include <cctype>
 
-#include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/memory.h"
 #include "vqc/cmd/editors/kit/modal.h"
 #include "vqc/cmd/editors/kit/undo.h"
+#include "vqc/cmd/editors/kit/widgets.h"
 
 namespace {
 
@@ -34,8 +32,6 @@ char letter_with_control(XKeyEvent& key) {
   const bool is_letter = byte > 0 && byte <= kLast && symbol < XK_BackSpace;  // Tab and Return are no letters
   return is_letter ? static_cast<char>(byte - 1 + (key.state & ShiftMask ? 'A' : 'a')) : '\0';
 }
-
-bool is_text(Widget w) { return w && (XmIsTextField(w) || XmIsText(w)); }
 
 /// Does to a field what a letter with Ctrl does. False when that is nothing.
 bool edit(Widget field, char letter, XEvent* event) {
@@ -109,8 +105,6 @@ Boolean dispatch_key(XEvent* event) {
 void menu_is_up(Widget, XtPointer, XtPointer) { ++menus_up; }
 
 void menu_is_down(Widget, XtPointer, XtPointer) { --menus_up; }
-
-bool is_menu(Widget w) { return XmIsRowColumn(w) && XmIsMenuShell(XtParent(w)); }
 
 void watch_menu(Widget menu) {
   XtAddCallback(menu, XmNmapCallback, menu_is_up, nullptr);

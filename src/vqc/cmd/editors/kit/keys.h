@@ -1,6 +1,8 @@
 #ifndef VQC_CMD_EDITORS_KIT_KEYS_H
 #define VQC_CMD_EDITORS_KIT_KEYS_H
 
+// The letters with Ctrl, which mean the same in every window.
+
 #include <Xm/Xm.h>
 
 #include <span>

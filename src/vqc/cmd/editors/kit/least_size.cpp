@@ -1,3 +1,5 @@
+// Measures how far the parts of a window can shrink.
+
 #include "vqc/cmd/editors/kit/least_size.h"
 
 #include <Xm/List.h>
@@ -8,8 +10,9 @@
 
 #include <algorithm>
 #include <functional>
-#include <iterator>
 #include <vector>
+
+#include "vqc/cmd/editors/kit/widgets.h"
 
 namespace {
 
@@ -21,22 +24,11 @@ int height_of(Widget w) {
   return height;
 }
 
-std::vector<Widget> managed_children(Widget w) {
-  WidgetList children = nullptr;
-  Cardinal count = 0;
-  if (XtIsComposite(w)) XtVaGetValues(w, XmNchildren, &children, XmNnumChildren, &count, nullptr);
-  std::vector<Widget> managed;
-  std::copy_if(children, children + count, std::back_inserter(managed),
-               [](Widget child) { return XtIsManaged(child); });
-  return managed;
-}
-
 /// The managed widgets in `w`, itself included, that satisfy `wanted`; none is sought in one that does.
 void find_in(Widget w, const std::function<bool(Widget)>& wanted, std::vector<Widget>& found) {
-  if (wanted(w)) {
-    found.push_back(w);
-  } else {
-    for (Widget child : managed_children(w)) find_in(child, wanted, found);
+  if (wanted(w)) return found.push_back(w);
+  for (Widget child : children_of(w)) {
+    if (XtIsManaged(child)) find_in(child, wanted, found);
   }
 }
 

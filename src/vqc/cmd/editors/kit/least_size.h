@@ -1,6 +1,8 @@
 #ifndef VQC_CMD_EDITORS_KIT_LEAST_SIZE_H
 #define VQC_CMD_EDITORS_KIT_LEAST_SIZE_H
 
+// The size below which a window cannot be used.
+
 #include <Xm/Xm.h>
 
 #include "vqc/cmd/editors/kit/screen_area.h"

@@ -1,3 +1,5 @@
+// What the buttons around a list of names do, in the model and in the list.
+
 #include "vqc/cmd/editors/kit/list_editor.h"
 
 #include <Xm/SelectioB.h>

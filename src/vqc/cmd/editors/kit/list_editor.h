@@ -1,6 +1,9 @@
 #ifndef VQC_CMD_EDITORS_KIT_LIST_EDITOR_H
 #define VQC_CMD_EDITORS_KIT_LIST_EDITOR_H
 
+// Every list that is edited by name is edited in the same way: a selection box shows the names, and its buttons add,
+// delete and open or update the name in its field. This is that way, once; an editor says what differs.
+
 #include <Xm/Xm.h>
 
 #include <vector>
@@ -10,9 +13,6 @@
 #include "vqc/cmd/editors/kit/shown_names.h"
 #include "vqc/cmd/model/family.h"
 #include "vqc/cmd/model/kinds.h"
-
-// Every list that is edited by name is edited in the same way: a selection box shows the names, and its buttons add,
-// delete and open or update the name in its field. This is that way, once; an editor says what differs.
 
 /// The list that an editor shows, wherever the model keeps it.
 struct NamesOf {

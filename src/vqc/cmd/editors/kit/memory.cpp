@@ -1,3 +1,5 @@
+// Keeps a reserve of memory, and tells the user when it is needed.
+
 #include "vqc/cmd/editors/kit/memory.h"
 
 #include <cstddef>

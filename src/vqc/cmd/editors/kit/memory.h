@@ -1,10 +1,10 @@
 #ifndef VQC_CMD_EDITORS_KIT_MEMORY_H
 #define VQC_CMD_EDITORS_KIT_MEMORY_H
 
-#include <new>
-
 // A session that is short of memory goes on: what the user asked for is dropped, and he is told. A little memory is set
 // aside for telling him.
+
+#include <new>
 
 /// From now on an allocation that fails throws std::bad_alloc.
 void survive_short_memory();

@@ -1,3 +1,5 @@
+// Watches which dialogs have to be answered first.
+
 #include "vqc/cmd/editors/kit/modal.h"
 
 #include <Xm/MwmUtil.h>

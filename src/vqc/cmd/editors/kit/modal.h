@@ -1,6 +1,8 @@
 #ifndef VQC_CMD_EDITORS_KIT_MODAL_H
 #define VQC_CMD_EDITORS_KIT_MODAL_H
 
+// The dialog that has to be answered first.
+
 #include <Xm/Xm.h>
 
 /// The dialog shell that the user has to finish with before he can use any other window; null when there is none. Only

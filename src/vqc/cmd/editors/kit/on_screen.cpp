@@ -1,9 +1,13 @@
+// Asks the X server where windows are.
+
 #include "vqc/cmd/editors/kit/on_screen.h"
 
 #include <X11/Xatom.h>
 #include <Xm/List.h>
 
 #include <memory>
+
+#include "vqc/cmd/editors/kit/widgets.h"
 
 namespace {
 
@@ -35,12 +39,8 @@ Window frame_window(Display* display, Window window) {
 /// The first list that can be seen in a window.
 Widget list_in(Widget w) {
   if (XmIsList(w)) return is_shown(w) ? w : nullptr;
-  if (!XtIsComposite(w)) return nullptr;
-  WidgetList children = nullptr;
-  Cardinal count = 0;
-  XtVaGetValues(w, XmNchildren, &children, XmNnumChildren, &count, nullptr);
-  for (Cardinal i = 0; i < count; ++i) {
-    if (Widget list = list_in(children[i])) return list;
+  for (Widget child : children_of(w)) {
+    if (Widget list = list_in(child)) return list;
   }
   return nullptr;
 }

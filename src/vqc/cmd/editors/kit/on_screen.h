@@ -1,11 +1,11 @@
 #ifndef VQC_CMD_EDITORS_KIT_ON_SCREEN_H
 #define VQC_CMD_EDITORS_KIT_ON_SCREEN_H
 
+// Where windows are on the screen, as the server knows it.
+
 #include <Xm/Xm.h>
 
 #include "vqc/cmd/editors/kit/beside.h"
-
-// Where windows are on the screen, as the server knows it.
 
 /// The screen that a widget is on, and the part of it that panels leave free.
 ScreenArea screen_of(Widget w);

@@ -1,3 +1,5 @@
+// Places windows as they open, and remembers where the user has left them.
+
 #include "vqc/cmd/editors/kit/placement.h"
 
 #include <Xm/MessageB.h>

@@ -1,10 +1,10 @@
 #ifndef VQC_CMD_EDITORS_KIT_PLACEMENT_H
 #define VQC_CMD_EDITORS_KIT_PLACEMENT_H
 
-#include <Xm/Xm.h>
-
 // Where windows open. A window that the user has moved or resized opens where and how large he has left it; any other
 // is placed anew each time, by the window in which the user has just acted.
+
+#include <Xm/Xm.h>
 
 /// How a window that nobody has moved lies to that in which the user has acted.
 enum class Place { beside, over };

@@ -1,17 +1,18 @@
+// Smooths what the toolkit leaves rough in a dialog.
+
 #include "vqc/cmd/editors/kit/polish.h"
 
 #include <Xm/ArrowB.h>
 #include <Xm/FileSB.h>
-#include <Xm/MenuShell.h>
 #include <Xm/PushB.h>
 #include <Xm/PushBG.h>
 #include <Xm/RowColumn.h>
 #include <Xm/TextF.h>
 
 #include <algorithm>
-#include <span>
 
 #include "vqc/cmd/editors/kit/compound.h"
+#include "vqc/cmd/editors/kit/widgets.h"
 
 namespace {
 
@@ -95,10 +96,6 @@ void polish(Widget dialog) {
   if (is_button(dialog)) settle_size(dialog);
   if (XmIsFileSelectionBox(dialog)) order_tabs(dialog);
   if (XmIsArrowButton(dialog)) show_tip(dialog);
-  if (XmIsPushButton(dialog) && XmIsMenuShell(XtParent(XtParent(dialog)))) lighten_shortcut(dialog);
-  if (!XtIsComposite(dialog)) return;
-  WidgetList children = nullptr;
-  Cardinal count = 0;
-  XtVaGetValues(dialog, XmNchildren, &children, XmNnumChildren, &count, nullptr);
-  for (Widget child : std::span(children, count)) polish(child);
+  if (XmIsPushButton(dialog) && is_menu(XtParent(dialog))) lighten_shortcut(dialog);
+  for (Widget child : children_of(dialog)) polish(child);
 }

@@ -1,6 +1,8 @@
 #ifndef VQC_CMD_EDITORS_KIT_POLISH_H
 #define VQC_CMD_EDITORS_KIT_POLISH_H
 
+// What the toolkit leaves rough in a dialog.
+
 #include <Xm/Xm.h>
 
 /// Gives a dialog or menu, and all that it holds, what the toolkit leaves rough. The text cursor shows in the field

@@ -1,6 +1,8 @@
 #ifndef VQC_CMD_EDITORS_KIT_SCREEN_AREA_H
 #define VQC_CMD_EDITORS_KIT_SCREEN_AREA_H
 
+// Rectangles of the screen.
+
 #include <algorithm>
 
 /// A rectangle of the screen, in pixels.

@@ -1,3 +1,5 @@
+// Hands the press of a Help button on.
+
 #include "vqc/cmd/editors/kit/session_hooks.h"
 
 #include "vqc/cmd/editors/kit/cursor.h"

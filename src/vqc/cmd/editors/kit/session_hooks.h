@@ -1,6 +1,8 @@
 #ifndef VQC_CMD_EDITORS_KIT_SESSION_HOOKS_H
 #define VQC_CMD_EDITORS_KIT_SESSION_HOOKS_H
 
+// What the editors leave to the program that they are in.
+
 #include <Xm/Xm.h>
 
 /// What the editors leave to the application. Either may be null.

@@ -1,3 +1,5 @@
+// Keeps the names that lists show beside what can be displayed of them.
+
 #include "vqc/cmd/editors/kit/shown_names.h"
 
 #include <algorithm>

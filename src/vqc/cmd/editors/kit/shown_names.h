@@ -1,14 +1,14 @@
 #ifndef VQC_CMD_EDITORS_KIT_SHOWN_NAMES_H
 #define VQC_CMD_EDITORS_KIT_SHOWN_NAMES_H
 
+// The names that a list shows. Not all that is in a name can be displayed, and two names may look the same, so the
+// place of an item tells its name, never what is displayed. Places are counted from 1.
+
 #include <Xm/List.h>
 
 #include <vector>
 
 #include "libkel/text.h"
-
-// The names that a list shows. Not all that is in a name can be displayed, and two names may look the same, so the
-// place of an item tells its name, never what is displayed. Places are counted from 1.
 
 /// Shows `names`, and nothing else, in a list.
 void list_show(Widget list, const std::vector<Text>& names);

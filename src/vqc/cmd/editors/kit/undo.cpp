@@ -1,7 +1,8 @@
+// Remembers what text fields held before the last run of typing.
+
 #include "vqc/cmd/editors/kit/undo.h"
 
 #include <Xm/Text.h>
-#include <Xm/TextF.h>
 
 #include <algorithm>
 #include <cctype>
@@ -10,8 +11,8 @@
 #include <unordered_map>
 #include <utility>
 
-#include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/memory.h"
+#include "vqc/cmd/editors/kit/widgets.h"
 
 namespace {
 
@@ -31,31 +32,6 @@ std::unordered_map<Widget, Run>& runs() {
 }
 
 bool taking_back = false;
-
-std::string text_in(Widget field) {
-  const ToolkitCharacters characters(XmIsTextField(field) ? XmTextFieldGetString(field) : XmTextGetString(field));
-  return characters ? characters.get() : "";
-}
-
-XmTextPosition length_of(Widget field) {
-  return XmIsTextField(field) ? XmTextFieldGetLastPosition(field) : XmTextGetLastPosition(field);
-}
-
-void set_text(Widget field, std::string text) {
-  if (XmIsTextField(field)) {
-    XmTextFieldSetString(field, text.data());
-  } else {
-    XmTextSetString(field, text.data());
-  }
-}
-
-void set_cursor(Widget field, XmTextPosition position) {
-  if (XmIsTextField(field)) {
-    XmTextFieldSetInsertionPosition(field, position);
-  } else {
-    XmTextSetInsertionPosition(field, position);
-  }
-}
 
 bool is_one_character(const XmTextBlockRec& text) {
   std::mbstate_t state{};
@@ -83,8 +59,8 @@ bool goes_on(const Run& run, const XmTextVerifyCallbackStruct& change) {
 
 void note(Widget field, const XmTextVerifyCallbackStruct& change) {
   Run& run = runs()[field];
-  const XmTextPosition rest = length_of(field) - change.endPos;
-  if (!goes_on(run, change)) run = {text_in(field), rest};
+  const XmTextPosition rest = XmTextGetLastPosition(field) - change.endPos;
+  if (!goes_on(run, change)) run = {characters_in(field), rest};
   run.rest = std::min(run.rest, rest);
   run.end = end_of(change);
 }
@@ -119,10 +95,10 @@ void take_back(Widget field) {
   const auto found = runs().find(field);
   if (found == runs().end()) return;
   Run& run = found->second;
-  const std::string text = std::exchange(run.before, text_in(field));
+  std::string text = std::exchange(run.before, characters_in(field));
   run.end = kNowhere;
   taking_back = true;
-  set_text(field, text);
+  set_characters(field, std::move(text));
   taking_back = false;
-  set_cursor(field, length_of(field) - run.rest);
+  XmTextSetInsertionPosition(field, XmTextGetLastPosition(field) - run.rest);
 }

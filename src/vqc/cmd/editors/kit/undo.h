@@ -1,6 +1,8 @@
 #ifndef VQC_CMD_EDITORS_KIT_UNDO_H
 #define VQC_CMD_EDITORS_KIT_UNDO_H
 
+// Taking back what has been typed.
+
 #include <Xm/Xm.h>
 
 /// From now on remembers what a text field held before the last run of typing or erasing in one place, or before the

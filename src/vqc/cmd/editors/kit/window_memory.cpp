@@ -1,3 +1,5 @@
+// Reads and writes the file of where windows were left.
+
 #include "vqc/cmd/editors/kit/window_memory.h"
 
 #include <X11/Xlib.h>

@@ -1,13 +1,13 @@
 #ifndef VQC_CMD_EDITORS_KIT_WINDOW_MEMORY_H
 #define VQC_CMD_EDITORS_KIT_WINDOW_MEMORY_H
 
+// Where and how large the user has left windows, over sessions. A file in the user's state folder has a line for each
+// window and size of display, such as "1600x1200 entity_dialog 480x495+512+0". No size means that of the contents.
+
 #include <map>
 #include <string>
 
 #include "vqc/cmd/editors/kit/screen_area.h"
-
-// Where and how large the user has left windows, over sessions. A file in the user's state folder has a line for each
-// window and size of display, such as "1600x1200 entity_dialog 480x495+512+0". No size means that of the contents.
 
 /// Where windows are, by name.
 using WindowMemory = std::map<std::string, ScreenArea>;

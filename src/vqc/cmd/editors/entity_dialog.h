@@ -1,0 +1,40 @@
+#ifndef VQC_CMD_EDITORS_ENTITY_DIALOG_H
+#define VQC_CMD_EDITORS_ENTITY_DIALOG_H
+
+// The record of the family dialog, which its frame and its pages share.
+
+#include "vqc/cmd/editors/kit/dialog.h"
+
+/// The frame, the pages in the order of the View menu, and what they hold.
+enum EntitySlot {
+  ENTITY_SHELL,
+  ENTITY_FORM,
+  ENTITY_VIEW_WIDGETS,
+  ALIASLIST_BOX,
+  CONVERTER_BOX,
+  ENUMLIST_BOX,
+  CODEHEADERLIST_BOX,
+  CONFHEADERLIST_BOX,
+  FAMILYHEADERLIST_BOX,
+  FAMILYINIT_FORM,
+  WIDGETLIST_BOX,
+  ALIASLIST_TO_NAME,
+  CONVERTER_PROC,
+  CONVERTER_VQ,
+  CONVERTER_CODE,
+  CONVERT_POPUP,
+  FAMILYINIT_INIT,
+  FAMILYINIT_ADD_VQ,
+  FAMILYINIT_ADD_CODE,
+  FAMILYINIT_ADD_STUB,
+  FAMILYINIT_PRE_SHELL,
+  ENTITY_SLOTS,
+};
+
+/// Null until the dialog is first needed.
+inline Widget* entity_dialog = nullptr;
+
+/// Closes it, for the button on each of its pages. Nothing is applied or discarded.
+inline void entity_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(entity_dialog[ENTITY_FORM]); }
+
+#endif

@@ -1,0 +1,64 @@
+// The page of a family's initialisation.
+
+#include "vqc/cmd/editors/familyinit.h"
+
+#include <Xm/Label.h>
+#include <Xm/PushB.h>
+#include <Xm/TextF.h>
+#include <Xm/ToggleB.h>
+
+#include "vqc/cmd/editors/entity_dialog.h"
+#include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/session_hooks.h"
+#include "vqc/cmd/model/family.h"
+
+namespace {
+
+// clang-format off
+const WidgetRow rows[] = {
+    {"familyinit_form",        create_plain_box,     "entity_view_form",     on_help("vqc_family_init"), FAMILYINIT_FORM},
+    {"familyinit_work_area",   create_form,          "familyinit_form"},
+    {"familyinit_init_text",   XmCreateTextField,    "familyinit_work_area", {}, FAMILYINIT_INIT},
+    {"familyinit_init_l",      XmCreateLabel,        "familyinit_work_area"},
+    {"familyinit_add_vq_t",    XmCreateToggleButton, "familyinit_work_area", {}, FAMILYINIT_ADD_VQ},
+    {"familyinit_add_code_t",  XmCreateToggleButton, "familyinit_work_area", {}, FAMILYINIT_ADD_CODE},
+    {"familyinit_add_stub_t",  XmCreateToggleButton, "familyinit_work_area", {}, FAMILYINIT_ADD_STUB},
+    {"familyinit_pre_shell_t", XmCreateToggleButton, "familyinit_work_area", {}, FAMILYINIT_PRE_SHELL},
+    {"familyinit_applyb",      XmCreatePushButton,   "familyinit_form",      on_press(family_init_do_update)},
+    {"familyinit_cancelb",     XmCreatePushButton,   "familyinit_form",      on_press(entity_do_hide)},
+    {"familyinit_helpb",       XmCreatePushButton,   "familyinit_form",      on_press(vqc_do_help, "vqc_family_init")},
+};
+
+const WidgetLink links[] = {
+    {"entity_view_form", XmNcancelButton,  "familyinit_cancelb"},  // of its own, the box would put it last
+    {"familyinit_form",  XmNdefaultButton, "familyinit_applyb"},
+};
+// clang-format on
+
+struct InitFlag {
+  EntitySlot toggle;
+  bool FamilyInit::*flag;
+};
+constexpr InitFlag init_flags[] = {
+    {FAMILYINIT_ADD_VQ, &FamilyInit::generate_family_init_vq},
+    {FAMILYINIT_ADD_CODE, &FamilyInit::generate_family_init_code},
+    {FAMILYINIT_ADD_STUB, &FamilyInit::generate_family_init_stub},
+    {FAMILYINIT_PRE_SHELL, &FamilyInit::generate_family_init_pre_shell},
+};
+
+}  // namespace
+
+DialogPart familyinit_page() { return part(rows, links); }
+
+void familyinit_setfamily(const Family* family) {
+  if (!entity_dialog) return;
+  settextf(entity_dialog[FAMILYINIT_INIT], family ? family->family_init.c_str() : nullptr);
+  for (const auto& [toggle, flag] : init_flags) settoggle(entity_dialog[toggle], family && family->*flag);
+}
+
+void family_init_do_update(Widget, XtPointer, XtPointer) {
+  Family* family = family_getcurrent();
+  if (!entity_dialog || !family) return;
+  family->family_init = gettextf(entity_dialog[FAMILYINIT_INIT]);  // an empty text is a text here
+  for (const auto& [toggle, flag] : init_flags) gettoggle(entity_dialog[toggle], &(family->*flag));
+}
