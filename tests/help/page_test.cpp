@@ -1,4 +1,4 @@
-#include "help/viewer/page.h"
+#include "help/viewer/read_page.h"
 
 #include <gtest/gtest.h>
 

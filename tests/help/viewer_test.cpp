@@ -6,6 +6,7 @@
 #include <Xm/Xm.h>
 #include <XmHTML/XmHTML.h>
 
+#include "help/viewer/make_window.h"
 #include "help/viewer/viewer.h"
 #include "help/viewer/window.h"
 

@@ -3,9 +3,7 @@
 
 // A help page, made ready to be shown.
 
-#include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace help {
@@ -18,12 +16,6 @@ struct Page {
   std::vector<std::string> links;   // a link to the n-th of these has the address "n"
   std::vector<std::string> places;  // the n-th of these is marked by the anchor "n"
 };
-
-/// The page that a file holds; nothing when it is not HTML.
-std::optional<Page> read_page(std::string_view bytes);
-
-/// A page of one sentence.
-Page make_notice(std::string_view title, std::string_view sentence);
 
 }  // namespace help
 

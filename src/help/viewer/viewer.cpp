@@ -21,8 +21,8 @@
 #include "help/viewer/address.h"
 #include "help/viewer/client.h"
 #include "help/viewer/history.h"
-#include "help/viewer/page.h"
 #include "help/viewer/page_text.h"
+#include "help/viewer/read_page.h"
 #include "help/viewer/window.h"
 #include "libkel/message.h"
 

@@ -11,6 +11,7 @@
 
 #include "desktop/search_path.h"
 #include "help/viewer/client.h"
+#include "help/viewer/make_window.h"
 #include "help/viewer/viewer.h"
 #include "help/viewer/window.h"
 

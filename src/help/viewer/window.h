@@ -20,14 +20,12 @@ struct HelpWindow {
 };
 inline HelpWindow window;
 
-/// Makes the window; it is not shown yet.
-void make_window(Display* display);
-
 /// Brings the window before the user: on the screen, out of its icon, in front of others.
 void show_window();
 
-/// The bar beside the page.
+/// The bar beside the page, and what the page is painted on.
 Widget find_scroll_bar();
+Widget find_work_window();
 
 /// Paints the page afresh. The HTML widget itself paints what scrolling brings into sight, and leaves lines cut that
 /// were half in sight before.

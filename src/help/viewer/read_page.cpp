@@ -1,6 +1,6 @@
 // Reads the pages of help with libxml2, whatever state they are in.
 
-#include "help/viewer/page.h"
+#include "help/viewer/read_page.h"
 
 #include <libxml/HTMLparser.h>
 
