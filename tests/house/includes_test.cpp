@@ -65,6 +65,7 @@ TEST(Include, MayNotLookToTheRight) {
       {"vqc/cmd/model/alias.h", "\"help/client/help.h\""},
       {"vqc/cmd/savefile/save.cpp", "\"vqc/cmd/generate/generate.h\""},
       {"vqc/cmd/generate/generate.cpp", "\"vqc/cmd/editors/kit/dialog.h\""},
+      {"vqc/cmd/editors/kit/dialog.cpp", "\"vqc/cmd/editors/entity.h\""},
       {"vqc/cmd/editors/open.cpp", "\"vqc/cmd/application/batch.h\""},
       {"vqc/cmd/editors/open.cpp", "\"help/client/help.h\""},
       {"help/client/help.cpp", "\"vqc/cmd/model/alias.h\""},
