@@ -18,12 +18,14 @@
 
 #include "desktop/search_path.h"
 #include "vqc/cmd/application/command_line.h"
-#include "vqc/cmd/editors/familydlg.h"
+#include "vqc/cmd/editors/kit/main_shell.h"
 #include "vqc/cmd/editors/program/session.h"
+
+using namespace vqc::editors;
 
 namespace {
 
-XtAppContext context() { return XtWidgetToApplicationContext(family_dialog[FAMILY_SHELL]); }
+XtAppContext context() { return XtWidgetToApplicationContext(main_shell()); }
 
 /// Serves events until the server has answered all and none is left.
 void settle() {
@@ -40,7 +42,7 @@ void wait_until_mapped() {
   for (bool mapped = false; !mapped;) {
     XEvent event;
     XtAppNextEvent(context(), &event);
-    mapped = event.type == MapNotify && event.xmap.window == XtWindow(family_dialog[FAMILY_SHELL]);
+    mapped = event.type == MapNotify && event.xmap.window == XtWindow(main_shell());
     XtDispatchEvent(&event);
   }
   settle();
@@ -60,9 +62,7 @@ void measure(const char* name, Action action) {
   std::printf("%s %.3f\n", name, milliseconds() - before);
 }
 
-Widget named(const std::string& name) {
-  return XtNameToWidget(family_dialog[FAMILY_SHELL], const_cast<char*>(("*" + name).c_str()));
-}
+Widget named(const std::string& name) { return XtNameToWidget(main_shell(), const_cast<char*>(("*" + name).c_str())); }
 
 Widget list_of(const char* box) { return XtNameToWidget(named(box), const_cast<char*>("*ItemsList")); }
 

@@ -24,7 +24,6 @@
 #include "gui/parts.h"
 #include "support/windows.h"
 #include "vqc/cmd/editors/kit/shown_names.h"
-#include "vqc/cmd/editors/program/session.h"
 
 namespace {
 
@@ -172,7 +171,7 @@ void close_shell(Widget shell) {
 }
 
 int position_of(const std::string& list_or_box, const std::string& item) {
-  const int position = list_position(list_in(list_or_box), item.c_str());
+  const int position = vqc::editors::list_position(list_in(list_or_box), item.c_str());
   if (position == 0) throw std::runtime_error(list_or_box + " does not show " + item);
   return position;
 }

@@ -19,9 +19,7 @@
 #include "libkel/installation.h"
 #include "libkel/message.h"
 #include "support/windows.h"
-#include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/program/help.h"
-#include "vqc/cmd/editors/program/session.h"
 
 // Help as a user has it: the installed viewer with the installed pages, next to the dialogs.
 
@@ -68,7 +66,7 @@ class Help : public EveryDialog {
  protected:
   Help() { overlook_leaks_of_libraries(); }
   ~Help() override {
-    vqc_QuitHelp();
+    vqc::editors::vqc_QuitHelp();
     EXPECT_TRUE(wait_for([] { return viewers().empty(); }, kStarting));
     EXPECT_EQ("", read_file(errors_));
   }

@@ -8,7 +8,6 @@
 #include "gui/parts.h"
 #include "gui/session.h"
 #include "libkel/message.h"
-#include "vqc/cmd/editors/kit/session_hooks.h"
 
 // Letters with Ctrl, which mean the same in every window, and never become text.
 

@@ -6,7 +6,6 @@
 
 #include "gui/looks.h"
 #include "support/windows.h"
-#include "vqc/cmd/editors/program/session.h"
 
 namespace {
 

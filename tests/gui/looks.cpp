@@ -12,7 +12,6 @@
 #include <stdexcept>
 
 #include "gui/parts.h"
-#include "vqc/cmd/editors/program/session.h"
 
 namespace {
 

@@ -2,7 +2,6 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 #include "libkel/message.h"
-#include "vqc/cmd/editors/kit/session_hooks.h"
 
 // The error box.
 

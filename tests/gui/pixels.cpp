@@ -9,8 +9,6 @@
 #include <map>
 #include <memory>
 
-#include "vqc/cmd/editors/program/session.h"
-
 namespace {
 
 /// A part of a colour as light, which eyes and screens do not see in proportion.

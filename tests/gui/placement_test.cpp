@@ -7,9 +7,12 @@
 #include "vqc/cmd/editors/kit/beside.h"
 #include "vqc/cmd/editors/kit/placement.h"
 #include "vqc/cmd/editors/kit/window_memory.h"
-#include "vqc/cmd/editors/program/session.h"
 
+namespace vqc::editors {
 static void PrintTo(const ScreenArea& area, std::ostream* out) { *out << geometry_of(area); }
+}  // namespace vqc::editors
+
+using namespace vqc::editors;
 
 namespace {
 

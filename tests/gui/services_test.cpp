@@ -8,6 +8,8 @@
 
 // Small services of the whole program: the callbacks that interface code can name, the busy cursor and the titles.
 
+using namespace vqc::editors;
+
 namespace {
 
 class Services : public Session {

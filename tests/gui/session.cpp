@@ -10,8 +10,8 @@
 #include "desktop/search_path.h"
 #include "support/windows.h"
 #include "vqc/cmd/application/command_line.h"
-#include "vqc/cmd/editors/kit/session_hooks.h"
-#include "vqc/cmd/editors/program/session.h"
+
+using namespace vqc::editors;
 
 std::optional<int> exit_status;
 std::vector<std::string> warnings;

@@ -10,7 +10,6 @@
 #include "gui/pixels.h"
 #include "gui/session.h"
 #include "gui/widget_tables.h"
-#include "vqc/cmd/editors/program/session.h"
 
 // Where the Tab key goes: through each window as it is read.
 

@@ -9,7 +9,6 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 #include "gui/widget_tables.h"
-#include "vqc/cmd/editors/kit/session_hooks.h"
 
 // What resource files and drivers from outside rely on: the names of the widgets and what hangs on them.
 

@@ -6,8 +6,6 @@
 #include "gui/hands.h"
 #include "gui/looks.h"
 #include "support/windows.h"
-#include "vqc/cmd/editors/kit/dialog.h"
-#include "vqc/cmd/editors/program/session.h"
 
 namespace {
 

@@ -13,6 +13,8 @@
 #include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 
+namespace vqc::editors {
+
 namespace {
 
 enum Slot { SHELL, FORM, NAME, VERSION, SLOTS };
@@ -68,3 +70,5 @@ void about_do_show(Widget w, XtPointer, XtPointer) {
 }
 
 void about_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(about_dialog[FORM]); }
+
+}  // namespace vqc::editors

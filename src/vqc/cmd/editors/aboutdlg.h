@@ -5,6 +5,8 @@
 
 #include "vqc/cmd/editors/kit/dialog.h"
 
+namespace vqc::editors {
+
 /// Null until the dialog is first needed.
 inline Widget* about_dialog = nullptr;
 
@@ -13,5 +15,7 @@ inline void delete_about_dialog(Widget* record) { delete_dialog(record); }
 
 void about_do_show(Widget w, XtPointer, XtPointer);
 void about_do_hide(Widget w, XtPointer, XtPointer);
+
+}  // namespace vqc::editors
 
 #endif

@@ -10,6 +10,8 @@
 #include "vqc/cmd/editors/kit/list_page.h"
 #include "vqc/cmd/model/alias.h"
 
+namespace vqc::editors {
+
 namespace {
 
 // clang-format off
@@ -65,3 +67,5 @@ void current_alias_changed(Reference<AliasDef>* element) {
   if (!element) aliaslist_editor.clear_name();
   settextf(to_name_field(), element ? element->record->to_name.c_str() : nullptr);
 }
+
+}  // namespace vqc::editors

@@ -6,6 +6,8 @@
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
 
+namespace vqc::editors {
+
 /// Its part of the family dialog.
 DialogPart aliaslist_page();
 
@@ -18,5 +20,7 @@ inline void aliaslist_setfamily(const Family* family) { set_family(aliaslist_edi
 
 /// Hears that another alias of the family, or none, is current now.
 void current_alias_changed(Reference<AliasDef>* element);
+
+}  // namespace vqc::editors
 
 #endif

@@ -15,6 +15,8 @@
 #include "vqc/cmd/editors/popuplist.h"
 #include "vqc/cmd/model/converter.h"
 
+namespace vqc::editors {
+
 namespace {
 
 // clang-format off
@@ -103,3 +105,5 @@ void show_popups_cb(Widget w, XtPointer field, XtPointer) {
   const BusyCursor busy(w);
   popupdlg_set_initial_state(static_cast<Widget>(field), XtParent(entity_dialog[ENTITY_SHELL]), has_current_family);
 }
+
+}  // namespace vqc::editors

@@ -7,6 +7,8 @@
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
 
+namespace vqc::editors {
+
 /// Its part of the family dialog.
 DialogPart converterlist_page();
 
@@ -24,5 +26,7 @@ void show_popups_cb(Widget w, XtPointer field, XtPointer);
 
 /// Hears that another converter of the family, or none, is current now.
 void current_converter_changed(Reference<ConverterDef>* element);
+
+}  // namespace vqc::editors
 
 #endif

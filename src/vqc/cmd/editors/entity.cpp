@@ -19,6 +19,8 @@
 #include "vqc/cmd/editors/widgetlist.h"
 #include "vqc/cmd/model/family.h"
 
+namespace vqc::editors {
+
 namespace {
 
 // clang-format off
@@ -113,3 +115,5 @@ int entity_setfamily(Family* family) {
   widgetlist_setfamily(family);
   return 1;
 }
+
+}  // namespace vqc::editors

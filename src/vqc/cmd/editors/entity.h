@@ -6,6 +6,8 @@
 #include "vqc/cmd/editors/entity_dialog.h"
 #include "vqc/cmd/model/records.h"
 
+namespace vqc::editors {
+
 Widget* create_entity_dialog(Widget parent);
 inline void delete_entity_dialog(Widget* record) { delete_dialog(record); }
 
@@ -17,5 +19,7 @@ void entity_do_show_page(Widget toggle, XtPointer page, XtPointer call);
 
 /// Fills every page for a family; null for none. 0 while there is no dialog, else 1.
 int entity_setfamily(Family* family);
+
+}  // namespace vqc::editors
 
 #endif

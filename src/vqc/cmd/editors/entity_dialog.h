@@ -5,6 +5,8 @@
 
 #include "vqc/cmd/editors/kit/dialog.h"
 
+namespace vqc::editors {
+
 /// The frame, the pages in the order of the View menu, and what they hold.
 enum EntitySlot {
   ENTITY_SHELL,
@@ -36,5 +38,7 @@ inline Widget* entity_dialog = nullptr;
 
 /// Closes it, for the button on each of its pages. Nothing is applied or discarded.
 inline void entity_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(entity_dialog[ENTITY_FORM]); }
+
+}  // namespace vqc::editors
 
 #endif

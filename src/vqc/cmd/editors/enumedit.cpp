@@ -12,6 +12,8 @@
 #include "vqc/cmd/model/enumentry.h"
 #include "vqc/cmd/model/enumlist.h"
 
+namespace vqc::editors {
+
 namespace {
 
 enum Slot { SHELL, BOX, TYPE, CODE_SYMBOL, RESFILE_SYMBOL, SLOTS };
@@ -131,3 +133,5 @@ void enumentry_do_update(Widget w, XtPointer, XtPointer call) {
   gettextf(enumedit_dialog[TYPE], &enumeration->type_name);
   with_name(w, call, enumentry_editor, accept_name);
 }
+
+}  // namespace vqc::editors

@@ -6,6 +6,8 @@
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
 
+namespace vqc::editors {
+
 /// Null until the dialog is first needed.
 inline Widget* enumedit_dialog = nullptr;
 
@@ -28,5 +30,7 @@ inline constexpr XtCallbackProc enumentry_do_down = do_down<enumentry_editor>;
 
 /// Stores the type of the enumeration, even if no entry is named, and then the named entry.
 void enumentry_do_update(Widget w, XtPointer, XtPointer call);
+
+}  // namespace vqc::editors
 
 #endif

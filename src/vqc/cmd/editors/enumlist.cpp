@@ -9,6 +9,8 @@
 #include "vqc/cmd/editors/kit/list_page.h"
 #include "vqc/cmd/model/enumlist.h"
 
+namespace vqc::editors {
+
 namespace {
 
 const WidgetRow separator_rows[] = {{"separator5", XmCreateSeparator, "enumlist_selection"}};
@@ -50,3 +52,5 @@ void current_enum_changed(Reference<EnumDef>* element) {
   if (!element) enumlist_editor.clear_name();
   enumedit_setenum(element);
 }
+
+}  // namespace vqc::editors

@@ -6,6 +6,8 @@
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
 
+namespace vqc::editors {
+
 /// Its part of the family dialog.
 DialogPart enumlist_page();
 
@@ -18,5 +20,7 @@ inline void enumlist_setfamily(const Family* family) { set_family(enumlist_edito
 
 /// Hears that another enumeration of the family, or none, is current now.
 void current_enum_changed(Reference<EnumDef>* element);
+
+}  // namespace vqc::editors
 
 #endif

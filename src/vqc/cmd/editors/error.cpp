@@ -8,6 +8,8 @@
 #include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/modal.h"
 
+namespace vqc::editors {
+
 namespace {
 
 enum Slot { SHELL, BOX, SLOTS };
@@ -59,3 +61,5 @@ Widget* create_error_dialog(Widget parent) { return build_dialog(parent, rows, S
 const MessageSink error_box = {text_of_resource, show_in_box};
 
 void error_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(error_dialog[BOX]); }
+
+}  // namespace vqc::editors

@@ -17,6 +17,8 @@
 #include "vqc/cmd/editors/options.h"
 #include "vqc/cmd/editors/stop.h"
 
+namespace vqc::editors {
+
 namespace {
 
 // clang-format off
@@ -83,3 +85,5 @@ Widget* create_family_dialog(Display* display, char* name, int argc, char** argv
   set_main_shell(shell);
   return record;
 }
+
+}  // namespace vqc::editors

@@ -12,6 +12,8 @@
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/model/family.h"
 
+namespace vqc::editors {
+
 namespace {
 
 // clang-format off
@@ -62,3 +64,5 @@ void family_init_do_update(Widget, XtPointer, XtPointer) {
   family->family_init = gettextf(entity_dialog[FAMILYINIT_INIT]);  // an empty text is a text here
   for (const auto& [toggle, flag] : init_flags) gettoggle(entity_dialog[toggle], &(family->*flag));
 }
+
+}  // namespace vqc::editors

@@ -7,6 +7,8 @@
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
 
+namespace vqc::editors {
+
 namespace {
 
 // clang-format off
@@ -69,3 +71,5 @@ void current_family_changed(Family* family) {
   if (!family) family_editor.clear_name();
   entity_setfamily(family);
 }
+
+}  // namespace vqc::editors

@@ -6,6 +6,8 @@
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
 
+namespace vqc::editors {
+
 enum FamilySlot { FAMILY_SHELL, FAMILY_SELECTION, FAMILY_LIST, FAMILY_TEXT, FAMILY_OPTIONS_CASCADE, FAMILY_SLOTS };
 
 /// Null in a batch run, and while a session starts.
@@ -27,5 +29,7 @@ void family_display();
 
 /// Hears that another family, or none, is current now.
 void current_family_changed(Family* family);
+
+}  // namespace vqc::editors
 
 #endif

@@ -23,6 +23,8 @@
 #include "vqc/cmd/savefile/parse.h"
 #include "vqc/cmd/savefile/save.h"
 
+namespace vqc::editors {
+
 namespace {
 
 /// Of each of the four dialogs.
@@ -254,3 +256,5 @@ void savechanges_docancel(Widget, XtPointer, XtPointer) {
   save_op = SaveOp::none;
   hide_dialog(savechanges_dialog[BOX]);
 }
+
+}  // namespace vqc::editors

@@ -9,6 +9,8 @@
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/keys.h"
 
+namespace vqc::editors {
+
 /// Null until the dialogs are first needed.
 inline Widget* open_dialog = nullptr;
 inline Widget* read_dialog = nullptr;
@@ -67,5 +69,7 @@ void savechanges_popup(SaveOp operation);
 void savechanges_dosave(Widget w, XtPointer, XtPointer);
 void savechanges_dodiscard(Widget w, XtPointer, XtPointer);
 void savechanges_docancel(Widget w, XtPointer, XtPointer);
+
+}  // namespace vqc::editors
 
 #endif

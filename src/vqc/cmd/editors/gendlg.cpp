@@ -16,6 +16,8 @@
 #include "vqc/cmd/model/kinds.h"
 #include "vqc/cmd/model/options.h"
 
+namespace vqc::editors {
+
 namespace {
 
 enum Slot { SHELL, FSB, TOGGLES, SLOTS };
@@ -95,3 +97,5 @@ void gen_do_generate(Widget w, XtPointer, XtPointer call) {
 }
 
 void gen_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(gen_dialog[FSB]); }
+
+}  // namespace vqc::editors

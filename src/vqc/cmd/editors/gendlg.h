@@ -6,6 +6,8 @@
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/generate/generate.h"
 
+namespace vqc::editors {
+
 /// Null until the dialog is first needed.
 inline Widget* gen_dialog = nullptr;
 
@@ -20,5 +22,7 @@ void gen_do_hide(Widget w, XtPointer, XtPointer);
 
 /// What the toggles say.
 extern const FamilyChoice toggled_families;
+
+}  // namespace vqc::editors
 
 #endif

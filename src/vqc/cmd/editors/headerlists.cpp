@@ -5,6 +5,8 @@
 #include "vqc/cmd/editors/entity_dialog.h"
 #include "vqc/cmd/editors/kit/list_page.h"
 
+namespace vqc::editors {
+
 namespace {
 
 const ListPage code_headers = {.name = "codeheaderlist",
@@ -60,3 +62,5 @@ ListEditor familyheaderlist_editor{.dialog = entity_dialog,
                                    .box_slot = FAMILYHEADERLIST_BOX,
                                    .names = names_in_family<family_header_kind>(),
                                    .delete_clears_name = true};
+
+}  // namespace vqc::editors

@@ -6,6 +6,8 @@
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
 
+namespace vqc::editors {
+
 /// Their parts of the family dialog.
 DialogPart codeheaderlist_page();
 DialogPart confheaderlist_page();
@@ -34,5 +36,7 @@ inline constexpr XtCallbackProc familyheaderlist_do_select = do_select<familyhea
 inline constexpr XtCallbackProc familyheaderlist_do_up = do_up<familyheaderlist_editor>;
 inline constexpr XtCallbackProc familyheaderlist_do_down = do_down<familyheaderlist_editor>;
 inline void familyheaderlist_setfamily(const Family* family) { set_family(familyheaderlist_editor, family); }
+
+}  // namespace vqc::editors
 
 #endif

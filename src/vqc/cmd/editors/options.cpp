@@ -19,6 +19,8 @@
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/model/options.h"
 
+namespace vqc::editors {
+
 namespace {
 
 enum Slot {
@@ -154,3 +156,5 @@ void options_help_callback(Widget w, XtPointer, XtPointer call) {
 void options_comment_changed_callback(Widget w, XtPointer, XtPointer) { vqc_set_comment_code(gettoggle(w)); }
 
 void options_verbose_changed_callback(Widget w, XtPointer, XtPointer) { vqc_set_verbose_code(gettoggle(w)); }
+
+}  // namespace vqc::editors

@@ -5,6 +5,8 @@
 
 #include "vqc/cmd/editors/kit/dialog.h"
 
+namespace vqc::editors {
+
 /// Null until the dialog is first needed.
 inline Widget* options_shell = nullptr;
 
@@ -27,5 +29,7 @@ void options_cancel_callback(Widget w, XtPointer, XtPointer);
 void options_help_callback(Widget w, XtPointer, XtPointer);
 void options_comment_changed_callback(Widget w, XtPointer, XtPointer);
 void options_verbose_changed_callback(Widget w, XtPointer, XtPointer);
+
+}  // namespace vqc::editors
 
 #endif

@@ -12,6 +12,8 @@
 #include "vqc/cmd/model/builtin.h"
 #include "vqc/cmd/model/page.h"
 
+namespace vqc::editors {
+
 namespace {
 
 enum Slot { SHELL, BOX, SLOTS };
@@ -61,3 +63,5 @@ void pagelist_do_add(Widget w, XtPointer, XtPointer) {
 void current_page_changed(PageDef* page) {
   settextf(page_picker.editor.name_field(), page ? page->name.c_str() : nullptr);
 }
+
+}  // namespace vqc::editors

@@ -6,6 +6,8 @@
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/picker.h"
 
+namespace vqc::editors {
+
 /// Null until the dialog is first needed.
 inline Widget* pageedit_dialog = nullptr;
 
@@ -32,5 +34,7 @@ inline void page_into_family(const Text& name) { name_into_family(page_picker, n
 
 /// Hears that another page, or none, is current now.
 void current_page_changed(PageDef* page);
+
+}  // namespace vqc::editors
 
 #endif

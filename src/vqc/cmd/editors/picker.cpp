@@ -8,6 +8,8 @@
 #include "vqc/cmd/generate/name_set.h"
 #include "vqc/cmd/model/builtin.h"
 
+namespace vqc::editors {
+
 Text Picker::name() const { return gettextf(editor.name_field()); }
 
 namespace {
@@ -74,3 +76,5 @@ void remove_picked(Widget w, const Picker& picker) {
   list_delete(picker.editor.list(), name);
   picker.editor.names.remove(name);
 }
+
+}  // namespace vqc::editors

@@ -6,6 +6,8 @@
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
 
+namespace vqc::editors {
+
 /// The names of a picker: the current family's, in a list that is filled with all of the document's. What is at an end
 /// of the family's list need not be at an end of the other, so that only here a move to nowhere fails.
 template <auto& kind, auto& pool>
@@ -79,5 +81,7 @@ template <Picker& picker>
 void do_picker_down(Widget w, XtPointer, XtPointer) {
   move_selected(w, picker.editor, true);
 }
+
+}  // namespace vqc::editors
 
 #endif

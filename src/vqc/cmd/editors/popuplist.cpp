@@ -13,6 +13,8 @@
 #include "vqc/cmd/model/builtin.h"
 #include "vqc/cmd/model/popup.h"
 
+namespace vqc::editors {
+
 namespace {
 
 enum Slot { SHELL, BOX, INIT, UPDATE, SLOTS };
@@ -74,3 +76,5 @@ void current_popup_changed(PopupDef* popup) {
   settextf(popupedit_dialog[INIT], popup ? popup->dialog_init.c_str() : nullptr);
   settextf(popupedit_dialog[UPDATE], popup ? popup->dialog_update.c_str() : nullptr);
 }
+
+}  // namespace vqc::editors

@@ -6,6 +6,8 @@
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/picker.h"
 
+namespace vqc::editors {
+
 /// Null until the dialog is first needed.
 inline Widget* popupedit_dialog = nullptr;
 
@@ -28,5 +30,7 @@ void popuplist_do_add(Widget w, XtPointer, XtPointer);
 
 /// Hears that another popup, or none, is current now.
 void current_popup_changed(PopupDef* popup);
+
+}  // namespace vqc::editors
 
 #endif

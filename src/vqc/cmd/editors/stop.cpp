@@ -19,6 +19,8 @@
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/model/stop.h"
 
+namespace vqc::editors {
+
 namespace {
 
 /// A widget class that can be left out. Applied classes are listed by column, and in one by their place in the table.
@@ -166,3 +168,5 @@ void show_stop_list() {
   if (!stop_list_shell) return;
   for (const StopClass& each : stop_classes) settoggle(toggle_of(each), excluded(excluded_classes.view(), each.name));
 }
+
+}  // namespace vqc::editors

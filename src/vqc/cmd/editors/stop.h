@@ -5,6 +5,8 @@
 
 #include "vqc/cmd/editors/kit/dialog.h"
 
+namespace vqc::editors {
+
 /// Null until the dialog is first needed.
 inline Widget* stop_list_shell = nullptr;
 
@@ -17,5 +19,7 @@ void stop_list_do_popdown(Widget w, XtPointer, XtPointer);
 
 /// Sets the toggles, if there are any, from the document's stop list.
 void show_stop_list();
+
+}  // namespace vqc::editors
 
 #endif

@@ -8,6 +8,8 @@
 #include "libkel/message.h"
 #include "vqc/cmd/editors/kit/main_shell.h"
 
+namespace vqc::editors {
+
 void vqc_set_title(const char* path) {
   if (!main_shell()) return;
   std::string title = "vqconfig";
@@ -21,3 +23,5 @@ void vq_set_title(Widget shell, const char* resource_name, const char* arg) {
   const std::string title = filled(format, {arg ? arg : vq_lookup_string("none")});
   XtVaSetValues(shell, XmNtitle, title.c_str(), nullptr);
 }
+
+}  // namespace vqc::editors

@@ -23,6 +23,8 @@
 #include "vqc/cmd/editors/title.h"
 #include "vqc/cmd/model/widgetedit.h"
 
+namespace vqc::editors {
+
 namespace {
 
 enum Slot {
@@ -477,3 +479,5 @@ void resource_ignore(Widget w, XtPointer, XtPointer) {
       return show_resource(pending_resource);
   }
 }
+
+}  // namespace vqc::editors

@@ -8,6 +8,8 @@
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/model/records.h"
 
+namespace vqc::editors {
+
 /// Null until the dialogs are first needed.
 inline Widget* widgetedit_dialog = nullptr;
 inline Widget* resource_warn_dialog = nullptr;
@@ -40,5 +42,7 @@ void resource_dirty_cb(Widget w, XtPointer, XtPointer);
 /// The answers to the question what becomes of a changed resource: store it, or forget it, and go on.
 void resource_apply(Widget w, XtPointer, XtPointer);
 void resource_ignore(Widget w, XtPointer, XtPointer);
+
+}  // namespace vqc::editors
 
 #endif

@@ -7,6 +7,8 @@
 #include "vqc/cmd/editors/widgetedit.h"
 #include "vqc/cmd/model/widgetedit.h"
 
+namespace vqc::editors {
+
 namespace {
 
 const ListPage widgets = {.name = "widgetlist",
@@ -49,3 +51,5 @@ void current_widget_changed(Reference<WidgetDef>* element) {
   if (!element) widgetlist_editor.clear_name();
   widgetedit_setwidget(element);
 }
+
+}  // namespace vqc::editors

@@ -6,6 +6,8 @@
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
 
+namespace vqc::editors {
+
 /// Its part of the family dialog.
 DialogPart widgetlist_page();
 
@@ -20,5 +22,7 @@ inline void widgetlist_setfamily(const Family* family) { set_family(widgetlist_e
 
 /// Hears that another widget of the family, or none, is current now.
 void current_widget_changed(Reference<WidgetDef>* element);
+
+}  // namespace vqc::editors
 
 #endif

@@ -6,6 +6,8 @@
 
 #include "vqc/cmd/editors/kit/shown_names.h"
 
+namespace vqc::editors {
+
 namespace {
 
 /// The place of the selected item, counted from 1; 0 unless exactly one is selected.
@@ -50,3 +52,5 @@ int arrowlist_action(Widget list, Move move, bool down, bool wrap) {
   keep_in_sight(list, new_position, down);
   return 1;
 }
+
+}  // namespace vqc::editors

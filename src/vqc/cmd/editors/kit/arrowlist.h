@@ -7,11 +7,15 @@
 
 #include "vqc/cmd/model/ordered_list.h"
 
+namespace vqc::editors {
+
 /// Moves a name of a model list one place; not 0 when it cannot.
 using Move = ErrorCode (*)(const Text& name, bool wrap);
 
 /// Moves the one selected item of `list` a place up or down, the model first. The item stays selected and in sight. At
 /// an end it only moves, to the other end, if `wrap`. 0 when nothing has moved, else 1.
 int arrowlist_action(Widget list, Move move, bool down, bool wrap);
+
+}  // namespace vqc::editors
 
 #endif

@@ -4,6 +4,8 @@
 
 #include <array>
 
+namespace vqc::editors {
+
 namespace {
 
 /// The places that suggest themselves, those first that are looked for first: to the right, to the left, below.
@@ -41,3 +43,5 @@ ScreenArea area_over(const ScreenArea& size, const ScreenArea& owner, const Scre
   const int y = owner.y + (owner.height - size.height) / 2;
   return moved_into({x, y, size.width, size.height}, screen);
 }
+
+}  // namespace vqc::editors

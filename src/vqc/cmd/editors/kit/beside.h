@@ -7,6 +7,8 @@
 
 #include "vqc/cmd/editors/kit/screen_area.h"
 
+namespace vqc::editors {
+
 /// A window on the screen, as one that opens beside it sees it.
 struct Neighbour {
   ScreenArea frame;
@@ -20,5 +22,7 @@ ScreenArea area_beside(const ScreenArea& size, const Neighbour& owner, const std
 
 /// Where a window of that size lies in the middle of `owner`.
 ScreenArea area_over(const ScreenArea& size, const ScreenArea& owner, const ScreenArea& screen);
+
+}  // namespace vqc::editors
 
 #endif

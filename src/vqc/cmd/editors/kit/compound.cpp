@@ -5,6 +5,8 @@
 #include <cwchar>
 #include <string_view>
 
+namespace vqc::editors {
+
 namespace {
 
 /// Makes a component of a compound string the character `pattern` again. The mapping keeps the address of the pattern.
@@ -47,3 +49,5 @@ std::string displayable(const Text& whole) {
   }
   return result;
 }
+
+}  // namespace vqc::editors

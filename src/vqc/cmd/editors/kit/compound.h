@@ -11,6 +11,8 @@
 
 #include "libkel/text.h"
 
+namespace vqc::editors {
+
 /// Characters that the toolkit has allocated, and now are one's own.
 struct FreedByToolkit {
   void operator()(char* characters) const { XtFree(characters); }
@@ -43,5 +45,7 @@ Text text_of(XmString string);
 
 /// The text with a question mark for each byte that is no character of the locale.
 std::string displayable(const Text& whole);
+
+}  // namespace vqc::editors
 
 #endif

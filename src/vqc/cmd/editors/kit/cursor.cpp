@@ -7,6 +7,8 @@
 
 #include "vqc/cmd/editors/kit/widgets.h"
 
+namespace vqc::editors {
+
 namespace {
 
 constexpr unsigned kLastShape = 154;
@@ -40,3 +42,5 @@ int set_normal_cursor(Widget w) {
   static ShapedCursor pointer{XC_left_ptr};
   return show_cursor(w, pointer);
 }
+
+}  // namespace vqc::editors

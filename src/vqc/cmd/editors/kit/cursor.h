@@ -5,6 +5,8 @@
 
 #include <Xm/Xm.h>
 
+namespace vqc::editors {
+
 /// Show the busy cursor, or the normal one again, in the window of the shell that holds `w`. 0, with nothing done, for
 /// null, for a gadget, and while there is no shell, window or cursor.
 int set_watch_cursor(Widget w);
@@ -21,5 +23,7 @@ class BusyCursor {
  private:
   Widget widget_;
 };
+
+}  // namespace vqc::editors
 
 #endif

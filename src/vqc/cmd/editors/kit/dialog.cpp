@@ -20,6 +20,8 @@
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/kit/widgets.h"
 
+namespace vqc::editors {
+
 namespace {
 
 /// What the toolkit is given to call, in place of a callback of ours.
@@ -259,3 +261,5 @@ void show_dialog(Widget contents, Place place) {
 void hide_dialog(Widget contents) {
   if (contents) XtUnmanageChild(contents);
 }
+
+}  // namespace vqc::editors

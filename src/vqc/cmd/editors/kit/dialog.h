@@ -14,6 +14,8 @@
 #include "vqc/cmd/editors/kit/main_shell.h"
 #include "vqc/cmd/editors/kit/placement.h"
 
+namespace vqc::editors {
+
 /// Makes a widget. All of Motif's own creators look like this.
 using Creator = Widget (*)(Widget parent, char* name, ArgList arguments, Cardinal count);
 
@@ -111,5 +113,7 @@ void delete_dialog(Widget* record);
 void show_dialog(Widget contents, Place place = Place::beside);
 /// Pops it down. Null is allowed.
 void hide_dialog(Widget contents);
+
+}  // namespace vqc::editors
 
 #endif

@@ -17,6 +17,8 @@
 #include "vqc/cmd/editors/kit/undo.h"
 #include "vqc/cmd/editors/kit/widgets.h"
 
+namespace vqc::editors {
+
 namespace {
 
 /// A text, with what a field makes of it.
@@ -115,3 +117,5 @@ bool gettoggle(Widget w, bool* flag) {
   if (flag) *flag = on;
   return on;
 }
+
+}  // namespace vqc::editors

@@ -7,6 +7,8 @@
 
 #include "libkel/text.h"
 
+namespace vqc::editors {
+
 /// Writes a text into a text field or text widget; null counts as "". 0 when there is no widget, else 1.
 int settext(Widget w, const char* text);
 inline int settextf(Widget w, const char* text) { return settext(w, text); }
@@ -31,5 +33,7 @@ int settoggle(Widget w, bool on);
 
 /// Whether a toggle button, or its gadget, is set; false when there is no widget. A `flag` gets it too.
 bool gettoggle(Widget w, bool* flag = nullptr);
+
+}  // namespace vqc::editors
 
 #endif

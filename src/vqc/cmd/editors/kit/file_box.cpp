@@ -13,6 +13,8 @@
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/fields.h"
 
+namespace vqc::editors {
+
 namespace {
 
 std::string folder_of(const char* document) {
@@ -50,3 +52,5 @@ Text chosen_path(Widget box, XtPointer call) {
 void title_file_box(Widget box, const char* resource_name) {
   XtVaSetValues(XtParent(box), XmNtitle, text_or_name(resource_name), nullptr);
 }
+
+}  // namespace vqc::editors

@@ -7,6 +7,8 @@
 
 #include "libkel/text.h"
 
+namespace vqc::editors {
+
 /// Shows the dialog of a file selection box with what is now in the folder of the document at this path, or in the
 /// working directory when that is null. The box offers a name, which typing replaces; null for none.
 void show_file_box(Widget box, const char* document, const char* name = nullptr);
@@ -19,5 +21,7 @@ Text chosen_path(Widget box, XtPointer call);
 
 /// Titles a file selection box's dialog with the text of a message resource.
 void title_file_box(Widget box, const char* resource_name);
+
+}  // namespace vqc::editors
 
 #endif

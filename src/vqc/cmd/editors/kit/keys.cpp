@@ -13,6 +13,8 @@
 #include "vqc/cmd/editors/kit/undo.h"
 #include "vqc/cmd/editors/kit/widgets.h"
 
+namespace vqc::editors {
+
 namespace {
 
 std::span<const CommandKey> command_keys;
@@ -125,3 +127,5 @@ void use_keys(Display* display, std::span<const CommandKey> commands) {
   usual_dispatch = XtSetEventDispatcher(display, KeyPress, dispatch_key);
   XtAddCallback(XtHooksOfDisplay(display), XtNcreateHook, watch, nullptr);
 }
+
+}  // namespace vqc::editors

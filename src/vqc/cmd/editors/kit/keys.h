@@ -7,6 +7,8 @@
 
 #include <span>
 
+namespace vqc::editors {
+
 /// A command that a letter gives together with Ctrl, in whatever window it is pressed.
 struct CommandKey {
   char letter;  // a capital is one with Shift; where there is none, Shift makes no difference
@@ -17,5 +19,7 @@ struct CommandKey {
 /// that has to be answered first keeps waiting, W to close the window, and A, C, X, V and Z to select all, copy, cut,
 /// paste and take back in a text field. What else is typed with Ctrl is left to menus, and never becomes text.
 void use_keys(Display* display, std::span<const CommandKey> commands);
+
+}  // namespace vqc::editors
 
 #endif

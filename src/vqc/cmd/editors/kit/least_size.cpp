@@ -14,6 +14,8 @@
 
 #include "vqc/cmd/editors/kit/widgets.h"
 
+namespace vqc::editors {
+
 namespace {
 
 constexpr int kLeastRows = 3;
@@ -112,3 +114,5 @@ ScreenArea lay_out_contents(Widget contents) {
                 std::min(size.height - spare_height(contents), XHeightOfScreen(screen)), nullptr);
   return size;
 }
+
+}  // namespace vqc::editors

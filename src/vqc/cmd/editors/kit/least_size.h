@@ -7,8 +7,12 @@
 
 #include "vqc/cmd/editors/kit/screen_area.h"
 
+namespace vqc::editors {
+
 /// Lays out what a window holds before it is shown, and gives its shell the least size at which all buttons and fields
 /// can be used: lists may shrink to a few rows, nothing else may. Returns the size that the window has then.
 ScreenArea lay_out_contents(Widget contents);
+
+}  // namespace vqc::editors
 
 #endif

@@ -8,6 +8,8 @@
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
 
+namespace vqc::editors {
+
 Widget ListEditor::list() const { return box() ? XmSelectionBoxGetChild(box(), XmDIALOG_LIST) : nullptr; }
 
 Widget ListEditor::name_field() const { return box() ? XmSelectionBoxGetChild(box(), XmDIALOG_TEXT) : nullptr; }
@@ -77,3 +79,5 @@ void move_selected(Widget w, const ListEditor& editor, bool down) {
   const BusyCursor busy(w);
   arrowlist_action(editor.list(), down ? editor.names.move_down : editor.names.move_up, down, false);
 }
+
+}  // namespace vqc::editors

@@ -14,6 +14,8 @@
 #include "vqc/cmd/model/family.h"
 #include "vqc/cmd/model/kinds.h"
 
+namespace vqc::editors {
+
 /// The list that an editor shows, wherever the model keeps it.
 struct NamesOf {
   bool (*has)(const Text& name);
@@ -119,5 +121,7 @@ template <ListEditor& editor>
 void do_down(Widget w, XtPointer, XtPointer) {
   move_selected(w, editor, true);
 }
+
+}  // namespace vqc::editors
 
 #endif

@@ -11,6 +11,8 @@
 
 #include "vqc/cmd/editors/kit/session_hooks.h"
 
+namespace vqc::editors {
+
 namespace {
 
 /// The name of a widget of a page. It is kept for good, as the toolkit keeps the names of all widgets.
@@ -53,3 +55,5 @@ DialogPart list_page(const ListPage& page) {
   if (page.quit) all.links.push_back({box, XmNcancelButton, quit});  // Escape must not press the button that deletes
   return all;
 }
+
+}  // namespace vqc::editors

@@ -10,6 +10,8 @@
 
 #include "vqc/cmd/editors/kit/dialog.h"
 
+namespace vqc::editors {
+
 /// One such list. The names of its widgets begin with its own: "X_selection" is the box, with the children "Help",
 /// "*ItemsList" and "Text", and there are "X_arrowbox", "X_uparrow", "X_downarrow" and "X_quitb".
 struct ListPage {
@@ -32,5 +34,7 @@ struct ListPage {
 /// Its widgets: the box, without OK and Apply where these do nothing, the form, the arrows, what else there is, and the
 /// button that closes the dialog, which Escape presses.
 DialogPart list_page(const ListPage& page);
+
+}  // namespace vqc::editors
 
 #endif

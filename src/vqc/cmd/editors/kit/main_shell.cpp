@@ -2,6 +2,8 @@
 
 #include "vqc/cmd/editors/kit/main_shell.h"
 
+namespace vqc::editors {
+
 namespace {
 
 Widget the_shell = nullptr;
@@ -11,3 +13,5 @@ Widget the_shell = nullptr;
 Widget main_shell() { return the_shell; }
 
 void set_main_shell(Widget shell) { the_shell = shell; }
+
+}  // namespace vqc::editors

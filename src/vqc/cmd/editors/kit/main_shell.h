@@ -5,9 +5,13 @@
 
 #include <Xm/Xm.h>
 
+namespace vqc::editors {
+
 /// Null in a batch run, and until the main window is made.
 Widget main_shell();
 /// Says, once, which it is.
 void set_main_shell(Widget shell);
+
+}  // namespace vqc::editors
 
 #endif

@@ -7,6 +7,8 @@
 
 #include "libkel/message.h"
 
+namespace vqc::editors {
+
 namespace {
 
 constexpr std::size_t kReserve = std::size_t{1024} * 1024;  // a message box takes a part of it
@@ -43,3 +45,5 @@ Guard::Guard() {
 }
 
 Guard::~Guard() { --depth; }
+
+}  // namespace vqc::editors

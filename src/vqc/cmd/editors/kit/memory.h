@@ -6,6 +6,8 @@
 
 #include <new>
 
+namespace vqc::editors {
+
 /// From now on an allocation that fails throws std::bad_alloc.
 void survive_short_memory();
 
@@ -32,5 +34,7 @@ void guarded(Work work) {
     report_short_memory();
   }
 }
+
+}  // namespace vqc::editors
 
 #endif

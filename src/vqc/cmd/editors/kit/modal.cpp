@@ -8,6 +8,8 @@
 
 #include "vqc/cmd/editors/kit/memory.h"
 
+namespace vqc::editors {
+
 namespace {
 
 /// Those that are up, the latest last.
@@ -32,3 +34,5 @@ void watch_modality(Widget dialog_shell) {
   XtAddCallback(dialog_shell, XtNpopupCallback, popped_up, nullptr);
   XtAddCallback(dialog_shell, XtNpopdownCallback, popped_down, nullptr);
 }
+
+}  // namespace vqc::editors

@@ -9,6 +9,8 @@
 
 #include "vqc/cmd/editors/kit/widgets.h"
 
+namespace vqc::editors {
+
 namespace {
 
 ScreenArea area_on_root(Display* display, Window window) {
@@ -84,3 +86,5 @@ Neighbour neighbour(Widget shell) {
   Widget list = list_in(shell);
   return {frame, {frame.x, frame.y, frame.width, inside.y - frame.y}, list ? window_area(list) : ScreenArea{}};
 }
+
+}  // namespace vqc::editors

@@ -7,6 +7,8 @@
 
 #include "vqc/cmd/editors/kit/beside.h"
 
+namespace vqc::editors {
+
 /// The screen that a widget is on, and the part of it that panels leave free.
 ScreenArea screen_of(Widget w);
 ScreenArea free_screen(Widget w);
@@ -20,5 +22,7 @@ ScreenArea frame_of(Widget shell);
 
 /// A shell with its title and its list.
 Neighbour neighbour(Widget shell);
+
+}  // namespace vqc::editors
 
 #endif

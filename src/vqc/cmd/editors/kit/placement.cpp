@@ -14,6 +14,8 @@
 #include "vqc/cmd/editors/kit/on_screen.h"
 #include "vqc/cmd/editors/kit/window_memory.h"
 
+namespace vqc::editors {
+
 namespace {
 
 constexpr char kMainWindow[] = "main_window";
@@ -206,3 +208,5 @@ void keep_places() {
   }
   if (all.changed) keep_windows(screen_of(all.windows.front()->shell), all.memory);
 }
+
+}  // namespace vqc::editors

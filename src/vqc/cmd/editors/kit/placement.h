@@ -6,6 +6,8 @@
 
 #include <Xm/Xm.h>
 
+namespace vqc::editors {
+
 /// How a window that nobody has moved lies to that in which the user has acted.
 enum class Place { beside, over };
 
@@ -17,5 +19,7 @@ void show_main_window(Widget shell, Widget contents);
 
 /// Keeps for the next session what the user has done to windows.
 void keep_places();
+
+}  // namespace vqc::editors
 
 #endif

@@ -14,6 +14,8 @@
 #include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/widgets.h"
 
+namespace vqc::editors {
+
 namespace {
 
 void show_cursor(Widget field, XtPointer, XtPointer) { XtVaSetValues(field, XmNcursorPositionVisible, True, nullptr); }
@@ -99,3 +101,5 @@ void polish(Widget dialog) {
   if (XmIsPushButton(dialog) && is_menu(XtParent(dialog))) lighten_shortcut(dialog);
   for (Widget child : children_of(dialog)) polish(child);
 }
+
+}  // namespace vqc::editors

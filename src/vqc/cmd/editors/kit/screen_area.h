@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace vqc::editors {
+
 /// A rectangle of the screen, in pixels.
 struct ScreenArea {
   int x = 0;
@@ -30,5 +32,7 @@ inline ScreenArea moved_into(ScreenArea area, const ScreenArea& outer) {
   area.y = std::max(outer.y, std::min(area.y, outer.bottom() - area.height));
   return area;
 }
+
+}  // namespace vqc::editors
 
 #endif

@@ -5,6 +5,8 @@
 
 #include <Xm/Xm.h>
 
+namespace vqc::editors {
+
 /// What the editors leave to the application. Either may be null.
 struct SessionHooks {
   void (*end)(int status) = nullptr;                    // ends the session
@@ -14,5 +16,7 @@ inline SessionHooks session_hooks;
 
 /// The callback of every Help button; the client data is the topic.
 void vqc_do_help(Widget w, XtPointer topic, XtPointer);
+
+}  // namespace vqc::editors
 
 #endif

@@ -9,6 +9,8 @@
 
 #include "vqc/cmd/editors/kit/compound.h"
 
+namespace vqc::editors {
+
 namespace {
 
 /// What another hand has put into a list is what can be read there.
@@ -100,3 +102,5 @@ Text clicked_name(Widget list, const XmListCallbackStruct& call) {
   const auto place = static_cast<std::size_t>(call.item_position);
   return place >= 1 && place <= names.size() ? names[place - 1] : nullptr;
 }
+
+}  // namespace vqc::editors

@@ -10,6 +10,8 @@
 
 #include "libkel/text.h"
 
+namespace vqc::editors {
+
 /// Shows `names`, and nothing else, in a list.
 void list_show(Widget list, const std::vector<Text>& names);
 /// Puts a name at a place, or at the end for 0, and scrolls so that it is seen.
@@ -24,5 +26,7 @@ const std::vector<Text>& list_names(Widget list);
 int list_position(Widget list, const Text& name);
 /// The name that a click on a list means.
 Text clicked_name(Widget list, const XmListCallbackStruct& call);
+
+}  // namespace vqc::editors
 
 #endif

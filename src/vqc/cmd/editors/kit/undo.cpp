@@ -14,6 +14,8 @@
 #include "vqc/cmd/editors/kit/memory.h"
 #include "vqc/cmd/editors/kit/widgets.h"
 
+namespace vqc::editors {
+
 namespace {
 
 constexpr XmTextPosition kNowhere = -1;
@@ -102,3 +104,5 @@ void take_back(Widget field) {
   taking_back = false;
   XmTextSetInsertionPosition(field, XmTextGetLastPosition(field) - run.rest);
 }
+
+}  // namespace vqc::editors

@@ -5,6 +5,8 @@
 
 #include <Xm/Xm.h>
 
+namespace vqc::editors {
+
 /// From now on remembers what a text field held before the last run of typing or erasing in one place, or before the
 /// last text that was pasted or cut. A key that is pressed with Ctrl types nothing.
 void watch_typing(Widget field);
@@ -13,5 +15,7 @@ void forget_typing(Widget field);
 
 /// Puts back what is remembered of a field. Doing so again takes that back.
 void take_back(Widget field);
+
+}  // namespace vqc::editors
 
 #endif

@@ -9,6 +9,8 @@
 
 #include "vqc/cmd/editors/kit/compound.h"
 
+namespace vqc::editors {
+
 Widget shell_around(Widget w) {
   while (w && !XtIsShell(w)) w = XtParent(w);
   return w;
@@ -31,3 +33,5 @@ std::string characters_in(Widget text) {
 }
 
 void set_characters(Widget text, std::string characters) { XmTextSetString(text, characters.data()); }
+
+}  // namespace vqc::editors

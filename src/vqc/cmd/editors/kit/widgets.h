@@ -8,6 +8,8 @@
 #include <span>
 #include <string>
 
+namespace vqc::editors {
+
 /// The innermost shell that a widget is in, or is; null for none.
 Widget shell_around(Widget w);
 
@@ -22,5 +24,7 @@ bool is_text(Widget w);
 /// The characters in it, as the locale encodes them.
 std::string characters_in(Widget text);
 void set_characters(Widget text, std::string characters);
+
+}  // namespace vqc::editors
 
 #endif

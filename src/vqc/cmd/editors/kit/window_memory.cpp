@@ -12,6 +12,8 @@
 #include <optional>
 #include <sstream>
 
+namespace vqc::editors {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -93,3 +95,5 @@ void keep_windows(const ScreenArea& screen, const WindowMemory& windows) {
   if (write_lines(unfinished, lines)) fs::rename(unfinished, path, failure);
   fs::remove(unfinished, failure);
 }
+
+}  // namespace vqc::editors

@@ -9,6 +9,8 @@
 
 #include "vqc/cmd/editors/kit/screen_area.h"
 
+namespace vqc::editors {
+
 /// Where windows are, by name.
 using WindowMemory = std::map<std::string, ScreenArea>;
 
@@ -21,5 +23,7 @@ WindowMemory recalled_windows(const ScreenArea& screen);
 /// Keeps it for later sessions, beside what is kept of other displays and of windows that are not named. Without a word
 /// when that cannot be done.
 void keep_windows(const ScreenArea& screen, const WindowMemory& windows);
+
+}  // namespace vqc::editors
 
 #endif

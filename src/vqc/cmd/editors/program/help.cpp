@@ -1,8 +1,12 @@
+// Asks the viewer for pages of help.
+
 #include "vqc/cmd/editors/program/help.h"
 
 #include "help/client/help.h"
 #include "libkel/message.h"
 #include "vqc/cmd/editors/program/resources.h"
+
+namespace vqc::editors {
 
 namespace {
 
@@ -19,3 +23,5 @@ void show_help(Widget w, const char* topic) {
 void vqc_QuitHelp() {
   if (anchor) QuitHelpViewer(anchor);
 }
+
+}  // namespace vqc::editors

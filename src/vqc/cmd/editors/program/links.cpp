@@ -1,3 +1,5 @@
+// Callbacks that interface code can name.
+
 #include "vqc/cmd/editors/program/links.h"
 
 namespace {

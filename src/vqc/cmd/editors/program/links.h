@@ -1,10 +1,10 @@
 #ifndef VQC_CMD_EDITORS_PROGRAM_LINKS_H
 #define VQC_CMD_EDITORS_PROGRAM_LINKS_H
 
-#include <X11/Intrinsic.h>
-
 // Callbacks that interface code can name. The client data is the address of a widget variable; nothing happens when it
 // is null or the variable holds no widget.
+
+#include <X11/Intrinsic.h>
 
 extern "C" {
 

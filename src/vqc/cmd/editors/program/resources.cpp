@@ -1,3 +1,5 @@
+// Reads what the user's resource files say about the whole program.
+
 #include "vqc/cmd/editors/program/resources.h"
 
 #include <X11/StringDefs.h>
@@ -7,6 +9,8 @@
 #include <string>
 
 #include "vqc/cmd/model/options.h"
+
+namespace vqc::editors {
 
 namespace {
 
@@ -98,3 +102,5 @@ Text vqc_HelpPath(Display* display, const char* topic) {
   XtFree(file);
   return result;
 }
+
+}  // namespace vqc::editors

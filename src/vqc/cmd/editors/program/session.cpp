@@ -1,3 +1,5 @@
+// Starts a session: toolkit, hooks, main window and first document.
+
 #include "vqc/cmd/editors/program/session.h"
 
 #include <Xm/Xm.h>
@@ -38,6 +40,8 @@
 #include "vqc/cmd/savefile/parse.h"
 
 extern "C" void XmRegisterConverters();  // only Motif's private headers declare it
+
+namespace vqc::editors {
 
 namespace {
 
@@ -116,3 +120,5 @@ void serve_user() {
   XtAppMainLoop(context);
   std::exit(0);
 }
+
+}  // namespace vqc::editors

@@ -1,7 +1,11 @@
 #ifndef VQC_CMD_EDITORS_PROGRAM_SESSION_H
 #define VQC_CMD_EDITORS_PROGRAM_SESSION_H
 
+// A session with the user, from the display to the end.
+
 #include <X11/Intrinsic.h>
+
+namespace vqc::editors {
 
 /// The connection to the display; null when none could be opened.
 inline Display* display = nullptr;
@@ -15,5 +19,7 @@ bool start_session(int argc, char** argv);
 
 /// Serves the user until the session ends.
 [[noreturn]] void serve_user();
+
+}  // namespace vqc::editors
 
 #endif

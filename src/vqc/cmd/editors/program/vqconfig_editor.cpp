@@ -11,6 +11,8 @@
 #include "vqc/cmd/application/start_up.h"
 #include "vqc/cmd/editors/program/session.h"
 
+using namespace vqc::editors;
+
 namespace {
 
 /// Has lists of processes show the name that the program was started with, as messages and resources do. The user has
