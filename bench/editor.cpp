@@ -21,6 +21,7 @@
 #include "vqc/cmd/editors/kit/main_shell.h"
 #include "vqc/cmd/editors/program/session.h"
 
+using namespace vqc;
 using namespace vqc::editors;
 
 namespace {

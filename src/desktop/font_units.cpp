@@ -2,6 +2,8 @@
 
 #include <Xm/Label.h>
 
+namespace vqc {
+
 void set_font_unit(Widget shell) {
   Widget label = XmCreateLabel(shell, const_cast<char*>("font"), nullptr, 0);
   XmRenderTable font = nullptr;
@@ -12,3 +14,5 @@ void set_font_unit(Widget shell) {
   XmSetFontUnits(XtDisplay(shell), height, height);
   XtDestroyWidget(label);
 }
+
+}  // namespace vqc

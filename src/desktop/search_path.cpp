@@ -9,6 +9,8 @@
 
 #include "libkel/installation.h"
 
+namespace vqc {
+
 namespace {
 
 /// Whether a search path names any folder that there is. One that does not says: no resource files.
@@ -41,3 +43,5 @@ void use_installation() {
   }
   setenv("VQROOT", root.c_str(), 0);
 }
+
+}  // namespace vqc

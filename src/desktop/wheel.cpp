@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace vqc {
+
 namespace {
 
 constexpr int kStepsATurn = 3;
@@ -102,3 +104,5 @@ void scroll_by_wheel(Display* display) {
   dispatch_press = XtSetEventDispatcher(display, ButtonPress, press);
   dispatch_release = XtSetEventDispatcher(display, ButtonRelease, release);
 }
+
+}  // namespace vqc

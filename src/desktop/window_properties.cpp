@@ -11,6 +11,8 @@
 
 #include "libkel/utf8.h"
 
+namespace vqc {
+
 namespace {
 
 void set_property(Widget shell, const char* name, Atom type, int format, const void* data, std::size_t count) {
@@ -90,3 +92,5 @@ void describe_title(Widget shell, const std::string& utf8_title) {
     set_property(shell, property, utf8_string, 8, utf8_title.data(), utf8_title.size());
   }
 }
+
+}  // namespace vqc

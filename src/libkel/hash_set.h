@@ -2,10 +2,17 @@
 #define LIBKEL_HASH_SET_H
 
 #include <absl/container/flat_hash_set.h>
+#include <absl/hash/hash.h>
+#include <absl/strings/string_view.h>
 
 #include <cstddef>
 #include <functional>
+#include <string_view>
 #include <utility>
+
+namespace vqc {
+
+inline std::size_t hash_of(std::string_view text) { return absl::HashOf(absl::string_view(text.data(), text.size())); }
 
 /// A hash table that is as it was when an insertion finds no memory. (The library's own is broken by then: it must not
 /// grow in place.)
@@ -17,8 +24,10 @@ class HashSet {
 
   /// False when an equal element was there.
   bool insert(const Element& element) {
-    if (table_.size() >= room()) grow();
-    return table_.insert(element).second;
+    if (filled_ >= room()) grow();
+    const bool is_new = table_.insert(element).second;
+    filled_ += is_new ? 1 : 0;
+    return is_new;
   }
   template <class Key>
   void erase(const Key& key) {
@@ -42,12 +51,16 @@ class HashSet {
   std::size_t room() const { return table_.capacity() / 8 * 7; }
 
   void grow() {
-    absl::flat_hash_set<Element, Hash, Equal> larger(table_.capacity() * 2);
+    absl::flat_hash_set<Element, Hash, Equal> larger(table_.size() * 2 + kLeastCapacity);
     larger.insert(table_.begin(), table_.end());
     table_ = std::move(larger);
+    filled_ = table_.size();
   }
 
   absl::flat_hash_set<Element, Hash, Equal> table_;
+  std::size_t filled_ = 0;  // places that an element has, or has had: what is erased may leave its place unusable
 };
+
+}  // namespace vqc
 
 #endif

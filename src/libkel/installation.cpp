@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <memory>
 
+namespace vqc {
+
 namespace {
 
 std::string folder_of(const std::string& path) { return path.substr(0, path.rfind('/')); }
@@ -17,3 +19,5 @@ std::string installation() {
 }
 
 std::string installed(const char* file) { return installation() + '/' + file; }
+
+}  // namespace vqc

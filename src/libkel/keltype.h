@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
+namespace vqc {
+
 /// The classes a character can belong to. They do not depend on the locale, unlike those of <cctype>.
 enum KelClass : std::uint16_t {
   KEL_UPPER = 0x001,
@@ -59,5 +61,7 @@ constexpr bool kel_is(char c, std::uint16_t mask) {
 
 /// The same for a character from 0 to 255, or -1 for the end of file, which is in none. Nor is any other number.
 constexpr bool kel_is(int c, std::uint16_t mask) { return c >= 0 && c <= 255 && kel_is(static_cast<char>(c), mask); }
+
+}  // namespace vqc
 
 #endif

@@ -3,6 +3,8 @@
 #include <cerrno>
 #include <cstring>
 
+namespace vqc {
+
 namespace {
 
 bool present(const char* text) { return text && *text; }
@@ -67,3 +69,5 @@ int vq_syntax_error(int line, const char* name) {
 }
 
 const char* system_errmsg() { return errno == 0 ? "" : std::strerror(errno); }
+
+}  // namespace vqc

@@ -5,6 +5,8 @@
 #include <string>
 #include <variant>
 
+namespace vqc {
+
 /// Where messages go; neither function may be null. A batch run has no sink, and nothing is shown; the editor sets it
 /// once its window exists.
 struct MessageSink {
@@ -41,5 +43,7 @@ int vq_syntax_error(int line, const char* name);
 
 /// The C library's text for the current errno; "" when errno is 0.
 const char* system_errmsg();
+
+}  // namespace vqc
 
 #endif

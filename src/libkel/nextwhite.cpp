@@ -2,7 +2,11 @@
 
 #include "libkel/keltype.h"
 
+namespace vqc {
+
 char* nextwhite(char* s) {
   while (*s != '\0' && !kel_is(*s, KEL_SPACE)) ++s;
   return s;
 }
+
+}  // namespace vqc

@@ -2,6 +2,8 @@
 
 #include <array>
 
+namespace vqc {
+
 namespace {
 
 constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
@@ -64,3 +66,5 @@ std::string as_utf8(std::string_view bytes) {
   for (char byte : bytes) text += utf8(static_cast<unsigned char>(byte));
   return text;
 }
+
+}  // namespace vqc

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+namespace vqc {
+
 // Texts as desktops and help pages have them: in UTF-8.
 
 inline constexpr char32_t REPLACEMENT = 0xFFFD;
@@ -25,5 +27,7 @@ std::string utf8(char32_t character);
 
 /// What a file holds, as UTF-8: bytes that are no UTF-8 as a whole are taken for Latin-1.
 std::string as_utf8(std::string_view bytes);
+
+}  // namespace vqc
 
 #endif

@@ -1,10 +1,12 @@
-// Any bytes become tokens, and the same ones wherever the reads from the file are cut.
+// Any bytes become tokens, which stand in the text one after the other, and the same ones for a copy of the lexer.
 
 #include <algorithm>
 #include <vector>
 
 #include "support.h"
 #include "vqc/cmd/savefile/lexer.h"
+
+using namespace vqc;
 
 namespace {
 
@@ -15,7 +17,7 @@ struct Token {
   int result;
   SaveFileToken kind;
   int value;  // an integer, a keyword's number, or the place of a known character
-  int line;
+  Range range;
   std::string text;
   bool operator==(const Token&) const = default;
 };
@@ -37,12 +39,11 @@ int value_of(const Lexer& lexer) {
 
 Token next(Lexer& lexer) {
   const int result = lexer.next_token();
-  return {result, lexer.kind(), value_of(lexer), lineno, std::string(lexer.text())};
+  return {result, lexer.kind(), value_of(lexer), lexer.range(), std::string(lexer.text())};
 }
 
-std::vector<Token> tokens_of(const MemoryFile& file, std::size_t most) {
-  lineno = 0;
-  Lexer lexer(Stream::open(file.path(), "r"));
+/// All tokens from here on, the end too.
+std::vector<Token> rest_of(Lexer& lexer, std::size_t most) {
   std::vector<Token> tokens;
   do {
     require(tokens.size() <= most, "more tokens than characters");
@@ -54,15 +55,31 @@ std::vector<Token> tokens_of(const MemoryFile& file, std::size_t most) {
   return tokens;
 }
 
+void check_ranges(const std::vector<Token>& tokens, std::size_t size) {
+  std::size_t end = 0;
+  for (const Token& token : tokens) {
+    const bool is_end = token.kind == SaveFileToken::end_of_input;
+    require(token.range.begin >= end, "tokens overlap");
+    require(is_end || token.range.end > token.range.begin, "a token of no characters");
+    end = token.range.end;
+  }
+  require(tokens.back().range == Range{size, size}, "the end is not at the end");
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static MemoryFile file;
   const Input input(data, size);
-  file.write(input.text);
-  const std::vector<Token> tokens = tokens_of(file, input.text.size());
-  require(lineno == std::count(input.text.begin(), input.text.end(), '\n'), "lines are counted wrongly");
-  const CutReads cut(input.choice + 1);
-  require(tokens_of(file, input.text.size()) == tokens, "cutting the reads changes the tokens");
+  const auto source = Source::from_text(input.text);
+  Lexer lexer(*source);
+  std::vector<Token> tokens = rest_of(lexer, input.text.size());
+  check_ranges(tokens, input.text.size());
+  Lexer again(*source);
+  const std::size_t before = std::min<std::size_t>(input.choice, tokens.size() - 1);
+  for (std::size_t i = 0; i < before; ++i) require(next(again) == tokens[i], "reading again gives other tokens");
+  Lexer copy = again;
+  tokens.erase(tokens.begin(), tokens.begin() + static_cast<std::ptrdiff_t>(before));
+  require(rest_of(copy, input.text.size()) == tokens, "a copy goes on otherwise");
+  require(rest_of(again, input.text.size()) == tokens, "a copy changes what is read");
   return 0;
 }

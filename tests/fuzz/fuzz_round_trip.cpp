@@ -1,13 +1,8 @@
-// A document is read and written; what was written is read again, cut into small reads, written the same, and the same
-// is generated from it.
+// A document is read and written; what was written is read again into another, written the same, and the same is
+// generated from it.
 
 #include "model_check.h"
 #include "support.h"
-#include "vqc/cmd/generate/generate.h"
-#include "vqc/cmd/model/builtin.h"
-#include "vqc/cmd/model/family.h"
-#include "vqc/cmd/model/popup.h"
-#include "vqc/cmd/savefile/parse.h"
 
 namespace {
 
@@ -16,47 +11,39 @@ bool writes_plainly(std::string_view text) { return text.find_first_of("\\%") ==
 
 /// Gives the families what they get when all that they name is there before them, as it is in what is written: the
 /// popups of their converters, and the predefined popups as they are. Takes from them what is not written.
-void complete_families() {
-  for (Family& family : family_pool.list) {
+void complete_families(Document& document) {
+  for (Family& family : document.families) {
     if (!family.family_init) static_cast<FamilyInit&>(family) = {};
-    predefine_popups(&family);
+    for (const auto& [name, dialog_init] : predefined_popups) document.popups.find(name)->dialog_init = dialog_init;
     for (const auto& reference : family.converters) {
-      if (reference.record->dialog) popuplist_add(reference.record->dialog, &family);
+      document.ensure(family.popups, document.popups, reference.record->dialog);
     }
   }
 }
 
 /// The three generated files, one after the other.
-std::string generated_all(const MemoryFile& output) {
-  return generated_file(output, CONFIG_FILE) + generated_file(output, CODE_FILE) + generated_file(output, STUBS_FILE);
-}
-
-/// Reads what has been written. False when that was not to be read without an error.
-bool read_back(MemoryFile& file, std::size_t piece) {
-  const CutReads cut(piece);
-  parse_errors = 0;
-  const int result = read_document(file, true);
-  check_model();
-  return result == 1 && parse_errors == 0;
+std::string generated_all(const Document& document) {
+  const Families families = all_families(document);
+  return generated(document, families, CONFIG_FILE) + generated(document, families, CODE_FILE) +
+         generated(document, families, STUBS_FILE);
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static MemoryFile file;
-  static MemoryFile output;
   const std::string_view text(reinterpret_cast<const char*>(data), size);
-  start_afresh();
-  file.write(text);
-  read_document(file, true);
-  complete_families();
-  const std::string first = written_document(file);
-  const std::string generated = generated_all(output);
-  const bool whole = read_back(file, 1 + size % 61);
-  const std::string second = written_document(file);
+  Document document;
+  read_into(document, text);
+  complete_families(document);
+  const std::string first = saved(document);
+  Document again;
+  const Reading reading = read_into(again, first);
+  check_model(again);
+  const std::string second = saved(again);
+  const std::string generated_again = generated_all(again);
   if (!writes_plainly(text)) return 0;
-  require(whole, "what was written cannot be read");
+  require(reading.result.has_header && reading.diagnostics.empty(), "what was written cannot be read");
   require(second == first, "what was read again is written otherwise");
-  require(generated_all(output) == generated, "what was read again is generated otherwise");
+  require(generated_again == generated_all(document), "what was read again is generated otherwise");
   return 0;
 }

@@ -1,25 +1,22 @@
 #include "model_check.h"
 
-#include <cstring>
+#include <iterator>
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
 
 #include "support.h"
-#include "vqc/cmd/model/kinds.h"
 
 namespace {
-
-constexpr int kPredefined = 5;  // pages in every family, and popups too
 
 template <class Element, Order order>
 void check_list(const NameList<Element, order>& list) {
   std::unordered_set<std::string_view> names;
   const Element* previous = nullptr;
   for (const Element& element : list) {
-    const Text& name = name_of(element);
+    const Text name = name_of(element);
     require(names.insert(name.view()).second, "a name stands in a list twice");
-    require(order != Order::sorted || !previous || std::strcmp(name_of(*previous), name) < 0, "a list is not sorted");
+    require(order != Order::sorted || !previous || name_of(*previous).view() < name.view(), "a list is not sorted");
     require(list.find(name) == &element, "a name leads to another element");
     previous = &element;
   }
@@ -27,51 +24,51 @@ void check_list(const NameList<Element, order>& list) {
 }
 
 /// A pool, and the list in each family that refers to its records.
-template <auto list, class Pool>
-void check_pool(const Pool& pool) {
-  check_list(pool.list);
+template <class Pool, class References>
+void check_pool(const Document& document, const Pool& pool, References Family::*list) {
+  check_list(pool);
   std::unordered_map<const void*, int> uses;
-  for (const Family& family : family_pool.list) {
+  for (const Family& family : document.families) {
     check_list(family.*list);
     for (const auto& reference : family.*list) {
-      require(pool.list.find(reference.record->name) == reference.record, "a family refers to what is in no pool");
+      require(pool.find(reference.record->name) == reference.record, "a family refers to what is in no pool");
       ++uses[reference.record];
     }
   }
-  for (const auto& record : pool.list) {
+  for (const auto& record : pool) {
     if constexpr (requires { record.uses; }) require(record.uses == uses[&record], "uses are counted wrongly");
   }
 }
 
-void check_families() {
-  check_list(family_pool.list);
-  for (const Family& family : family_pool.list) {
+void check_families(const Document& document) {
+  check_list(document.families);
+  for (const Family& family : document.families) {
     require(!family.name.empty(), "a family has no name");
-    require(page_kind.count(&family) >= kPredefined, "a family lacks predefined pages");
-    require(popup_kind.count(&family) >= kPredefined, "a family lacks predefined popups");
+    require(family.pages.size() >= std::size(predefined_pages), "a family lacks predefined pages");
+    require(family.popups.size() >= std::size(predefined_popups), "a family lacks predefined popups");
   }
 }
 
 }  // namespace
 
-void check_model() {
-  check_pool<&Family::widgets>(widget_pool);
-  check_pool<&Family::enumerations>(enum_pool);
-  check_pool<&Family::aliases>(alias_pool);
-  check_pool<&Family::converters>(converter_pool);
-  check_pool<&Family::code_headers>(code_header_pool);
-  check_pool<&Family::family_headers>(family_header_pool);
-  check_pool<&Family::config_headers>(config_header_pool);
-  check_pool<&Family::popups>(popup_pool);
-  check_pool<&Family::pages>(page_pool);
-  for (const WidgetDef& widget : widget_pool.list) check_list(widget.resource_definitions);
-  for (const EnumDef& enumeration : enum_pool.list) check_list(enumeration.entries);
-  check_families();
+void check_model(const Document& document) {
+  check_pool(document, document.widgets, &Family::widgets);
+  check_pool(document, document.enumerations, &Family::enumerations);
+  check_pool(document, document.aliases, &Family::aliases);
+  check_pool(document, document.converters, &Family::converters);
+  check_pool(document, document.code_headers, &Family::code_headers);
+  check_pool(document, document.family_headers, &Family::family_headers);
+  check_pool(document, document.config_headers, &Family::config_headers);
+  check_pool(document, document.popups, &Family::popups);
+  check_pool(document, document.pages, &Family::pages);
+  for (const WidgetDef& widget : document.widgets) check_list(widget.resource_definitions);
+  for (const EnumDef& enumeration : document.enumerations) check_list(enumeration.entries);
+  check_families(document);
 }
 
-bool model_is_empty() {
-  return family_pool.count() + widget_pool.count() + enum_pool.count() + alias_pool.count() + converter_pool.count() +
-             code_header_pool.count() + family_header_pool.count() + config_header_pool.count() + popup_pool.count() +
-             page_pool.count() ==
-         0;
+bool model_is_empty(const Document& document) {
+  return document.families.empty() && document.widgets.empty() && document.enumerations.empty() &&
+         document.aliases.empty() && document.converters.empty() && document.code_headers.empty() &&
+         document.family_headers.empty() && document.config_headers.empty() && document.popups.empty() &&
+         document.pages.empty();
 }

@@ -6,6 +6,11 @@
 #include <string>
 #include <string_view>
 
+#include "vqc/cmd/generate/generate.h"
+#include "vqc/cmd/savefile/load.h"
+
+using namespace vqc;
+
 // What the fuzz targets share. A target is one function, LLVMFuzzerTestOneInput, which libFuzzer or the replay calls.
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
@@ -21,43 +26,21 @@ struct Input {
   unsigned choice = 0;
 };
 
-/// A file that is nowhere on a disk, but has a path.
-class MemoryFile {
- public:
-  MemoryFile();
-  MemoryFile(const MemoryFile&) = delete;
-  MemoryFile& operator=(const MemoryFile&) = delete;
-  ~MemoryFile();
-
-  const char* path() const { return path_.c_str(); }
-  /// Replaces what is in it.
-  void write(std::string_view text);
-  std::string read() const;
-
- private:
-  int descriptor_;
-  std::string path_;
+/// What came of reading a text.
+struct Reading {
+  LoadResult result;
+  Diagnostics diagnostics = {};
+  std::size_t size;  // of the text
 };
 
-/// While there is one, no read from a file gives more than `size` characters.
-class CutReads {
- public:
-  explicit CutReads(std::size_t size);
-  CutReads(const CutReads&) = delete;
-  CutReads& operator=(const CutReads&) = delete;
-  ~CutReads();
-};
+/// Adds a text to a document. Everything that is found must stand in it, and have words.
+Reading read_into(Document& document, std::string_view text, AfterError after_error = AfterError::stop,
+                  Places* places = nullptr);
 
-/// Leaves a process like a new one, apart from the built-in names. A message that is shown goes nowhere, but is made.
-void start_afresh();
+/// A document as it is written.
+std::string saved(const Document& document);
 
-/// Reads a document into an empty model, or into the one there is. What parseit() gives.
-int read_document(MemoryFile& file, bool fresh);
-
-/// Writes the model, and gives what was written.
-std::string written_document(MemoryFile& file);
-
-/// One of the files of the model, for the families that are chosen.
-std::string generated_file(const MemoryFile& file, int kind);
+/// One of the files of a document.
+std::string generated(const Document& document, const Families& families, int kind, Switches switches = {});
 
 #endif

@@ -6,6 +6,8 @@
 
 #include "generate/generate_support.h"
 
+using namespace vqc;
+
 namespace {
 
 std::string banner(const std::string& marks, const char* family) { return marks + "|/* Family: " + family + " */\n"; }
@@ -21,12 +23,12 @@ TEST_F(WidgetIncludes, TitleStandsEvenWithoutAFamily) {
 }
 
 TEST_F(WidgetIncludes, NothingFollowsTheTitleWhereNothingIsIncluded) {
-  document("widget 'W' { } family 'F' { widget='W' }");
+  describe("widget 'W' { } family 'F' { widget='W' }");
   expect_each(title("c ", "Widget class records"), write_widget_includes);
 }
 
 TEST_F(WidgetIncludes, EachFileOnce) {
-  document(
+  describe(
       "widget 'U' { include_filename='u.h' } widget 'V' { include_filename='shared.h' }"
       "widget 'W' { include_filename='shared.h' } widget 'X' { include_filename='x.h' }"
       "family 'F' { widget='U' widget='V' widget='W' } family 'G' { widget='U' } family 'H' { widget='W' widget='X' }");
@@ -53,12 +55,12 @@ class ProcedureDeclarations : public GenerateTest {
 };
 
 TEST_F(ProcedureDeclarations, AreNothingWithoutProcedures) {
-  document("widget 'W' { } family 'F' { widget='W' }");
+  describe("widget 'W' { } family 'F' { widget='W' }");
   expect_each("", write_procedure_declarations);
 }
 
 TEST_F(ProcedureDeclarations, OfEachKindHaveTheirOwnTypes) {
-  document(
+  describe(
       "widget 'W' { defined_name='a' realise='b' abstract='c' can_add_child='d' appropriate_parent='e' }"
       "family 'F' { widget='W' }");
   expect_each(heading("F") + declaration("char * a", "char *", " ;") +
@@ -70,7 +72,7 @@ TEST_F(ProcedureDeclarations, OfEachKindHaveTheirOwnTypes) {
 }
 
 TEST_F(ProcedureDeclarations, NameIsDeclaredOnceForEachKind) {
-  document(
+  describe(
       "widget 'V' { realise='make' can_add_child='ask' } widget 'W' { realise='make' appropriate_parent='ask' }"
       "family 'F' { widget='V' widget='W' }");
   expect_each(heading("F") + declaration("Widget make", "char *, WidgetClass, Widget, ArgList, Cardinal", " ;") +
@@ -80,7 +82,7 @@ TEST_F(ProcedureDeclarations, NameIsDeclaredOnceForEachKind) {
 }
 
 TEST_F(ProcedureDeclarations, OfASharedWidgetAreNeverRepeated) {
-  document(
+  describe(
       "widget 'V' { abstract='edit' } widget 'W' { abstract='other' }"
       "family 'F' { widget='V' } family 'G' { widget='V' } family 'H' { widget='V' widget='W' }");
   expect_each(heading("F") + declaration("Boolean edit", "XWidget_p, Widget, Boolean *, Boolean *", " ;") +
@@ -109,13 +111,13 @@ class ClassRecords : public GenerateTest {
   }
 
   /// The records of the only family F with the only widget W, which has these fields.
-  std::string record(const std::string& fields) const {
-    document("widget 'W' { " + fields + " } family 'F' { widget='W' }");
+  std::string record(const std::string& fields) {
+    describe("widget 'W' { " + fields + " } family 'F' { widget='W' }");
     return written_by(write_class_records);
   }
 
   /// Whether the record of such a widget has that line.
-  bool has_line(const std::string& fields, const std::string& line) const {
+  bool has_line(const std::string& fields, const std::string& line) {
     return record(fields).find("\n" + line + "\n") != std::string::npos;
   }
 
@@ -132,23 +134,23 @@ class ClassRecords : public GenerateTest {
 TEST_F(ClassRecords, AreNothingWithoutFamilies) { expect_each("", write_class_records); }
 
 TEST_F(ClassRecords, WidgetThatNothingIsKnownOf) {
-  document("family 'F' { widget='W' }");
+  describe("family 'F' { widget='W' }");
   expect_each(heading("c ", "F") + plain_record("  ", "W", "0") + "  |\n  |\n  |\n", write_class_records);
 }
 
 TEST_F(ClassRecords, EmptyLineForEachFamily) {
-  document("family 'F' { } family 'G' { }");
+  describe("family 'F' { } family 'G' { }");
   expect_each("  |\n  |\n", write_class_records);
 }
 
 TEST_F(ClassRecords, FamiliesAreCounted) {
-  document("family 'F' { } family 'Off' { widget='X' } family 'G' { widget='W' }");
-  family_ptr("Off")->generate_selected = false;
+  describe("family 'F' { } family 'Off' { widget='X' } family 'G' { widget='W' }");
+  leave_out("Off");
   expect_each("  |\n" + heading("c ", "G") + plain_record("  ", "W", "1") + "  |\n  |\n  |\n", write_class_records);
 }
 
 TEST_F(ClassRecords, ExtraLineWhereAnotherWidgetFollowsInTheFamily) {
-  document("family 'F' { widget='V' widget='W' } family 'G' { widget='X' widget='V' }");
+  describe("family 'F' { widget='V' widget='W' } family 'G' { widget='X' widget='V' }");
   expect_each(heading("c ", "F") + plain_record("  ", "V", "0") + "  |\n  |\n" + plain_record("  ", "W", "0") +
                   "  |\n  |\n" + heading("c ", "G") + plain_record("  ", "X", "1") + "  |\n  |\n" + " v|/*\n" +
                   plain_record(" v", "V", "1") + " v|*/\n v|\n" + "  |\n  |\n",
@@ -156,7 +158,7 @@ TEST_F(ClassRecords, ExtraLineWhereAnotherWidgetFollowsInTheFamily) {
 }
 
 TEST_F(ClassRecords, RepeatIsCommentedOutAfterTheHeading) {
-  document("family 'F' { widget='W' } family 'G' { widget='W' }");
+  describe("family 'F' { widget='W' } family 'G' { widget='W' }");
   expect_each(heading("c ", "F") + plain_record("  ", "W", "0") + "  |\n  |\n" + heading("cv", "G") + " v|/*\n" +
                   plain_record(" v", "W", "1") + " v|*/\n v|\n" + "  |\n  |\n",
               write_class_records);
@@ -212,7 +214,7 @@ TEST_F(ClassRecords, ResourcesAreDeclaredBeforeTheRecord) {
 }
 
 TEST_F(ClassRecords, PredefinedPagesAreNotCounted) {
-  document(
+  describe(
       "widget 'W' { resource_definitions='a', , 'display', True, 'b', , 'margins', True, 'c', , 'settings', True,"
       "'d', , 'callbacks', True, 'e', , 'misc', True, 'f', , 'missing', True, 'g', , , True; }"
       "family 'F' { widget='W' }");
@@ -220,24 +222,24 @@ TEST_F(ClassRecords, PredefinedPagesAreNotCounted) {
 }
 
 TEST_F(ClassRecords, EachOtherPageCountsOnce) {
-  document(
+  describe(
       "widget 'W' { resource_definitions='a', , 'sixth', True, 'b', , 'sixth', True; }"
       "family 'F' { widget='W' page='sixth' page='seventh' }");
   EXPECT_EQ("1", page_count());
 }
 
 TEST_F(ClassRecords, PagesCountByTheirPlaceInTheDocument) {
-  document(
+  describe(
       "page 'early' widget 'W' { resource_definitions='a', , 'early', True, 'b', , 'misc', True, 'c', , 'late', True; }"
       "family 'F' { widget='W' page='late' }");
   EXPECT_EQ("2", page_count());
 }
 
 TEST_F(ClassRecords, PagesOfAnUnselectedFamilyCountToo) {
-  document(
+  describe(
       "widget 'W' { resource_definitions='a', , 'other', True; }"
       "family 'F' { widget='W' } family 'G' { page='other' }");
-  family_ptr("G")->generate_selected = false;
+  leave_out("G");
   EXPECT_EQ("1", page_count());
 }
 

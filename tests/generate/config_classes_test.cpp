@@ -5,6 +5,8 @@
 #include "generate/generate_support.h"
 #include "vqc/cmd/generate/config_file.h"
 
+using namespace vqc;
+
 namespace {
 
 std::string heading(const char* family) {
@@ -16,7 +18,7 @@ class ClassDeclarations : public GenerateTest {};
 TEST_F(ClassDeclarations, AreNothingWithoutFamilies) { expect_each("", write_class_declarations); }
 
 TEST_F(ClassDeclarations, EmptyLineForEachFamilyAndOneAtTheEnd) {
-  document("family 'E' { } family 'F' { widget='W' widget='V' } family 'G' { }");
+  describe("family 'E' { } family 'F' { widget='W' widget='V' } family 'G' { }");
   expect_each("  |\n" + heading("F") +
                   "  |extern XWidgetClass_t xw_W;\n"
                   "  |extern XWidgetClass_t xw_V;\n"
@@ -27,12 +29,12 @@ TEST_F(ClassDeclarations, EmptyLineForEachFamilyAndOneAtTheEnd) {
 }
 
 TEST_F(ClassDeclarations, NoLineAtTheEndWhereNothingIsDeclared) {
-  document("family 'E' { } family 'F' { }");
+  describe("family 'E' { } family 'F' { }");
   expect_each("  |\n  |\n", write_class_declarations);
 }
 
 TEST_F(ClassDeclarations, SharedWidgetIsNeverRepeated) {
-  document("family 'F' { widget='V' } family 'G' { widget='V' widget='W' } family 'H' { widget='W' }");
+  describe("family 'F' { widget='V' } family 'G' { widget='V' widget='W' } family 'H' { widget='W' }");
   expect_each(heading("F") + "  |extern XWidgetClass_t xw_V;\n  |\n" + heading("G") +
                   "  |extern XWidgetClass_t xw_W;\n"
                   "  |\n"
@@ -51,13 +53,13 @@ class ClassPointers : public GenerateTest {};
 TEST_F(ClassPointers, AreOnlyTheEndOfTheTableWithoutFamilies) { expect_each(pointer_table(""), write_class_pointers); }
 
 TEST_F(ClassPointers, ListEveryWidgetOnceWithoutBanners) {
-  document("widget 'unused' { } family 'F' { widget='W' widget='V' } family 'G' { widget='V' widget='U' }");
+  describe("widget 'unused' { } family 'F' { widget='W' widget='V' } family 'G' { widget='V' widget='U' }");
   expect_each(pointer_table("  |\t&xw_W,\n  |\t&xw_V,\n  |\t&xw_U,\n"), write_class_pointers);
 }
 
 TEST_F(ClassPointers, LeaveOutUnselectedFamilies) {
-  document("family 'F' { widget='W' widget='V' } family 'G' { widget='V' }");
-  family_ptr("F")->generate_selected = false;
+  describe("family 'F' { widget='W' widget='V' } family 'G' { widget='V' }");
+  leave_out("F");
   expect_each(pointer_table("  |\t&xw_V,\n"), write_class_pointers);
 }
 

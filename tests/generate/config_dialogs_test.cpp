@@ -5,37 +5,39 @@
 #include "generate/generate_support.h"
 #include "vqc/cmd/generate/config_file.h"
 
+using namespace vqc;
+
 namespace {
 
 class StopListText : public GenerateTest {};
 
 TEST_F(StopListText, IsAString) {
-  document("stop_list='XmFrame,XmLabel' family 'A' { }");
+  describe("stop_list='XmFrame,XmLabel' family 'A' { }");
   expect_each("  |char vq_config_stop_list[] = \"XmFrame,XmLabel\";\n  |\n", write_stop_list);
 }
 
 TEST_F(StopListText, IsANullPointerWhenThereIsNone) {
-  document("generate_stop_list_string='leave_out' family 'A' { }");
+  describe("generate_stop_list_string='leave_out' family 'A' { }");
   expect_each("  |char *leave_out = (char *) 0;\n  |\n", write_stop_list);
 }
 
 TEST_F(StopListText, IsWrittenAsItStands) {
-  document("stop_list='50%% \\\\n \"x\" %s'");
+  describe("stop_list='50%% \\\\n \"x\" %s'");
   EXPECT_EQ("char vq_config_stop_list[] = \"50%% \\n \"x\" %s\";\n\n", written_by(write_stop_list));
 }
 
 TEST_F(StopListText, KeepsTheDoubledPerCentSignsOfItsName) {
-  document("generate_stop_list_string='out%%' stop_list='XmList'");
+  describe("generate_stop_list_string='out%%' stop_list='XmList'");
   EXPECT_EQ("char out%%[] = \"XmList\";\n\n", written_by(write_stop_list));
 }
 
 TEST_F(StopListText, KeepsTheDoubledPerCentSignsOfItsNameWhenThereIsNone) {
-  document("generate_stop_list_string='100%%%'");
+  describe("generate_stop_list_string='100%%%'");
   EXPECT_EQ("char *100%%% = (char *) 0;\n\n", written_by(write_stop_list));
 }
 
 TEST_F(StopListText, IsSetWhenItIsEmpty) {
-  stop_list_set("");
+  document.excluded_classes = "";
   EXPECT_EQ("char vq_config_stop_list[] = \"\";\n\n", written_by(write_stop_list));
 }
 
@@ -47,7 +49,7 @@ std::string declarations_heading(const std::string& marks, const char* family) {
 class PopupDeclarations : public GenerateTest {};
 
 TEST_F(PopupDeclarations, NameTheProceduresThatAreSet) {
-  bare_document(
+  describe_bare(
       "popup 'a' { } popup 'b' { dialog_init='b_init' } popup 'c' { dialog_update='c_update' }"
       "popup 'd' { dialog_init='d_init' dialog_update='d_update' }"
       "family 'F' { popup='a' popup='b' popup='c' popup='d' }");
@@ -65,7 +67,7 @@ TEST_F(PopupDeclarations, NameTheProceduresThatAreSet) {
 }
 
 TEST_F(PopupDeclarations, OfPredefinedPopupsAreWrittenToo) {
-  document("family 'F' { }");
+  describe("family 'F' { }");
   EXPECT_EQ(
       "extern void vq_colour_dialog_create();\n"
       "extern void vq_colour_dialog_initialise();\n"
@@ -82,7 +84,7 @@ TEST_F(PopupDeclarations, OfPredefinedPopupsAreWrittenToo) {
 }
 
 TEST_F(PopupDeclarations, RepeatIsCommentedOutAsABlock) {
-  bare_document(
+  describe_bare(
       "popup 'a' { dialog_init='a_init' } family 'F' { popup='a' } family 'G' { popup='a' popup='b' }"
       "family 'H' { popup='b' }");
   expect_each(declarations_heading("c ", "F") +
@@ -103,7 +105,7 @@ TEST_F(PopupDeclarations, RepeatIsCommentedOutAsABlock) {
 }
 
 TEST_F(PopupDeclarations, AreNothingAtAllWithoutPopups) {
-  bare_document("popup 'unused' { } family 'F' { }");
+  describe_bare("popup 'unused' { } family 'F' { }");
   expect_each("", write_popup_declarations);
 }
 
@@ -118,12 +120,12 @@ class Popups : public GenerateTest {};
 TEST_F(Popups, AreOnlyTheEndOfTheTableWithoutFamilies) { expect_each(popup_table(""), write_popups); }
 
 TEST_F(Popups, FamilyWithoutPopupsHasNoBanner) {
-  bare_document("family 'F' { }");
+  describe_bare("family 'F' { }");
   expect_each(popup_table(""), write_popups);
 }
 
 TEST_F(Popups, ProcedureThatIsNotThereIsANullPointer) {
-  bare_document(
+  describe_bare(
       "popup 'a' { dialog_init='init' dialog_update='update' } popup 'b' { dialog_init='init' }"
       "popup 'c' { dialog_update='update' } popup 'd' { } family 'F' { popup='a' popup='b' popup='c' popup='d' }");
   expect_each(popup_table("c |/* Family: F */\n"
@@ -135,7 +137,7 @@ TEST_F(Popups, ProcedureThatIsNotThereIsANullPointer) {
 }
 
 TEST_F(Popups, SharedPopupIsWrittenOnceAndRepeatedCommentedOut) {
-  bare_document("popup 'a' { } family 'F' { popup='a' } family 'G' { popup='a' }");
+  describe_bare("popup 'a' { } family 'F' { popup='a' } family 'G' { popup='a' }");
   expect_each(popup_table("c |/* Family: F */\n"
                           "  |\t{a,(void (*)()) 0,(void (*)()) 0, False},\n"
                           "cv|/* Family: G */\n"
@@ -144,22 +146,21 @@ TEST_F(Popups, SharedPopupIsWrittenOnceAndRepeatedCommentedOut) {
 }
 
 TEST_F(Popups, ArePlacedOverTheWholeFile) {
-  bare_document("family 'F' { popup='b' } family 'G' { popup='a' popup='b' popup='c' }");
-  written_by(write_popups, {false, true});
-  EXPECT_EQ(0, written_popup("b")->index);
-  EXPECT_EQ(1, written_popup("a")->index);
-  EXPECT_EQ(2, written_popup("c")->index);
+  describe_bare("family 'F' { popup='b' } family 'G' { popup='a' popup='b' popup='c' }");
+  const Numbering popups = after(write_popups, {false, true}, [](const ::Run& run) { return run.popups; });
+  EXPECT_EQ(0, popups.of("b"));
+  EXPECT_EQ(1, popups.of("a"));
+  EXPECT_EQ(2, popups.of("c"));
 }
 
 TEST_F(Popups, OfUnselectedFamiliesAreNotWritten) {
-  bare_document("family 'F' { popup='a' } family 'G' { popup='b' }");
-  family_ptr("F")->generate_selected = false;
+  describe_bare("family 'F' { popup='a' } family 'G' { popup='b' }");
+  leave_out("F");
   expect_each(popup_table("c |/* Family: G */\n  |\t{b,(void (*)()) 0,(void (*)()) 0, False},\n"), write_popups);
-  EXPECT_EQ(nullptr, written_popup("a"));
-  EXPECT_EQ(nullptr, written_popup("missing"));
-  EXPECT_EQ(nullptr, written_popup(nullptr));
-  ASSERT_NE(nullptr, written_popup("b"));
-  EXPECT_EQ(0, written_popup("b")->index);
+  after(write_popups, {}, [](const ::Run& run) {
+    for (const Text name : {Text("a"), Text("missing"), Text()}) EXPECT_EQ(-1, reference_to_popup(run, name).place);
+    EXPECT_EQ(0, reference_to_popup(run, "b").place);
+  });
 }
 
 std::string page_table(const std::string& rows) {
@@ -171,7 +172,7 @@ class PageNames : public GenerateTest {};
 TEST_F(PageNames, AreOnlyTheEndOfTheTableWithoutFamilies) { expect_each(page_table(""), write_page_names); }
 
 TEST_F(PageNames, OfAFamilyBeginWithThePredefinedOnes) {
-  document("family 'F' { page='extra' }");
+  describe("family 'F' { page='extra' }");
   expect_each(page_table("- |\t\"display\",\n"
                          "- |\t\"margins\",\n"
                          "- |\t\"settings\",\n"
@@ -189,7 +190,7 @@ TEST_F(PageNames, OfAFamilyBeginWithThePredefinedOnes) {
 }
 
 TEST_F(PageNames, RepeatFollowsTheCommentSwitch) {
-  bare_document("family 'F' { page='a' } family 'G' { page='a' page='b' } family 'H' { page='b' }");
+  describe_bare("family 'F' { page='a' } family 'G' { page='a' page='b' } family 'H' { page='b' }");
   expect_each(page_table("- |\t\"a\",\n"
                          "- |\t\"b\",\n"
                          "c |/* Family: F */\n"
@@ -203,14 +204,14 @@ TEST_F(PageNames, RepeatFollowsTheCommentSwitch) {
 }
 
 TEST_F(PageNames, HaveTheirPlacesFromTheTableAlone) {
-  bare_document("page 'unused' page 'b' family 'F' { page='a' } family 'G' { page='b' }");
-  family_ptr("F")->generate_selected = false;
-  written_by(write_page_names);
-  EXPECT_EQ(-1, written_page("a"));
-  EXPECT_EQ(0, written_page("b"));
-  EXPECT_EQ(-1, written_page("unused"));
-  EXPECT_EQ(-1, written_page("missing"));
-  EXPECT_EQ(-1, written_page(nullptr));
+  describe_bare("page 'unused' page 'b' family 'F' { page='a' } family 'G' { page='b' }");
+  leave_out("F");
+  const Numbering pages = after(write_page_names, {}, [](const ::Run& run) { return run.pages; });
+  EXPECT_EQ(-1, pages.of("a"));
+  EXPECT_EQ(0, pages.of("b"));
+  EXPECT_EQ(-1, pages.of("unused"));
+  EXPECT_EQ(-1, pages.of("missing"));
+  EXPECT_EQ(-1, pages.of(nullptr));
 }
 
 }  // namespace

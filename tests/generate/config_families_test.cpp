@@ -6,13 +6,15 @@
 #include "vqc/cmd/generate/config_file.h"
 #include "vqc/cmd/model/options.h"
 
+using namespace vqc;
+
 namespace {
 
 class FamilyNames : public GenerateTest {};
 
 TEST_F(FamilyNames, AreCounted) {
-  document("family 'A' { } family 'B' { } family 'C' { }");
-  family_ptr("B")->generate_selected = false;
+  describe("family 'A' { } family 'B' { } family 'C' { }");
+  leave_out("B");
   expect_each(
       "c |/*\nc |** Families\nc |*/\nc |\n"
       "  |char *xw_family_names[] = {\n"
@@ -39,7 +41,7 @@ TEST_F(FamilyNames, WithoutFamiliesAreNone) {
 }
 
 TEST_F(FamilyNames, KeepDoubledPerCentSigns) {
-  document("family '50%%' { }");
+  describe("family '50%%' { }");
   EXPECT_NE(std::string::npos, written_by(write_family_names).find("\t\"50%%\",\n"));
 }
 
@@ -75,8 +77,8 @@ class Families : public GenerateTest {
   }
 
   /// Whether the tables of the only family begin with `base`.
-  bool base_of(const std::string& family, const std::string& base) const {
-    document("family '" + family + "' { }");
+  bool base_of(const std::string& family, const std::string& base) {
+    describe("family '" + family + "' { }");
     const std::string text = written_by(write_families);
     return text.find("static XFamilyHeader_t " + base + "_headers[] = {\n") != std::string::npos &&
            text.find("static XWidgetClass_p " + base + "_widgets[] = {\n") != std::string::npos;
@@ -86,14 +88,14 @@ class Families : public GenerateTest {
 TEST_F(Families, WithoutFamiliesOnlyTheEndOfTheTable) { expect("", ""); }
 
 TEST_F(Families, TableIsNamedByTheResourceUnlessThatIsEmpty) {
-  name_options.family_table.resource = "from_resource";
+  document.names.family_table.resource = "from_resource";
   EXPECT_NE(std::string::npos, written_by(write_families).find("XFamily_t from_resource[] = {\n"));
-  name_options.family_table.resource = "";
+  document.names.family_table.resource = "";
   EXPECT_NE(std::string::npos, written_by(write_families).find("XFamily_t xw_families[] = {\n"));
 }
 
 TEST_F(Families, EmptyFamilyHasBlocksButNoTablesInItsRow) {
-  document("family 'Demo' { }");
+  describe("family 'Demo' { }");
   expect(empty_blocks("Demo", "Demo"), empty_row("Demo"));
 }
 
@@ -112,14 +114,14 @@ TEST_F(Families, IdentifierIsCutAtTheFirstCharacterThatIsNoLetter) {
 }
 
 TEST_F(Families, IdentifierCountsTheSelectedFamilies) {
-  document("family 'One' { } family 'Off' { } family 'Two' { } family 'My Widgets' { }");
-  family_ptr("Off")->generate_selected = false;
+  describe("family 'One' { } family 'Off' { } family 'Two' { } family 'My Widgets' { }");
+  leave_out("Off");
   expect(empty_blocks("One", "One") + empty_blocks("Two", "Two") + empty_blocks("My Widgets", "My_2"),
          empty_row("One") + empty_row("Two") + empty_row("My Widgets"));
 }
 
 TEST_F(Families, HeadersAndWidgetsAreListedInOrder) {
-  document(
+  describe(
       "family 'A' { family_header='z.h' family_header='a.h' widget='W' widget='V' }"
       "family 'B' { family_header='a.h' widget='V' }");
   expect(
@@ -154,7 +156,7 @@ TEST_F(Families, HeadersAndWidgetsAreListedInOrder) {
 }
 
 TEST_F(Families, InitialisationIsDeclaredBeforeTheBlocks) {
-  document("family 'A' { family_init='init_a' generate_family_init_vq=True generate_family_init_pre_shell=True }");
+  describe("family 'A' { family_init='init_a' generate_family_init_vq=True generate_family_init_pre_shell=True }");
   expect(
       "  |/*\n  |** Family A external functions\n  |*/\n  |\n"
       "  |#ifndef   _NO_PROTO\n"
@@ -167,14 +169,14 @@ TEST_F(Families, InitialisationIsDeclaredBeforeTheBlocks) {
 }
 
 TEST_F(Families, FlagsAreWrittenEvenWithoutAProcedure) {
-  document("family 'A' { generate_family_init_code=True generate_family_init_stub=True }");
+  describe("family 'A' { generate_family_init_code=True generate_family_init_stub=True }");
   expect(empty_blocks("A", "A"),
          "  |\t{ \"A\", (XWidgetClass_p *) 0, (XFamilyHeader_p) 0, (char *) 0, (void (*)()) 0, False, True, False, "
          "False},\n");
 }
 
 TEST_F(Families, EmptyInitialisationCountsAsSet) {
-  document("family 'A' { family_init='' }");
+  describe("family 'A' { family_init='' }");
   EXPECT_NE(std::string::npos, written_by(write_families).find("extern void (Widget shell) ;\n"));
   EXPECT_NE(std::string::npos, written_by(write_families).find("(XFamilyHeader_p) 0, \"\", , False,"));
 }

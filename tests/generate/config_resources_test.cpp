@@ -4,7 +4,8 @@
 
 #include "generate/generate_support.h"
 #include "vqc/cmd/generate/config_file.h"
-#include "vqc/cmd/model/widgetedit.h"
+
+using namespace vqc;
 
 namespace {
 
@@ -34,8 +35,8 @@ class Resources : public GenerateTest {
   }
 
   /// That of widget W with a resource that is given so.
-  std::string row_of(const std::string& resource, const std::string& widget_fields = "") const {
-    bare_document("widget 'W' { " + widget_fields + " resource_definitions=" + resource +
+  std::string row_of(const std::string& resource, const std::string& widget_fields = "") {
+    describe_bare("widget 'W' { " + widget_fields + " resource_definitions=" + resource +
                   "; } family 'F' { widget='W' popup='edit' page='one' page='two' }");
     return row();
   }
@@ -54,7 +55,7 @@ TEST_F(Resources, PageFollowsThePopupDirectly) {
 }
 
 TEST_F(Resources, PopupAndPageAreCountedOverTheFile) {
-  bare_document(
+  describe_bare(
       "widget 'W' { resource_definitions='r', 'd', 'c', True; }"
       "family 'F' { popup='a' popup='b' page='a' page='b' } family 'G' { widget='W' popup='c' popup='d' page='c' }");
   const std::string arrays = written_by(write_resources, {}, {write_popups, write_page_names});
@@ -68,17 +69,17 @@ TEST_F(Resources, PopupAndPageThatAreNotInTheTablesAreNone) {
 }
 
 TEST_F(Resources, PopupAndPageOfAnUnselectedFamilyAreNone) {
-  bare_document(
+  describe_bare(
       "widget 'W' { resource_definitions='r', 'a', 'a', True; }"
       "family 'F' { popup='a' page='a' } family 'G' { widget='W' }");
-  family_ptr("F")->generate_selected = false;
+  leave_out("F");
   EXPECT_EQ(
       "{r, (XrmQuark) 0, (Popup_p) 0, -1, True, vqc_free_default, vqc_free_default, -1, False, False, (char *) 0},",
       row());
 }
 
 TEST_F(Resources, PopupAndPageNamedInADocumentsPoolsOnlyAreNone) {
-  bare_document(
+  describe_bare(
       "popup 'pool' { } page 'pool' widget 'W' { resource_definitions='r', 'pool', 'pool', True; }"
       "family 'G' { widget='W' }");
   EXPECT_EQ(
@@ -103,18 +104,18 @@ TEST_F(Resources, FreeModeByDefaultIsTheWidgets) {
 
 TEST_F(Resources, FreeModeOutOfRangeIsDontFree) {
   row_of("'r', , , True");
-  resource_first(widget_ptr("W"))->free_get = static_cast<FreeMode>(9);
+  document.widgets.find("W")->resource_definitions.head()->free_get = static_cast<FreeMode>(9);
   EXPECT_EQ("{r, (XrmQuark) 0, (Popup_p) 0, -1, True, vqc_dont_free, vqc_free_default, -1, False, False, (char *) 0},",
             row());
 }
 
 TEST_F(Resources, CompatibilityIsThatOfTheMoment) {
-  mfc_compatible_widgets = true;
+  document.compatibility.mfc = true;
   EXPECT_EQ(
       "{r, (XrmQuark) 0, (Popup_p) 0, -1, True, vqc_free_default, vqc_free_default, -1, True, False, (char *) 0},",
       row_of("'r', , , True"));
-  mfc_compatible_widgets = false;
-  java_compatible_widgets = true;
+  document.compatibility.mfc = false;
+  document.compatibility.java = true;
   EXPECT_EQ(
       "{r, (XrmQuark) 0, (Popup_p) 0, -1, True, vqc_free_default, vqc_free_default, -1, False, True, (char *) 0},",
       row_of("'r', , , True"));
@@ -132,7 +133,7 @@ TEST_F(Resources, AccessIsAnyNumber) {
 
 TEST_F(Resources, WithoutANameHaveNoRow) {
   row_of("'r', , , True");
-  resource_first(widget_ptr("W"))->name = nullptr;
+  document.widgets.find("W")->resource_definitions.head()->name = nullptr;
   EXPECT_EQ(
       "{(char *) 0, (XrmQuark) 0, (Popup_p) 0, 0, False, vqc_free_default, vqc_free_default, 0, False, False, "
       "(char *) 0}",
@@ -143,7 +144,7 @@ const std::string row_of_r =
     "|\t{r, (XrmQuark) 0, (Popup_p) 0, -1, True, vqc_free_default, vqc_free_default, -1, False, False, (char *) 0},\n";
 
 TEST_F(Resources, FollowedByAnEmptyLineForEachFamily) {
-  bare_document(
+  describe_bare(
       "widget 'W' { resource_definitions='r', , , True; } family 'F' { } family 'G' { widget='W' } family 'H' { }");
   expect("  |\n" + heading("c ", "G") + "  |Resource_t xr_W_resources[] = {\n  " + row_of_r + array_end +
          "  |\n"
@@ -152,14 +153,14 @@ TEST_F(Resources, FollowedByAnEmptyLineForEachFamily) {
 }
 
 TEST_F(Resources, EmptyLinesOnlyWhereNoWidgetHasResources) {
-  bare_document("widget 'W' { } family 'F' { widget='W' } family 'G' { }");
+  describe_bare("widget 'W' { } family 'F' { widget='W' } family 'G' { }");
   expect("  |\n  |\n");
 }
 
 TEST_F(Resources, NothingWithoutFamilies) { expect(""); }
 
 TEST_F(Resources, TitleIsWrittenForEveryFamilyThatHasAnArray) {
-  bare_document(
+  describe_bare(
       "widget 'V' { resource_definitions='r', , , True; } widget 'W' { resource_definitions='r', , , True; }"
       "family 'F' { widget='V' } family 'G' { widget='W' widget='V' } family 'H' { widget='V' }");
   expect(heading("c ", "F") + "  |Resource_t xr_V_resources[] = {\n  " + row_of_r + array_end + "  |\n" +
@@ -178,12 +179,12 @@ TEST_F(Resources, TitleIsWrittenForEveryFamilyThatHasAnArray) {
 }
 
 TEST_F(Resources, SharedWidgetWithoutAnyHasNoHeadingEvenAsARepeat) {
-  bare_document("widget 'W' { } family 'F' { widget='W' } family 'G' { widget='W' }");
+  describe_bare("widget 'W' { } family 'F' { widget='W' } family 'G' { widget='W' }");
   expect("  |\n  |\n");
 }
 
 TEST_F(Resources, BothFamiliesReferToTheFirstPlaceOfASharedPopup) {
-  bare_document(
+  describe_bare(
       "widget 'V' { resource_definitions='r', 'z', , True; } widget 'W' { resource_definitions='r', 'z', , True; }"
       "family 'F' { widget='V' popup='z' } family 'G' { widget='W' popup='a' popup='z' }");
   const std::string begin = "  |\t{r, (XrmQuark) 0, &(popups[0]),-1, True, vqc_free_default, vqc_free_default, -1, ";

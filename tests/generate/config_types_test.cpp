@@ -5,6 +5,8 @@
 #include "generate/generate_support.h"
 #include "vqc/cmd/generate/config_file.h"
 
+using namespace vqc;
+
 namespace {
 
 std::string banner(const std::string& marks, const char* family) { return marks + "|/* Family: " + family + " */\n"; }
@@ -25,7 +27,7 @@ TEST_F(Enumerations, AreOnlyTheEndOfTheTableWithoutFamilies) {
 }
 
 TEST_F(Enumerations, EntriesKeepTheirOrder) {
-  bare_document(
+  describe_bare(
       "enumeration 'E' { typename='XtRE' enumentry 'slow' { code_symbol='SLOW' resfile_symbol='s' }"
       "enumentry 'fast' { code_symbol='FAST' resfile_symbol='f' } } family 'F' { enumeration='E' }");
   expect_each(title("c ", "Enumeration definitions") + banner("c ", "F") +
@@ -41,7 +43,7 @@ TEST_F(Enumerations, EntriesKeepTheirOrder) {
 }
 
 TEST_F(Enumerations, SymbolsThatAreNotGivenAreNothing) {
-  bare_document("enumeration 'E' { enumentry 'e' { } } family 'F' { enumeration='E' }");
+  describe_bare("enumeration 'E' { enumentry 'e' { } } family 'F' { enumeration='E' }");
   EXPECT_EQ(
       "static Enum_t E_enum[] = {\n"
       "\t{\"e\", , \"\", \"\"},\n"
@@ -58,7 +60,7 @@ TEST_F(Enumerations, SymbolsThatAreNotGivenAreNothing) {
 }
 
 TEST_F(Enumerations, RepeatIsCommentedOutAndItsBannerComesInTheFirstPassOnly) {
-  bare_document(
+  describe_bare(
       "family 'F' { enumeration='E' } family 'G' { enumeration='E' enumeration='A' } family 'H' { enumeration='A' }");
   const std::string end = "\t{(char *) 0, 0, (char *) 0, (char *) 0}\n";
   const auto array = [&](const std::string& name) {
@@ -87,14 +89,14 @@ class Aliases : public GenerateTest {
 TEST_F(Aliases, AreOnlyTheEndOfTheTableWithoutFamilies) { expect_each(table(""), write_aliases); }
 
 TEST_F(Aliases, AreSortedRows) {
-  bare_document("alias 'b' { to_name='XtRInt' } alias 'a' { } family 'F' { alias='b' alias='a' } family 'G' { }");
+  describe_bare("alias 'b' { to_name='XtRInt' } alias 'a' { } family 'F' { alias='b' alias='a' } family 'G' { }");
   expect_each(table(banner("c ", "F") + "  |\t{a, (XrmQuark) 0,, (XrmQuark) 0 },\n"
                                         "  |\t{b, (XrmQuark) 0,XtRInt, (XrmQuark) 0 },\n"),
               write_aliases);
 }
 
 TEST_F(Aliases, RepeatIsCommentedOutAfterTheBanner) {
-  bare_document("alias 'a' { to_name='t' } family 'F' { alias='a' } family 'G' { alias='a' }");
+  describe_bare("alias 'a' { to_name='t' } family 'F' { alias='a' } family 'G' { alias='a' }");
   expect_each(table(banner("c ", "F") + "  |\t{a, (XrmQuark) 0,t, (XrmQuark) 0 },\n" + banner("cv", "G") +
                     " v|/*\t{a, (XrmQuark) 0,t, (XrmQuark) 0 },*/\n"),
               write_aliases);
@@ -110,12 +112,12 @@ class ConverterDeclarations : public GenerateTest {
 TEST_F(ConverterDeclarations, AreNothingWithoutFamilies) { expect_each("", write_converter_declarations); }
 
 TEST_F(ConverterDeclarations, EmptyLineForEachFamilyWithoutConverters) {
-  bare_document("family 'F' { } family 'G' { }");
+  describe_bare("family 'F' { } family 'G' { }");
   expect_each("  |\n  |\n", write_converter_declarations);
 }
 
 TEST_F(ConverterDeclarations, AreForProceduresThatTheBuilderCalls) {
-  bare_document(
+  describe_bare(
       "converter 'a' { proc_name='A' add_in_vq=True } converter 'b' { proc_name='B' add_in_code=True }"
       "converter 'c' { add_in_vq=True } converter 'd' { proc_name='D' add_in_vq=True add_in_code=True }"
       "family 'F' { converter='a' converter='b' converter='c' converter='d' }");
@@ -128,17 +130,17 @@ TEST_F(ConverterDeclarations, AreForProceduresThatTheBuilderCalls) {
 }
 
 TEST_F(ConverterDeclarations, HeadingComesEvenIfNothingIsDeclared) {
-  bare_document("family 'F' { converter='a' } family 'G' { }");
+  describe_bare("family 'F' { converter='a' } family 'G' { }");
   expect_each(heading("c ", "F") + "  |\n  |\n  |\n", write_converter_declarations);
 }
 
 TEST_F(ConverterDeclarations, RepeatThatDeclaresNothingLeavesOnlyTheHeading) {
-  bare_document("family 'F' { converter='a' } family 'G' { converter='a' }");
+  describe_bare("family 'F' { converter='a' } family 'G' { converter='a' }");
   expect_each(heading("c ", "F") + "  |\n" + heading("cv", "G") + "  |\n  |\n", write_converter_declarations);
 }
 
 TEST_F(ConverterDeclarations, RepeatIsCommentedOutAsABlock) {
-  bare_document(
+  describe_bare(
       "converter 'a' { proc_name='A' add_in_vq=True } family 'F' { converter='a' } family 'G' { converter='a' }");
   expect_each(heading("c ", "F") + "  |extern Boolean A();\n  |\n" + heading("cv", "G") +
                   " v|/*\n v|extern Boolean A();\n v|*/\n  |\n  |\n",
@@ -159,7 +161,7 @@ class Converters : public GenerateTest {
 TEST_F(Converters, TitleComesWhateverTheSwitchesSay) { expect(table("")); }
 
 TEST_F(Converters, ProcedureIsForTheBuilderForTheCodeForBothOrNeither) {
-  bare_document(
+  describe_bare(
       "converter 'a' { proc_name='A' add_in_vq=True } converter 'b' { proc_name='B' add_in_code=True }"
       "converter 'c' { proc_name='C' } converter 'd' { proc_name='D' add_in_vq=True add_in_code=True }"
       "converter 'e' { add_in_vq=True add_in_code=True }"
@@ -173,7 +175,7 @@ TEST_F(Converters, ProcedureIsForTheBuilderForTheCodeForBothOrNeither) {
 }
 
 TEST_F(Converters, PopupIsTheOneInTheTable) {
-  bare_document(
+  describe_bare(
       "converter 'a' { dialog='q' } popup 'unused' { }"
       "family 'F' { popup='p' converter='a' converter='b' converter='c' }"
       "converter 'b' { dialog='missing' } converter 'c' { dialog='unused' }");
@@ -184,7 +186,7 @@ TEST_F(Converters, PopupIsTheOneInTheTable) {
 }
 
 TEST_F(Converters, RepeatIsCommentedOutAfterTheBanner) {
-  bare_document("family 'F' { converter='a' } family 'G' { converter='a' converter='b' }");
+  describe_bare("family 'F' { converter='a' } family 'G' { converter='a' converter='b' }");
   expect(table(banner("c ", "F") +
                "  |\t{a, (XrmQuark) 0, \"a\", (Boolean (*)()) 0, (char *) 0 , False, (Popup_p) 0},\n" +
                banner("c ", "G") +

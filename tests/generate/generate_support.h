@@ -5,7 +5,9 @@
 
 #include <filesystem>
 #include <initializer_list>
+#include <memory>
 #include <ostream>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -14,20 +16,19 @@
 #include "support/model.h"
 #include "vqc/cmd/generate/generate.h"
 #include "vqc/cmd/generate/walk.h"
-#include "vqc/cmd/model/page.h"
-#include "vqc/cmd/model/popup.h"
-#include "vqc/cmd/savefile/parse.h"
+#include "vqc/cmd/savefile/load.h"
 
-/// The two switches that change what is generated.
-struct Switches {
-  bool comment = false;
-  bool verbose = false;
-};
+using namespace vqc;
+
 inline constexpr Switches all_switches[] = {{false, false}, {true, false}, {false, true}, {true, true}};
+
+namespace vqc {
 
 inline std::ostream& operator<<(std::ostream& out, const Switches& switches) {
   return out << "comment " << (switches.comment ? "on" : "off") << ", verbose " << (switches.verbose ? "on" : "off");
 }
+
+}  // namespace vqc
 
 /// Whether a line with this mark in its margin is there: always, only with the switch on, or only with it off.
 inline bool mark_allows(char mark, char on, bool is_on) {
@@ -55,52 +56,68 @@ inline std::string for_switches(std::string_view marked, Switches switches) {
 
 using Section = void (*)(Run&);
 
-/// Writes a file of these sections.
-inline void write_sections(const std::string& path, std::initializer_list<Section> sections, Switches switches) {
-  const auto out = openfile(path.c_str(), "w");
-  ASSERT_TRUE(out);
-  Run run{*out, switches.comment, switches.verbose};
-  for (Section section : sections) section(run);
-  EXPECT_EQ(1, closefile(*out));
-}
-
-/// A test that generates in a working directory of its own.
-class GenerateTest : public ModelTest {
+/// A test that generates from a document of its own, in a working directory of its own.
+class GenerateTest : public testing::Test {
  protected:
   GenerateTest() { std::filesystem::current_path(folder.path()); }
   ~GenerateTest() override { std::filesystem::current_path(before_); }
 
-  /// Reads a document, given without its first word.
-  void document(std::string_view items) const { load(folder.with("document.vqc", "VQconfig\n" + std::string(items))); }
+  /// Makes the document what a text says, which is given without its first word.
+  void describe(std::string_view items) { read(Source::from_text("VQconfig\n" + std::string(items))); }
 
-  static void load(const std::string& path) {
-    Text name(path.c_str());
-    ASSERT_EQ(1, parseit(&name, 1));
-    ASSERT_EQ(0, parse_errors) << "a syntax error in " << path;
+  void read(const std::shared_ptr<const Source>& source) {
+    ASSERT_TRUE(source);
+    document.clear();
+    Diagnostics findings;
+    ASSERT_TRUE(load(source, document, findings).has_header);
+    ASSERT_TRUE(findings.empty()) << words_of(findings.findings().front()) << " in " << source->name();
   }
 
   /// Takes from every family what it has from its making.
-  static void without_predefined() {
-    for (Family& family : family_pool.list) {
-      for (const char* page : {"display", "margins", "settings", "callbacks", "misc"}) pagelist_delete(&family, page);
-      for (const char* popup : {"vq_font_dialog_create", "vq_colour_dialog_create", "vq_pixmap_dialog_create",
-                                "vq_string_dialog_create", "vq_fsb_dialog_create"}) {
-        popuplist_delete(&family, popup);
-      }
+  void without_predefined() {
+    for (Family& family : document.families) {
+      for (const Text page : predefined_pages) remove(document, family.pages, page, document.pages);
+      for (const auto& popup : predefined_popups) remove(document, family.popups, popup.name, document.popups);
     }
   }
 
   /// A document whose families have only what it says.
-  void bare_document(std::string_view items) const {
-    document(items);
+  void describe_bare(std::string_view items) {
+    describe(items);
     without_predefined();
+  }
+
+  /// Lets the family of that name take no part.
+  void leave_out(const std::string& family) { left_out_.insert(family); }
+
+  /// The families that take part.
+  Families families() const {
+    Families families = all_families(document);
+    std::erase_if(families, [&](const Family* family) { return left_out_.contains(std::string(family->name.view())); });
+    return families;
   }
 
   /// What a section writes once those before it have run.
   std::string written_by(Section section, Switches switches = {}, std::initializer_list<Section> before = {}) const {
-    write_sections(folder / "before", before, switches);
-    write_sections(folder / "section", {section}, switches);
-    return read_file(folder / "section");
+    StringSink out;
+    const Families taking_part = families();
+    ::Run run{document, taking_part, switches, out};
+    for (Section each : before) each(run);
+    EXPECT_TRUE(out.finish());
+    const std::size_t written_before = out.text().size();
+    section(run);
+    EXPECT_TRUE(out.finish());
+    return out.text().substr(written_before);
+  }
+
+  /// What `look` gives for a run in which one section has been written.
+  template <class Look>
+  auto after(Section section, Switches switches, Look look) const {
+    StringSink out;
+    const Families taking_part = families();
+    ::Run run{document, taking_part, switches, out};
+    section(run);
+    return look(run);
   }
 
   /// Expects of a section what a text with margins says, for every setting of the switches.
@@ -112,16 +129,18 @@ class GenerateTest : public ModelTest {
 
   /// The whole file of that kind.
   std::string file(int kind, Switches switches = {}) const {
-    application_resources.comment_code = switches.comment;
-    application_resources.verbose_code = switches.verbose;
-    EXPECT_TRUE(batch_generate((folder / "generated.c").c_str(), kind));
-    return read_file(folder / "generated.c");
+    StringSink out;
+    generate(document, families(), kind, switches, out);
+    EXPECT_TRUE(out.finish());
+    return out.text();
   }
 
   TemporaryFolder folder;
+  Document document;
 
  private:
   std::filesystem::path before_ = std::filesystem::current_path();
+  std::set<std::string> left_out_;
 };
 
 #endif

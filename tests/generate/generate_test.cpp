@@ -5,41 +5,23 @@
 #include <cerrno>
 #include <cstring>
 #include <string>
-#include <vector>
+#include <string_view>
 
 #include "generate/generate_support.h"
+#include "support/document.h"
 #include "support/messages.h"
 
+using namespace vqc;
+
 namespace {
-
-/// Stands in for the toggles of the generate dialog.
-class Toggles {
- public:
-  explicit Toggles(std::vector<bool> states) {
-    states_ = std::move(states);
-    family_choice = &kChoice;
-  }
-  Toggles(const Toggles&) = delete;
-  Toggles& operator=(const Toggles&) = delete;
-  ~Toggles() { family_choice = nullptr; }
-
- private:
-  static bool chosen(int place) { return states_.at(static_cast<std::size_t>(place)); }
-  static constexpr FamilyChoice kChoice{chosen};
-  inline static std::vector<bool> states_;
-};
 
 class Driver : public GenerateTest {
  protected:
   std::string path() const { return folder / "out.c"; }
 
-  bool generate_for_user(int kind) const { return generate(path().c_str(), true, kind); }
-
-  /// What a run in batch prints on standard error when it cannot open its file.
-  std::string failure_line(int kind) const {
-    testing::internal::CaptureStderr();
-    EXPECT_FALSE(batch_generate((folder / "missing/out.c").c_str(), kind));
-    return testing::internal::GetCapturedStderr();
+  /// Generates the file at `path`, or the one of that name.
+  bool generate_to(const std::string& path, int kind) {
+    return generate_file(document, path.c_str(), families(), kind, {});
   }
 };
 
@@ -121,109 +103,112 @@ TEST_F(Driver, NoFamiliesLeaveTheTitlesOfWholeSections) {
   }
 }
 
-TEST_F(Driver, EveryToggleOffIsLikeNoFamily) {
-  document(
+TEST_F(Driver, DocumentWhoseFamiliesAreAllLeftOutIsLikeNoFamily) {
+  describe(
       "widget 'W' { realise='make' resource_definitions='r', , , True; }"
       "family 'A' { widget='W' header='h' } family 'B' { }");
-  const Toggles toggles({false, false});
-  EXPECT_TRUE(generate_for_user(CONFIG_FILE));
-  EXPECT_EQ(std::string(fixed_lines) + config_of_no_family, read_file(path()));
-  EXPECT_TRUE(generate_for_user(CODE_FILE));
-  EXPECT_EQ(fixed_lines, read_file(path()));
-  EXPECT_TRUE(generate_for_user(STUBS_FILE));
-  EXPECT_EQ(std::string(fixed_lines) + prelude_end, read_file(path()));
+  leave_out("A");
+  leave_out("B");
+  EXPECT_EQ(std::string(fixed_lines) + config_of_no_family, file(CONFIG_FILE));
+  EXPECT_EQ(fixed_lines, file(CODE_FILE));
+  EXPECT_EQ(std::string(fixed_lines) + prelude_end, file(STUBS_FILE));
 }
 
-TEST_F(Driver, UserChoosesTheFamiliesInListOrder) {
-  document("family 'A' { } family 'B' { } family 'C' { }");
-  const Toggles toggles({true, false, true});
-  EXPECT_TRUE(generate_for_user(CONFIG_FILE));
-  EXPECT_TRUE(family_ptr("A")->generate_selected);
-  EXPECT_FALSE(family_ptr("B")->generate_selected);
-  EXPECT_TRUE(family_ptr("C")->generate_selected);
-  const std::string config = read_file(path());
-  EXPECT_NE(std::string::npos, config.find("\t\"A\",\n\t\"C\",\n\t(char *) 0\n};\n\nint xw_family_count = 2;\n"));
+TEST_F(Driver, FamiliesTakePartInTheirOrder) {
+  describe("family 'A' { } family 'B' { } family 'C' { }");
+  EXPECT_NE(std::string::npos,
+            file(CONFIG_FILE).find("\t\"A\",\n\t\"B\",\n\t\"C\",\n\t(char *) 0\n};\n\nint xw_family_count = 3;\n"));
+  leave_out("B");
+  EXPECT_NE(std::string::npos,
+            file(CONFIG_FILE).find("\t\"A\",\n\t\"C\",\n\t(char *) 0\n};\n\nint xw_family_count = 2;\n"));
 }
 
-TEST_F(Driver, BatchRunTakesEveryFamilyAndLeavesThemChosen) {
-  document("family 'A' { } family 'B' { }");
-  family_ptr("A")->generate_selected = false;
-  const Toggles toggles({false, false});
-  EXPECT_TRUE(batch_generate(path().c_str(), CONFIG_FILE));
-  EXPECT_TRUE(family_ptr("A")->generate_selected);
-  EXPECT_TRUE(family_ptr("B")->generate_selected);
-  EXPECT_NE(std::string::npos, read_file(path()).find("int xw_family_count = 2;\n"));
+TEST_F(Driver, AllFamiliesAreThoseOfTheDocumentInItsOrder) {
+  describe("family 'B' { } family 'A' { }");
+  EXPECT_EQ((Families{document.families.find("B"), document.families.find("A")}), all_families(document));
+  EXPECT_EQ(Families{}, all_families(Document()));
 }
 
-TEST_F(Driver, FamiliesAreChosenEvenIfTheFileDoesNotOpen) {
-  document("family 'A' { }");
-  const Toggles toggles({false});
-  EXPECT_FALSE(generate((folder / "missing/out.c").c_str(), true, CONFIG_FILE));
-  EXPECT_FALSE(family_ptr("A")->generate_selected);
+TEST_F(Driver, LeavesTheDocumentAsItIs) {
+  describe("widget 'W' { realise='make' } family 'A' { widget='W' }");
+  document.dirty = false;
+  const std::string before = saved(document);
+  for (int kind : {CONFIG_FILE, CODE_FILE, STUBS_FILE}) file(kind, {true, true});
+  EXPECT_EQ(before, saved(document));
+  EXPECT_FALSE(document.dirty);
 }
 
 TEST_F(Driver, KindOfNoNumberIsAStubsFile) {
-  EXPECT_TRUE(batch_generate(path().c_str(), 7));
+  EXPECT_TRUE(generate_to(path(), 7));
   EXPECT_EQ(std::string(fixed_lines) + prelude_end, read_file(path()));
-  EXPECT_EQ(path(), stubs_generate_name());
+  EXPECT_EQ(path(), document.output_names.stubs.view());
 }
 
 TEST_F(Driver, FileIsTruncated) {
   folder.with("out.c", std::string(100000, 'x'));
-  EXPECT_TRUE(batch_generate(path().c_str(), CODE_FILE));
+  EXPECT_TRUE(generate_to(path(), CODE_FILE));
   EXPECT_EQ(fixed_lines, read_file(path()));
 }
 
 TEST_F(Driver, StubsOfAnEarlierFileAreWrittenAfresh) {
-  document("widget 'W' { can_add_child='holds' } family 'A' { widget='W' }");
+  describe("widget 'W' { can_add_child='holds' } family 'A' { widget='W' }");
   const std::string fresh = file(STUBS_FILE);
   EXPECT_NE(std::string::npos, fresh.find("** vqconfig generated stub: holds\n"));
-  folder.with("generated.c", fresh + "int kept_by_the_user;\n");
-  EXPECT_EQ(fresh, file(STUBS_FILE));
+  folder.with("out.c", fresh + "int kept_by_the_user;\n");
+  EXPECT_TRUE(generate_to(path(), STUBS_FILE));
+  EXPECT_EQ(fresh, read_file(path()));
 }
 
 TEST_F(Driver, RemembersTheNameOfEachKind) {
-  EXPECT_EQ(nullptr, config_generate_name());
-  const std::string config = folder / "a.c";
-  const std::string code = folder / "b.c";
-  const std::string stubs = folder / "c.c";
-  EXPECT_TRUE(batch_generate(config.c_str(), CONFIG_FILE));
-  EXPECT_EQ(nullptr, code_generate_name());
-  EXPECT_TRUE(batch_generate(code.c_str(), CODE_FILE));
-  EXPECT_EQ(nullptr, stubs_generate_name());
-  EXPECT_TRUE(batch_generate(stubs.c_str(), STUBS_FILE));
-  EXPECT_EQ(config, config_generate_name());
-  EXPECT_EQ(code, code_generate_name());
-  EXPECT_EQ(stubs, stubs_generate_name());
-  EXPECT_FALSE(dirty);
+  const OutputNames& names = document.output_names;
+  EXPECT_TRUE(generate_to("a.c", CONFIG_FILE));
+  EXPECT_EQ("a.c", names.config);
+  EXPECT_EQ(nullptr, names.code);
+  EXPECT_TRUE(generate_to("b.c", CODE_FILE));
+  EXPECT_EQ(nullptr, names.stubs);
+  EXPECT_TRUE(generate_to("c.c", STUBS_FILE));
+  EXPECT_EQ("a.c", names.config);
+  EXPECT_EQ("b.c", names.code);
+  EXPECT_EQ("c.c", names.stubs);
+  EXPECT_FALSE(document.dirty);
 }
 
 TEST_F(Driver, RememberedNameMayBeGivenAgain) {
-  set_config_file(path().c_str());
-  EXPECT_TRUE(batch_generate(config_generate_name(), CONFIG_FILE));
-  EXPECT_EQ(path(), config_generate_name());
-  set_config_file(config_generate_name());
-  EXPECT_EQ(path(), config_generate_name());
+  EXPECT_TRUE(generate_to(path(), CONFIG_FILE));
+  EXPECT_TRUE(generate_to(std::string(document.output_names.config.view()), CONFIG_FILE));
+  EXPECT_EQ(path(), document.output_names.config.view());
+  document.output_names.config = document.keep(document.output_names.config);
+  EXPECT_EQ(path(), document.output_names.config.view());
+}
+
+TEST_F(Driver, GeneratedNameIsThatOfItsKind) {
+  document.output_names = {.config = "a.c", .code = "b.c", .stubs = "c.c"};
+  EXPECT_EQ("a.c", generated_name(document, CONFIG_FILE));
+  EXPECT_EQ("b.c", generated_name(document, CODE_FILE));
+  EXPECT_EQ("c.c", generated_name(document, STUBS_FILE));
+  EXPECT_EQ("c.c", generated_name(document, 7));
+}
+
+TEST_F(Driver, NameInBatchIsThatOfTheDocumentWithoutItsSuffix) {
+  EXPECT_EQ("Athena_config.c", batch_file_name("Athena.vqc", CONFIG_FILE));
+  EXPECT_EQ("Athena_code.c", batch_file_name("Athena.vqc", CODE_FILE));
+  EXPECT_EQ("Athena_stubs.c", batch_file_name("Athena.vqc", STUBS_FILE));
+  EXPECT_EQ("widgets_code.c", batch_file_name("widgets", CODE_FILE));
+  EXPECT_EQ("out.c_code.c", batch_file_name("out.c", CODE_FILE));
+  EXPECT_EQ("Athena_stubs.c", batch_file_name("Athena.vqc", 7));
+}
+
+TEST_F(Driver, MessagesCallEachKindByItsName) {
+  EXPECT_STREQ("configuration ", file_kind_name(CONFIG_FILE));
+  EXPECT_STREQ("code ", file_kind_name(CODE_FILE));
+  EXPECT_STREQ("stubs ", file_kind_name(STUBS_FILE));
+  EXPECT_STREQ("", file_kind_name(7));
 }
 
 TEST_F(Driver, FailureKeepsTheRememberedName) {
-  set_code_file("old.c");
-  EXPECT_EQ("Cannot open code file " + folder / "missing/out.c" + "\n", failure_line(CODE_FILE));
-  EXPECT_STREQ("old.c", code_generate_name());
-}
-
-TEST_F(Driver, FailureInBatchNamesTheKind) {
-  const std::string name = folder / "missing/out.c\n";
-  EXPECT_EQ("Cannot open configuration file " + name, failure_line(CONFIG_FILE));
-  EXPECT_EQ("Cannot open code file " + name, failure_line(CODE_FILE));
-  EXPECT_EQ("Cannot open stubs file " + name, failure_line(STUBS_FILE));
-  EXPECT_EQ("Cannot open file " + name, failure_line(7));
-}
-
-TEST_F(Driver, PerCentSignsInTheNameOfAFileAreNothingSpecial) {
-  testing::internal::CaptureStderr();
-  EXPECT_FALSE(batch_generate("missing/100%%s%n", CODE_FILE));
-  EXPECT_EQ("Cannot open code file missing/100%%s%n\n", testing::internal::GetCapturedStderr());
+  document.output_names.code = "old.c";
+  EXPECT_FALSE(generate_to(folder / "missing/out.c", CODE_FILE));
+  EXPECT_EQ("old.c", document.output_names.code);
 }
 
 TEST_F(Driver, FailureIsShownToTheUserAndNotPrinted) {
@@ -231,23 +216,28 @@ TEST_F(Driver, FailureIsShownToTheUserAndNotPrinted) {
   messages.texts["file_open_fail"] = "%s: %s";
   const std::string missing = folder / "missing/out.c";
   testing::internal::CaptureStderr();
-  EXPECT_FALSE(generate(missing.c_str(), true, CONFIG_FILE));
+  EXPECT_FALSE(generate_to(missing, CONFIG_FILE));
   EXPECT_EQ("", testing::internal::GetCapturedStderr());
   EXPECT_EQ(Messages{missing + ": " + std::strerror(ENOENT)}, messages.shown);
 }
 
+TEST_F(Driver, PerCentSignsInTheNameOfAFileAreNothingSpecial) {
+  RecordedMessages messages;
+  messages.texts["file_open_fail"] = "%s";
+  EXPECT_FALSE(generate_to("missing/100%%s%n", CODE_FILE));
+  EXPECT_EQ(Messages{"missing/100%%s%n"}, messages.shown);
+}
+
 TEST_F(Driver, NullNameCannotBeOpened) {
-  testing::internal::CaptureStderr();
-  EXPECT_FALSE(generate(nullptr, true, CONFIG_FILE));
-  EXPECT_EQ("", testing::internal::GetCapturedStderr());
+  EXPECT_FALSE(generate_file(document, nullptr, {}, CONFIG_FILE, {}));
+  EXPECT_EQ(nullptr, document.output_names.config);
 }
 
 TEST_F(Driver, FullDiskIsReportedAndCountsAsWritten) {
   RecordedMessages messages;
   messages.texts["file_write_fail"] = "%s";
-  EXPECT_TRUE(generate("/dev/full", true, CONFIG_FILE));
-  EXPECT_FALSE(messages.shown.empty());
-  EXPECT_EQ(std::strerror(ENOSPC), messages.shown.back());
+  EXPECT_TRUE(generate_to("/dev/full", CONFIG_FILE));
+  EXPECT_EQ(Messages{std::strerror(ENOSPC)}, messages.shown);
 }
 
 }  // namespace

@@ -4,12 +4,16 @@
 
 #include "generate/generate_support.h"
 
+using namespace vqc;
+
 namespace {
 
 /// Whole files beside the documents that they are generated from.
 class Golden : public GenerateTest {
  protected:
   static std::string golden(const std::string& name) { return std::string(TEST_DATA) + "/generate/golden/" + name; }
+
+  void read_golden(const std::string& name) { read(Source::read(golden(name).c_str())); }
 
   void expect_file(const char* name, int kind) const { EXPECT_EQ(read_file(golden(name)), file(kind)) << name; }
 
@@ -25,7 +29,7 @@ class Golden : public GenerateTest {
 /// Families that share a record of every kind.
 class Dials : public Golden {
  protected:
-  Dials() { load(golden("dials.vqc")); }
+  Dials() { read_golden("dials.vqc"); }
 };
 
 TEST_F(Dials, ConfigFile) { expect_each_file("dials_config.golden", CONFIG_FILE); }
@@ -36,7 +40,7 @@ TEST_F(Dials, StubsFile) { expect_each_file("dials_stubs.golden", STUBS_FILE); }
 class Odd : public Golden {
  protected:
   Odd() {
-    load(golden("odd.vqc"));
+    read_golden("odd.vqc");
     without_predefined();
     for (const char* header : {"present.h", "presentP.h", "50%%P.h"}) folder.with(header, "");
   }
@@ -50,7 +54,7 @@ TEST_F(Odd, StubsFile) { expect_each_file("odd_stubs.golden", STUBS_FILE); }
 class Gauge : public Golden {
  protected:
   Gauge() {
-    load(golden("gauge.vqc"));
+    read_golden("gauge.vqc");
     without_predefined();
   }
 };
@@ -59,12 +63,12 @@ TEST_F(Gauge, ConfigFile) { expect_file("gauge_config.c", CONFIG_FILE); }
 TEST_F(Gauge, CodeFile) { expect_file("gauge_code.c", CODE_FILE); }
 
 TEST_F(Golden, StubsOfAFamilyAndOfAWidget) {
-  load(golden("create.vqc"));
+  read_golden("create.vqc");
   expect_file("create_stubs.c", STUBS_FILE);
 }
 
 TEST_F(Golden, OneFileLeavesNoTraceInTheNext) {
-  load(golden("dials.vqc"));
+  read_golden("dials.vqc");
   const std::string marked = read_file(golden("dials_config.golden"));
   for (int kind : {STUBS_FILE, CODE_FILE, CONFIG_FILE}) file(kind, {true, true});
   EXPECT_EQ(for_switches(marked, {}), file(CONFIG_FILE));

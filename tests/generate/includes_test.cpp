@@ -6,6 +6,8 @@
 
 #include "generate/generate_support.h"
 
+using namespace vqc;
+
 namespace {
 
 const char fixed_lines[] =
@@ -33,45 +35,45 @@ class Includes : public GenerateTest {
 };
 
 TEST_F(Includes, WithoutHeadersOnlyTheFixedLines) {
-  document("family 'A' { }");
+  describe("family 'A' { }");
   expect_config("");
   expect_code("");
 }
 
 TEST_F(Includes, EachFileHasItsOwnHeaders) {
-  document("family 'A' { header='code.h' cheader='config.h' family_header='family.h' }");
+  describe("family 'A' { header='code.h' cheader='config.h' family_header='family.h' }");
   expect_config(heading("A") + "  |#include <config.h>\n  |\n");
   expect_code(heading("A") + "  |#include <code.h>\n  |\n");
 }
 
 TEST_F(Includes, HeadersThatNoFamilyUsesAreLeftOut) {
-  document("cheader 'unused.h' header 'unused.h' family 'A' { }");
+  describe("cheader 'unused.h' header 'unused.h' family 'A' { }");
   expect_config("");
   expect_code("");
 }
 
 TEST_F(Includes, HeaderIsIncludedOnceOverAllFamilies) {
-  document("family 'A' { cheader='a.h' } family 'B' { cheader='a.h' cheader='b.h' } family 'C' { cheader='a.h' }");
+  describe("family 'A' { cheader='a.h' } family 'B' { cheader='a.h' cheader='b.h' } family 'C' { cheader='a.h' }");
   expect_config(heading("A") + "  |#include <a.h>\n" + heading("B") + "  |#include <b.h>\n  |\n");
 }
 
 TEST_F(Includes, HeadersInTheWorkingDirectoryComeLast) {
   folder.with("here.h", "");
-  document("family 'A' { cheader='here.h' } family 'B' { cheader='away.h' }");
+  describe("family 'A' { cheader='here.h' } family 'B' { cheader='away.h' }");
   expect_config(heading("B") + "  |#include <away.h>\n" + heading("A") + "  |#include <here.h>\n  |\n");
 }
 
 TEST_F(Includes, HeadersInFoldersBelowAreFoundToo) {
   std::filesystem::create_directory(folder / "sub");
   folder.with("sub/here.h", "");
-  document("family 'A' { cheader='sub/here.h' cheader='sub' cheader='sub/away.h' }");
+  describe("family 'A' { cheader='sub/here.h' cheader='sub' cheader='sub/away.h' }");
   expect_config(heading("A") + "  |#include <sub/away.h>\n" + heading("A") +
                 "  |#include <sub/here.h>\n  |#include <sub>\n  |\n");
 }
 
 TEST_F(Includes, NothingIsFoundInAFolderThatIsNoneOrNotThere) {
   folder.with("file", "");
-  document("family 'A' { cheader='file' cheader='none/a.h' cheader='file/b.h' cheader='none/c.h' }");
+  describe("family 'A' { cheader='file' cheader='none/a.h' cheader='file/b.h' cheader='none/c.h' }");
   expect_config(heading("A") + "  |#include <none/a.h>\n  |#include <file/b.h>\n  |#include <none/c.h>\n" +
                 heading("A") + "  |#include <file>\n  |\n");
 }
@@ -88,56 +90,56 @@ TEST_F(Includes, HeadersAreFoundAmongVeryManyToo) {
     headers += "cheader='" + name + "' ";
     (exists ? here : away) += "  |#include <" + name + ">\n";
   }
-  document("family 'A' { " + headers + "}");
+  describe("family 'A' { " + headers + "}");
   expect_config(heading("A") + away + heading("A") + here + "  |\n");
 }
 
 TEST_F(Includes, HeadersOfBothPassesHaveAHeadingInEach) {
   folder.with("here.h", "");
-  document("family 'A' { cheader='here.h' cheader='away.h' }");
+  describe("family 'A' { cheader='here.h' cheader='away.h' }");
   expect_config(heading("A") + "  |#include <away.h>\n" + heading("A") + "  |#include <here.h>\n  |\n");
 }
 
 TEST_F(Includes, HeaderDoneBeforeSuppressesTheHeadingOfTheSecondPass) {
   folder.with("here.h", "");
-  document("family 'A' { cheader='away.h' cheader='here.h' }");
+  describe("family 'A' { cheader='away.h' cheader='here.h' }");
   expect_config(heading("A") + "  |#include <away.h>\n  |#include <here.h>\n  |\n");
 }
 
 TEST_F(Includes, HeaderDoneByAnotherFamilySuppressesTheHeadingToo) {
   folder.with("here.h", "");
   folder.with("late.h", "");
-  document("family 'A' { cheader='here.h' } family 'B' { cheader='here.h' cheader='late.h' }");
+  describe("family 'A' { cheader='here.h' } family 'B' { cheader='here.h' cheader='late.h' }");
   expect_config(heading("A") + "  |#include <here.h>\n  |#include <late.h>\n  |\n");
 }
 
 TEST_F(Includes, HeaderDoneAfterTheFirstOfTheFamilySuppressesNothing) {
   folder.with("here.h", "");
   folder.with("late.h", "");
-  document("family 'A' { cheader='here.h' } family 'B' { cheader='late.h' cheader='here.h' }");
+  describe("family 'A' { cheader='here.h' } family 'B' { cheader='late.h' cheader='here.h' }");
   expect_config(heading("A") + "  |#include <here.h>\n" + heading("B") + "  |#include <late.h>\n  |\n");
 }
 
 TEST_F(Includes, EmptyNameIsNotIncluded) {
-  document("family 'A' { cheader='' }");
+  describe("family 'A' { cheader='' }");
   expect_config("");
 }
 
 TEST_F(Includes, EmptyNameCountsAsDoneBefore) {
   folder.with("here.h", "");
-  document("family 'A' { cheader='' cheader='here.h' }");
+  describe("family 'A' { cheader='' cheader='here.h' }");
   expect_config("  |#include <here.h>\n  |\n");
 }
 
 TEST_F(Includes, UnselectedFamilyTakesNoPart) {
-  document("family 'A' { cheader='a.h' } family 'B' { cheader='a.h' cheader='b.h' }");
-  family_ptr("A")->generate_selected = false;
+  describe("family 'A' { cheader='a.h' } family 'B' { cheader='a.h' cheader='b.h' }");
+  leave_out("A");
   expect_config(heading("B") + "  |#include <a.h>\n  |#include <b.h>\n  |\n");
 }
 
 TEST_F(Includes, NameIsSoughtAsItStandsAndPrintedWithoutDoubledPerCent) {
   folder.with("50%.h", "");
-  document("family 'A' { cheader='50%%.h' cheader='b.h' }");
+  describe("family 'A' { cheader='50%%.h' cheader='b.h' }");
   expect_config(heading("A") + "  |#include <50%.h>\n  |#include <b.h>\n  |\n");
 }
 

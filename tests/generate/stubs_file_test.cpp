@@ -7,6 +7,8 @@
 #include "generate/generate_support.h"
 #include "vqc/cmd/generate/parse_stubs.h"
 
+using namespace vqc;
+
 namespace {
 
 /// A stub: its name, its head in both styles, and its body between the braces.
@@ -42,18 +44,15 @@ std::string heading(const char* title, const char* family) {
 
 class StubFunctions : public GenerateTest {
  protected:
-  StubFunctions() { vqc_clear_stub_cache(); }
-  ~StubFunctions() override { vqc_clear_stub_cache(); }
-
   /// The stubs of the only family F with the only widget W, which has this field.
-  std::string stubs_of(const std::string& field) const {
-    document("widget 'W' { " + field + " } family 'F' { widget='W' }");
+  std::string stubs_of(const std::string& field) {
+    describe("widget 'W' { " + field + " } family 'F' { widget='W' }");
     return written_by(write_stub_functions);
   }
 };
 
 TEST_F(StubFunctions, WidgetWithoutProceduresWritesNothing) {
-  document("widget 'W' { } family 'F' { widget='W' }");
+  describe("widget 'W' { } family 'F' { widget='W' }");
   expect_each("", write_stub_functions);
 }
 
@@ -123,7 +122,7 @@ TEST_F(StubFunctions, OfTheParent) {
 }
 
 TEST_F(StubFunctions, OfTheFamilyComeFirst) {
-  document(
+  describe(
       "widget 'W' { can_add_child='holds' }"
       "family 'F' { widget='W' family_init='start' generate_family_init_stub=True }");
   const std::string start = stub("start", "void start(Widget shell)\n", "void start(shell)\n\tWidget shell ;\n");
@@ -131,24 +130,24 @@ TEST_F(StubFunctions, OfTheFamilyComeFirst) {
 }
 
 TEST_F(StubFunctions, OfTheFamilyMustBeAskedFor) {
-  document("family 'F' { family_init='start' } family 'G' { generate_family_init_stub=True }");
+  describe("family 'F' { family_init='start' } family 'G' { generate_family_init_stub=True }");
   expect_each("", write_stub_functions);
 }
 
 TEST_F(StubFunctions, OfTheFamilyNeedAName) {
-  document("family 'F' { family_init='' generate_family_init_stub=True }");
+  describe("family 'F' { family_init='' generate_family_init_stub=True }");
   expect_each("", write_stub_functions);
 }
 
 TEST_F(StubFunctions, ProcedureOfTwoWidgetsHasOneStub) {
-  document(
+  describe(
       "widget 'V' { can_add_child='holds' } widget 'W' { can_add_child='holds' }"
       "family 'F' { widget='V' widget='W' }");
   expect_each(heading("Stub functions", "F") + always(holds_stub("holds") + "\n"), write_stub_functions);
 }
 
 TEST_F(StubFunctions, ProcedureOfTwoFamiliesHasOneStub) {
-  document(
+  describe(
       "widget 'V' { can_add_child='holds' } widget 'W' { can_add_child='other' }"
       "family 'F' { widget='V' family_init='start' generate_family_init_stub=True }"
       "family 'G' { widget='V' family_init='start' generate_family_init_stub=True }"
@@ -166,19 +165,21 @@ TEST_F(StubFunctions, SameNameOfTwoKindsHasTwoStubs) {
 }
 
 TEST_F(StubFunctions, OfUnselectedFamiliesAreNotWritten) {
-  document("widget 'W' { can_add_child='holds' } family 'F' { widget='W' } family 'G' { widget='W' }");
-  family_ptr("F")->generate_selected = false;
+  describe("widget 'W' { can_add_child='holds' } family 'F' { widget='W' } family 'G' { widget='W' }");
+  leave_out("F");
   expect_each(heading("Stub functions", "G") + always(holds_stub("holds") + "\n"), write_stub_functions);
 }
 
-TEST_F(StubFunctions, InTheCacheAreNotWritten) {
-  document(
+TEST_F(StubFunctions, ThatWereCarriedOverAreNotWritten) {
+  describe(
       "widget 'W' { can_add_child='holds' appropriate_parent='other' } family 'F' { widget='W' family_init='start'"
       "generate_family_init_stub=True }");
-  for (const char* name : {"start", "other"}) vqc_add_stub_cache(name);
-  expect_each(heading("Stub functions", "F") + always(holds_stub("holds") + "\n"), write_stub_functions);
-  vqc_add_stub_cache("holds");
-  expect_each("", write_stub_functions);
+  const Section keep_two = [](::Run& run) {
+    for (const char* name : {"start", "other"}) run.kept_stubs.add(name);
+  };
+  const Section keep_third = [](::Run& run) { run.kept_stubs.add("holds"); };
+  expect_each(heading("Stub functions", "F") + always(holds_stub("holds") + "\n"), write_stub_functions, {keep_two});
+  expect_each("", write_stub_functions, {keep_two, keep_third});
 }
 
 class PopupFunctions : public StubFunctions {
@@ -187,12 +188,12 @@ class PopupFunctions : public StubFunctions {
 };
 
 TEST_F(PopupFunctions, OfPredefinedPopupsAreNotWritten) {
-  document("family 'F' { }");
+  describe("family 'F' { }");
   expect_each("", write_popup_functions);
 }
 
 TEST_F(PopupFunctions, UpdateOfAPredefinedPopupIsWritten) {
-  document("popup 'vq_font_dialog_create' { dialog_update='refresh' } family 'F' { }");
+  describe("popup 'vq_font_dialog_create' { dialog_update='refresh' } family 'F' { }");
   expect_each(heading(kTitle, "F") + always(stub("refresh", "void refresh(Widget current)\n",
                                                  "void refresh(current)\n\tWidget current ;\n") +
                                             "\n"),
@@ -200,7 +201,7 @@ TEST_F(PopupFunctions, UpdateOfAPredefinedPopupIsWritten) {
 }
 
 TEST_F(PopupFunctions, OfAllThreeKinds) {
-  document("popup 'p' { dialog_init='begin' dialog_update='refresh' } family 'F' { popup='p' }");
+  describe("popup 'p' { dialog_init='begin' dialog_update='refresh' } family 'F' { popup='p' }");
   expect_each(heading(kTitle, "F") + always(popup_stub("p") +
                                             stub("begin",
                                                  "void begin(Widget      source_text,\n"
@@ -217,20 +218,20 @@ TEST_F(PopupFunctions, OfAllThreeKinds) {
 }
 
 TEST_F(PopupFunctions, PopupThatBeginsLikeAPredefinedOneHasItsOtherStubs) {
-  document("popup 'p' { dialog_init='vq_font_dialog_initialise' } family 'F' { popup='p' }");
+  describe("popup 'p' { dialog_init='vq_font_dialog_initialise' } family 'F' { popup='p' }");
   expect_each(heading(kTitle, "F") + always(popup_stub("p") + "\n"), write_popup_functions);
 }
 
 TEST_F(PopupFunctions, SharedPopupHasOneStub) {
-  document("family 'F' { popup='a' } family 'G' { popup='a' } family 'H' { popup='a' popup='b' }");
+  describe("family 'F' { popup='a' } family 'G' { popup='a' } family 'H' { popup='a' popup='b' }");
   expect_each(heading(kTitle, "F") + always(popup_stub("a")) + heading(kTitle, "H") + always(popup_stub("b") + "\n"),
               write_popup_functions);
 }
 
-TEST_F(PopupFunctions, InTheCacheAreNotWritten) {
-  document("family 'F' { popup='a' popup='b' }");
-  vqc_add_stub_cache("a");
-  expect_each(heading(kTitle, "F") + always(popup_stub("b") + "\n"), write_popup_functions);
+TEST_F(PopupFunctions, ThatWereCarriedOverAreNotWritten) {
+  describe("family 'F' { popup='a' popup='b' }");
+  expect_each(heading(kTitle, "F") + always(popup_stub("b") + "\n"), write_popup_functions,
+              {[](::Run& run) { run.kept_stubs.add("a"); }});
 }
 
 }  // namespace

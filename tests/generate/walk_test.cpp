@@ -3,58 +3,95 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 #include "generate/generate_support.h"
-#include "vqc/cmd/generate/file_finder.h"
 #include "vqc/cmd/generate/name_set.h"
+
+using namespace vqc;
 
 namespace {
 
 /// What a template makes of values.
 template <class Emit>
 std::string emitted(Emit emit_to) {
-  const TemporaryFolder folder;
-  const auto out = openfile((folder / "out").c_str(), "w");
-  emit_to(*out);
-  EXPECT_EQ(1, closefile(*out));
-  return read_file(folder / "out");
+  StringSink out;
+  emit_to(out);
+  EXPECT_TRUE(out.finish());
+  return out.text();
 }
 
 TEST(Emit, PutsValuesInPlaceOfNames) {
-  const Text name = "50%%";
-  EXPECT_EQ("{50%, 7, True,\t-}\n",
-            emitted([&](Stream& out) { emit<"{@NAME@, @NUMBER@, @FLAG@,\t@WORD@}\n">(out, name, 7, true, "-"); }));
+  EXPECT_EQ("{50%, 7, True,\t-}\n", emitted([](Sink& out) {
+              emit<"{@NAME@, @NUMBER@, @FLAG@,\t@WORD@}\n">(out, bind<"NAME">(printed("50%%")), bind<"NUMBER">(7),
+                                                            bind<"FLAG">(true), bind<"WORD">(ours("-")));
+            }));
 }
 
 TEST(Emit, BeginsAndEndsWithValues) {
-  EXPECT_EQ("ab", emitted([](Stream& out) { emit<"@A@@B@">(out, "a", "b"); }));
-  EXPECT_EQ("", emitted([](Stream& out) { emit<"">(out); }));
+  EXPECT_EQ("ab", emitted([](Sink& out) { emit<"@A@@B@">(out, bind<"A">(ours("a")), bind<"B">(ours("b"))); }));
+  EXPECT_EQ("", emitted([](Sink& out) { emit<"">(out); }));
 }
 
-TEST(Emit, NullHasAFallback) {
-  const Text null;
-  const Text x = "x%%";
-  EXPECT_EQ(
-      "0 x% (char *) 0 \"x%\"", emitted([&](Stream& out) {
-        emit<"@A@ @B@ @C@ @D@">(out, Or{null, "0"}, Or{x, "0"}, Quoted{null, "(char *) 0"}, Quoted{x, "(char *) 0"});
-      }));
+TEST(Emit, TakesValuesInAnyOrder) {
+  EXPECT_EQ("1 2 3", emitted([](Sink& out) { emit<"@A@ @B@ @C@">(out, bind<"C">(3), bind<"A">(1), bind<"B">(2)); }));
+}
+
+TEST(Emit, PutsAValueWhereverItsNameStands) {
+  EXPECT_EQ("x 1 x\n1x", emitted([](Sink& out) {
+              emit<"@NAME@ @N@ @NAME@\n@N@@NAME@">(out, bind<"N">(1), bind<"NAME">(ours("x")));
+            }));
+}
+
+TEST(Emit, TellsNamesApartOfWhichOneBeginsAnother) {
+  EXPECT_EQ("12", emitted([](Sink& out) { emit<"@AB@@A@">(out, bind<"A">(2), bind<"AB">(1)); }));
+}
+
+TEST(Emit, DoesNotLookForNamesInValues) {
+  EXPECT_EQ("@B@ @A@",
+            emitted([](Sink& out) { emit<"@A@ @B@">(out, bind<"A">(printed("@B@")), bind<"B">(ours("@A@"))); }));
+}
+
+TEST(Emit, PrintsTextsOfTheDocument) {
+  EXPECT_EQ("x% 0 ", emitted([](Sink& out) {
+              emit<"@A@ @B@ @C@">(out, bind<"A">(printed("x%%", "0")), bind<"B">(printed(nullptr, "0")),
+                                  bind<"C">(printed(nullptr)));
+            }));
+  EXPECT_EQ("<> <%s%n>", emitted([](Sink& out) {
+              emit<"<@A@> <@B@>">(out, bind<"A">(printed("", "0")), bind<"B">(printed("%s%n", "0")));
+            }));
+}
+
+TEST(Emit, QuotesTextsOfTheDocument) {
+  EXPECT_EQ("\"x%\" (char *) 0 \"\"", emitted([](Sink& out) {
+              emit<"@A@ @B@ @C@">(out, bind<"A">(quoted("x%%", "(char *) 0")), bind<"B">(quoted(nullptr, "(char *) 0")),
+                                  bind<"C">(quoted("", "(char *) 0")));
+            }));
 }
 
 TEST(Emit, VerbatimTextKeepsItsPerCentSigns) {
-  EXPECT_EQ("x%% 0 x%%_bits 0", emitted([](Stream& out) {
-              emit<"@A@ @B@ @C@ @D@">(out, Verbatim{"x%%"}, Verbatim{nullptr}, Suffixed{"x%%", "_bits"},
-                                      Suffixed{nullptr, "_bits"});
+  EXPECT_EQ("x%% 0 x%%_bits 0", emitted([](Sink& out) {
+              emit<"@A@ @B@ @C@ @D@">(out, bind<"A">(verbatim("x%%")), bind<"B">(verbatim(nullptr)),
+                                      bind<"C">(verbatim("x%%", "_bits")), bind<"D">(verbatim(nullptr, "_bits")));
+            }));
+}
+
+TEST(Emit, OurTextsKeepTheirPerCentSigns) {
+  EXPECT_EQ("100%% %s", emitted([](Sink& out) { emit<"@A@">(out, bind<"A">(ours("100%% %s"))); }));
+}
+
+TEST(Emit, OtherwiseTextsKeepTheirPerCentSigns) {
+  EXPECT_EQ("%% %%", emitted([](Sink& out) {
+              emit<"@A@ @B@">(out, bind<"A">(printed(nullptr, "%%")), bind<"B">(quoted(nullptr, "%%")));
             }));
 }
 
 class EachOnce : public GenerateTest {
  protected:
   /// The aliases that one family's walk visits; a repeat with a star.
-  static std::vector<std::string> visited(::Run& run, const char* family, bool write_repeats) {
-    std::vector<std::string> names;
-    const Heading heading(run, *family_ptr(family), "T");
-    each_once(family_ptr(family)->aliases, write_repeats, heading, [&](AliasDef& alias, bool repeat) {
+  Names visited(const ::Run& run, Done& done, const char* name, bool write_repeats) const {
+    Names names;
+    const Family& family = *document.families.find(name);
+    each_once(family.aliases, done, write_repeats, Heading(run, family, "T"), [&](const AliasDef& alias, bool repeat) {
       names.push_back(std::string(alias.name.view()) + (repeat ? "*" : ""));
     });
     return names;
@@ -62,54 +99,24 @@ class EachOnce : public GenerateTest {
 };
 
 TEST_F(EachOnce, LeavesOutOrMarksRepeats) {
-  document("family 'F' { alias='a' alias='b' } family 'G' { alias='b' alias='c' }");
-  emitted([](Stream& out) {
-    ::Run run{out, false, false};
-    for (const bool write_repeats : {false, true}) {
-      clear_done(alias_pool);
-      EXPECT_EQ((Names{"a", "b"}), visited(run, "F", write_repeats));
-      EXPECT_EQ(write_repeats ? Names({"b*", "c"}) : Names({"c"}), visited(run, "G", write_repeats));
-    }
-  });
+  describe("family 'F' { alias='a' alias='b' } family 'G' { alias='b' alias='c' }");
+  StringSink out;
+  const ::Run run{document, {}, {}, out};
+  for (const bool write_repeats : {false, true}) {
+    Done done;
+    EXPECT_EQ((Names{"a", "b"}), visited(run, done, "F", write_repeats));
+    EXPECT_EQ(write_repeats ? Names({"b*", "c"}) : Names({"c"}), visited(run, done, "G", write_repeats));
+  }
 }
 
 TEST_F(EachOnce, ShowsTheHeadingBeforeTheFirstVisitOnly) {
-  document("family 'F' { alias='a' alias='b' } family 'G' { alias='a' }");
-  EXPECT_EQ("/*\n** T\n*/\n\n/* Family: F */\n", emitted([](Stream& out) {
-              ::Run run{out, true, false};
-              clear_done(alias_pool);
-              visited(run, "F", false);
-              visited(run, "G", false);
+  describe("family 'F' { alias='a' alias='b' } family 'G' { alias='a' }");
+  EXPECT_EQ("/*\n** T\n*/\n\n/* Family: F */\n", emitted([&](Sink& out) {
+              const ::Run run{document, {}, {.comment = true}, out};
+              Done done;
+              visited(run, done, "F", false);
+              visited(run, done, "G", false);
             }));
-}
-
-TEST(FileFinder, FindsWhatTheSystemWouldFind) {
-  const TemporaryFolder folder;
-  const std::string file = folder.with("File.h", "");
-  std::filesystem::create_directory(folder / "sub");
-  std::filesystem::create_symlink("File.h", folder / "link.h");
-  std::filesystem::create_symlink("missing", folder / "dangling.h");
-  const std::string paths[] = {file,
-                               folder / "file.h",
-                               folder / "link.h",
-                               folder / "dangling.h",
-                               folder / "sub",
-                               folder / "sub/",
-                               folder / "sub/../File.h",
-                               folder / "File.h/",
-                               folder / "missing/File.h",
-                               folder / "//File.h",
-                               folder.path(),
-                               folder / ".",
-                               folder / "..",
-                               "",
-                               "/",
-                               "."};
-  FileFinder finder;
-  for (int round = 0; round < 50; ++round) {  // often enough that it begins to list folders
-    for (const std::string& path : paths)
-      EXPECT_EQ(access(path.c_str(), F_OK) == 0, finder.exists(path.c_str())) << path;
-  }
 }
 
 TEST(NameSet, TakesEachNameOnceAndNoEmptyOne) {
@@ -121,6 +128,17 @@ TEST(NameSet, TakesEachNameOnceAndNoEmptyOne) {
   EXPECT_TRUE(names.add("b"));
   EXPECT_TRUE(names.contains("a"));
   EXPECT_FALSE(names.contains("c"));
+}
+
+TEST(Numbering, GivesPlacesInTurn) {
+  Numbering numbers;
+  EXPECT_EQ(-1, numbers.of("a"));
+  EXPECT_EQ(0, numbers.add("a"));
+  EXPECT_EQ(1, numbers.add("b"));
+  EXPECT_EQ(0, numbers.of("a"));
+  EXPECT_EQ(1, numbers.of("b"));
+  EXPECT_EQ(-1, numbers.of("c"));
+  EXPECT_EQ(-1, numbers.of(nullptr));
 }
 
 }  // namespace

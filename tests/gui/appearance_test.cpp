@@ -15,6 +15,8 @@
 #include "gui/session.h"
 #include "gui/widget_tables.h"
 
+using namespace vqc;
+
 // How the windows look, as it can be measured on the screen.
 
 namespace {

@@ -4,6 +4,8 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 
+using namespace vqc;
+
 // What all lists with arrows have in common.
 
 namespace {

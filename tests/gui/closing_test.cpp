@@ -3,6 +3,8 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 
+using namespace vqc;
+
 // The window manager's Close, on every dialog.
 
 namespace {

@@ -7,6 +7,8 @@
 #include "gui/hands.h"
 #include "libkel/message.h"
 
+using namespace vqc;
+
 const char document_for_dialogs[] =
     "VQconfig\nwidget 'W' {\n}\nenumeration 'E' {\nenumentry 'e' {\n}\n}\n"
     "family 'F' {\nwidget='W'\nenumeration='E'\n}\n";

@@ -7,6 +7,8 @@
 
 #include "gui/session.h"
 
+using namespace vqc;
+
 // Every dialog, and how a user comes to it.
 
 enum class Rank { modeless, modal };

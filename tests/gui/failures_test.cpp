@@ -4,6 +4,8 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 
+using namespace vqc;
+
 // What happens when files cannot be read or written: a message, and the document in memory is kept.
 
 namespace {

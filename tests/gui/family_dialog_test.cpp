@@ -2,6 +2,8 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 
+using namespace vqc;
+
 // The frame of the family dialog, and its page of initialisation settings.
 
 namespace {

@@ -6,6 +6,8 @@
 #include "gui/session.h"
 #include "libkel/leafnm.h"
 
+using namespace vqc;
+
 namespace {
 
 const char athena[] = "VQconfig\nwidget 'Label' {\n}\nfamily 'Athena' {\nwidget='Label'\n}\n";
@@ -53,7 +55,7 @@ TEST_F(FileCommands, NewLeavesNoFamilyCurrent) {
 TEST_F(FileCommands, NewClearsTheOptionsEvenIfTheirDialogWasNeverSeen) {
   open_document("VQconfig\ngenerate_popup_string='my_popups'\nfamily 'F' {\n}\n");
   press("family_newb");
-  EXPECT_STREQ("popups", vqc_get_popups_variable());
+  EXPECT_EQ("popups", vqc_get_popups_variable());
   EXPECT_EQ("VQconfig\n", saved());
 }
 
@@ -67,7 +69,7 @@ TEST_F(FileCommands, OpenReplacesTheDocument) {
   EXPECT_FALSE(is_shown("open_dialog"));
   EXPECT_EQ(Items{"Demo"}, items("family_selection"));
   EXPECT_EQ("vqconfig: demo.vqc", title());
-  EXPECT_EQ(other, save_file.view());
+  EXPECT_EQ(other, save_file.value_or(""));
   EXPECT_FALSE(dirty);
   EXPECT_EQ(nullptr, family_getcurrent());
   EXPECT_EQ("", saved_item("widget 'Label'"));
@@ -76,7 +78,7 @@ TEST_F(FileCommands, OpenReplacesTheDocument) {
 TEST_F(FileCommands, OpenTakesTheStopListOfTheNewDocumentOnly) {
   open_document("VQconfig\nstop_list='XmForm'\n");
   open_file(folder.with("demo.vqc", demo));
-  EXPECT_FALSE(excluded_classes);
+  EXPECT_FALSE(edited_document.excluded_classes);
 }
 
 TEST_F(FileCommands, OpenThatIsCancelledChangesNothing) {
@@ -138,7 +140,7 @@ TEST_F(FileCommands, ReadAddsToTheDocumentAndLeavesItsName) {
   EXPECT_FALSE(is_shown("read_dialog"));
   EXPECT_EQ((Items{"Athena", "Demo"}), items("family_selection"));
   EXPECT_EQ("vqconfig: document.vqc", title());
-  EXPECT_EQ(folder / "document.vqc", save_file.view());
+  EXPECT_EQ(folder / "document.vqc", save_file.value_or(""));
   EXPECT_TRUE(dirty);
   EXPECT_EQ(nullptr, family_getcurrent());
 }
@@ -158,7 +160,7 @@ TEST_F(FileCommands, ReadOfAMissingFileIsReportedAndChangesNothing) {
   EXPECT_NE(std::string::npos, error_shown().find("missing.vqc"));
   EXPECT_EQ(Items{"Athena"}, items("family_selection"));
   EXPECT_EQ("vqconfig: document.vqc", title());
-  EXPECT_EQ(folder / "document.vqc", save_file.view());
+  EXPECT_EQ(folder / "document.vqc", save_file.value_or(""));
   EXPECT_FALSE(dirty);
 }
 
@@ -279,7 +281,7 @@ TEST_F(FileCommands, ADocumentNamedFromTheWorkingDirectoryHasItsFolder) {
   press("family_saveasb");
   EXPECT_EQ((Shown{folder / "sub/", "mine.vqc"}), shown_in("save_fsb"));
   press_ok("save_fsb");
-  EXPECT_EQ(folder / "sub/mine.vqc", save_file.view());
+  EXPECT_EQ(folder / "sub/mine.vqc", save_file.value_or(""));
 }
 
 TEST_F(FileCommands, TheFileBoxesOpenSomewhereWhenTheFolderHasGone) {
@@ -297,11 +299,11 @@ TEST_F(FileCommands, TypingReplacesTheNameThatSaveAsOffers) {
   for (const char* name : {"first.vqc", "second.vqc"}) {
     press("family_saveasb");
     ASSERT_TRUE(has_keyboard("save_dialog"));
-    EXPECT_EQ(leafnm(save_file.c_str()), text("save_fsb"));
+    EXPECT_EQ(leafnm(save_file->c_str()), text("save_fsb"));
     type(name);
     EXPECT_EQ(name, text("save_fsb"));
     key("Return");
-    EXPECT_EQ(folder / name, save_file.view());
+    EXPECT_EQ(folder / name, save_file.value_or(""));
   }
 }
 
@@ -311,7 +313,7 @@ TEST_F(FileCommands, ANameThatSaveAsOffersAndCannotShowIsTakenAsItIs) {
   press("family_saveasb");
   EXPECT_EQ("d?.vqc", text("save_fsb"));
   press_ok("save_fsb");
-  EXPECT_EQ(folder / "d\xfc.vqc", save_file.view());
+  EXPECT_EQ(folder / "d\xfc.vqc", save_file.value_or(""));
   EXPECT_NE(demo, read_file(folder / "d\xfc.vqc"));
 }
 
@@ -339,7 +341,7 @@ TEST_F(FileCommands, ReadWithoutANameIsToldAndCloses) {
   expect_no_file_told();
   EXPECT_FALSE(is_shown("read_dialog"));
   EXPECT_EQ(Items{"Athena"}, items("family_selection"));
-  EXPECT_EQ(folder / "document.vqc", save_file.view());
+  EXPECT_EQ(folder / "document.vqc", save_file.value_or(""));
   EXPECT_FALSE(dirty);
 }
 

@@ -18,6 +18,8 @@
 #include "gui/session.h"
 #include "gui/widget_tables.h"
 
+using namespace vqc;
+
 // Everything grows with the letters: with the resolution that the X server states, and with that which a user sets for
 // letters alone. The tests run once for each resolution of the server; DPI in the environment says which.
 

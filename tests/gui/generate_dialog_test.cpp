@@ -8,6 +8,8 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 
+using namespace vqc;
+
 namespace {
 
 const char document[] =

@@ -25,6 +25,8 @@
 #include "support/windows.h"
 #include "vqc/cmd/editors/kit/shown_names.h"
 
+using namespace vqc;
+
 namespace {
 
 struct Point {
@@ -372,7 +374,7 @@ std::string saved() {
   } else {
     save_as("saved.vqc");
   }
-  return read_file(save_file.c_str());
+  return read_file(save_file->c_str());
 }
 
 std::string saved_item(const std::string& beginning) {

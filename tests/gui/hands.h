@@ -7,6 +7,8 @@
 
 #include "gui/session.h"
 
+using namespace vqc;
+
 // What a user does: with real mouse and keyboard, and, where that is not the point, by what they lead to.
 
 /// Presses a mouse button in the middle of a widget, which must be there to be seen.

@@ -21,6 +21,8 @@
 #include "support/windows.h"
 #include "vqc/cmd/editors/program/help.h"
 
+using namespace vqc;
+
 // Help as a user has it: the installed viewer with the installed pages, next to the dialogs.
 
 namespace {

@@ -9,6 +9,8 @@
 #include "gui/session.h"
 #include "libkel/message.h"
 
+using namespace vqc;
+
 // Letters with Ctrl, which mean the same in every window, and never become text.
 
 namespace {

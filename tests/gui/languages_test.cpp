@@ -23,6 +23,8 @@
 #include "gui/session.h"
 #include "gui/widget_tables.h"
 
+using namespace vqc;
+
 // The resource file of each language: a text for everything that shows one.
 
 namespace {

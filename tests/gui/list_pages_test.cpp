@@ -4,6 +4,8 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 
+using namespace vqc;
+
 // What the seven lists of a family's dialog have in common.
 
 namespace {

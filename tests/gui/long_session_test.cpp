@@ -4,6 +4,8 @@
 
 #include "generate/generate_support.h"
 
+using namespace vqc;
+
 // A day's work: a document is described from nothing but what another one shares, saved, generated from, closed and
 // opened again.
 

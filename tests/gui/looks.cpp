@@ -13,6 +13,8 @@
 
 #include "gui/parts.h"
 
+using namespace vqc;
+
 namespace {
 
 std::string taken(char* text) {

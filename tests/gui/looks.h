@@ -6,6 +6,8 @@
 
 #include "gui/session.h"
 
+using namespace vqc;
+
 // What a user sees.
 
 using Items = std::vector<std::string>;

@@ -9,6 +9,8 @@
 
 #include <Xm/CutPaste.h>
 
+using namespace vqc;
+
 namespace {
 
 const char two_families[] = "VQconfig\nfamily 'Athena' {\n}\nfamily 'Demo' {\n}\n";

@@ -2,6 +2,7 @@
 
 #include <malloc.h>
 
+#include <cstddef>
 #include <cstdlib>
 #include <limits>
 #include <new>
@@ -11,11 +12,16 @@ namespace {
 constexpr std::size_t kUnlimited = std::numeric_limits<std::size_t>::max() / 2;
 std::size_t left = kUnlimited;
 
-/// Null, or what the handler throws, when there is not enough left.
-void* take(std::size_t size) {
-  void* memory = size <= left ? std::malloc(size) : nullptr;
-  if (memory) left -= malloc_usable_size(memory);
-  return memory;
+/// Throws, or the handler does, when there is not enough left.
+void* take(std::size_t size, std::size_t alignment = alignof(std::max_align_t)) {
+  const std::size_t whole = (size + alignment - 1) / alignment * alignment;
+  void* memory = size <= left ? std::aligned_alloc(alignment, whole) : nullptr;
+  if (memory) {
+    left -= malloc_usable_size(memory);
+    return memory;
+  }
+  if (auto* handler = std::get_new_handler()) handler();
+  throw std::bad_alloc();
 }
 
 void give_back(void* memory) {
@@ -25,11 +31,9 @@ void give_back(void* memory) {
 
 }  // namespace
 
-void* operator new(std::size_t size) {
-  void* memory = take(size);
-  if (memory) return memory;
-  if (auto* handler = std::get_new_handler()) handler();
-  throw std::bad_alloc();
+void* operator new(std::size_t size) { return take(size); }
+void* operator new(std::size_t size, std::align_val_t alignment) {
+  return take(size, static_cast<std::size_t>(alignment));
 }
 
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept try {
@@ -40,6 +44,8 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept try {
 
 void operator delete(void* memory) noexcept { give_back(memory); }
 void operator delete(void* memory, std::size_t) noexcept { give_back(memory); }
+void operator delete(void* memory, std::align_val_t) noexcept { give_back(memory); }
+void operator delete(void* memory, std::size_t, std::align_val_t) noexcept { give_back(memory); }
 void operator delete(void* memory, const std::nothrow_t&) noexcept { give_back(memory); }
 
 ShortMemory::ShortMemory(std::size_t bytes) { left = bytes; }

@@ -3,6 +3,8 @@
 #include "gui/session.h"
 #include "libkel/message.h"
 
+using namespace vqc;
+
 // The error box.
 
 namespace {

@@ -11,6 +11,8 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 
+using namespace vqc;
+
 // What all lists of names have in common. A click means exactly the name that is there: also one that the locale has no
 // characters for, or that looks like its neighbour.
 

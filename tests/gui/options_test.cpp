@@ -2,6 +2,8 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 
+using namespace vqc;
+
 namespace {
 
 struct OptionRow {
@@ -95,8 +97,8 @@ TEST_F(Options, OnlyTheFirstWordOfAFieldCounts) {
   enter("family_table_text", "  my_table extra");
   enter("popup_array_text", "\tp\tq");
   click("options_ok");
-  EXPECT_STREQ("my_table", vqc_get_family_table_variable());
-  EXPECT_STREQ("p", vqc_get_popups_variable());
+  EXPECT_EQ("my_table", vqc_get_family_table_variable());
+  EXPECT_EQ("p", vqc_get_popups_variable());
 }
 
 TEST_F(Options, AnEmptyFieldGoesBackToTheDefault) {
@@ -104,8 +106,8 @@ TEST_F(Options, AnEmptyFieldGoesBackToTheDefault) {
   enter("popup_array_text", "");
   enter("alias_array_text", " \t ");
   press("options_ok");
-  EXPECT_STREQ("popups", vqc_get_popups_variable());
-  EXPECT_STREQ("of_resource", vqc_get_aliases_variable());
+  EXPECT_EQ("popups", vqc_get_popups_variable());
+  EXPECT_EQ("of_resource", vqc_get_aliases_variable());
   const std::string document = saved();
   EXPECT_EQ(std::string::npos, document.find("generate_popup_string"));
   EXPECT_EQ(std::string::npos, document.find("generate_alias_string"));

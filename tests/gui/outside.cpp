@@ -14,6 +14,8 @@
 
 #include "support/windows.h"
 
+using namespace vqc;
+
 namespace {
 
 void pause_a_little() { std::this_thread::sleep_for(std::chrono::milliseconds(20)); }

@@ -8,6 +8,8 @@
 
 #include "gui/session.h"
 
+using namespace vqc;
+
 // The program and its display as another process sees them.
 
 /// Waits until a condition holds; false when it has not come true in time.

@@ -6,6 +6,8 @@
 
 #include "support/windows.h"
 
+using namespace vqc;
+
 Widget list_in(const std::string& list_or_box) {
   Widget w = widget(list_or_box);
   return XmIsList(w) ? w : widget(list_or_box + "*ItemsList");

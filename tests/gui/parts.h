@@ -5,6 +5,8 @@
 
 #include "gui/session.h"
 
+using namespace vqc;
+
 // The parts of compound widgets.
 
 /// The list of that name, or the one in the selection box of that name.

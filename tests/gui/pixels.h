@@ -5,6 +5,8 @@
 
 #include "gui/session.h"
 
+using namespace vqc;
+
 // What a widget looks like on the screen.
 
 /// A part of the screen, which has to be in sight.

@@ -8,6 +8,8 @@
 #include "vqc/cmd/editors/kit/placement.h"
 #include "vqc/cmd/editors/kit/window_memory.h"
 
+using namespace vqc;
+
 namespace vqc::editors {
 static void PrintTo(const ScreenArea& area, std::ostream* out) { *out << geometry_of(area); }
 }  // namespace vqc::editors

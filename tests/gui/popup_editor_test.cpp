@@ -4,6 +4,8 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 
+using namespace vqc;
+
 namespace {
 
 const char document[] =

@@ -5,6 +5,8 @@
 
 #include "gui/outside.h"
 
+using namespace vqc;
+
 // The program itself, as a process of its own, driven by its windows and the keyboard.
 
 namespace {

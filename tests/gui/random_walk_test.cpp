@@ -5,7 +5,9 @@
 #include "gui/hands.h"
 #include "gui/looks.h"
 #include "gui/session.h"
-#include "vqc/cmd/model/kinds.h"
+#include "vqc/cmd/editors/kit/given_names.h"
+
+using namespace vqc;
 
 // Thousands of things that a user might do, in any order. After each, every list shows what the model holds.
 
@@ -86,7 +88,7 @@ class RandomWalk : public Session {
 
   void expect_lists_show_the_model() const {
     Family* family = family_getcurrent();
-    EXPECT_EQ(names_in(family_pool.list), items("family_selection"));
+    EXPECT_EQ(names_in(edited_document.families), items("family_selection"));
     if (!find_widget("entity_dialog")) return;
     expect_list("widgetlist_selection", family ? names_in(family->widgets) : Names());
     expect_list("enumlist_selection", family ? names_in(family->enumerations) : Names());
@@ -99,8 +101,8 @@ class RandomWalk : public Session {
     expect_list("we_resource_list", shown_widget ? names_in(shown_widget->record->resource_definitions) : Names());
     const auto* shown_enum = enum_kind.current();
     expect_list("enumedit_selection", shown_enum ? names_in(shown_enum->record->entries) : Names());
-    pages_.expect_shown(names_in(page_pool.list));
-    popups_.expect_shown(names_in(popup_pool.list));
+    pages_.expect_shown(names_in(edited_document.pages));
+    popups_.expect_shown(names_in(edited_document.popups));
   }
 
  private:

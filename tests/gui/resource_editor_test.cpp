@@ -6,6 +6,8 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 
+using namespace vqc;
+
 // The lower half of the widget editor: the resources of the widget class, one at a time.
 
 namespace {

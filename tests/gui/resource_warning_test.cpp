@@ -4,6 +4,8 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 
+using namespace vqc;
+
 // The warning before changes to a resource are lost.
 
 namespace {

@@ -4,6 +4,8 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 
+using namespace vqc;
+
 // The question before New, Open and Exit when the document has changed.
 
 namespace {

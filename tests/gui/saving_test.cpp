@@ -2,6 +2,8 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 
+using namespace vqc;
+
 // What lands in the file, entered by hand.
 
 namespace {

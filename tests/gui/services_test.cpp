@@ -6,6 +6,8 @@
 #include "vqc/cmd/editors/program/links.h"
 #include "vqc/cmd/editors/title.h"
 
+using namespace vqc;
+
 // Small services of the whole program: the callbacks that interface code can name, the busy cursor and the titles.
 
 using namespace vqc::editors;

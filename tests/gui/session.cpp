@@ -13,6 +13,8 @@
 
 using namespace vqc::editors;
 
+using namespace vqc;
+
 std::optional<int> exit_status;
 std::vector<std::string> warnings;
 

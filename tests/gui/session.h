@@ -18,16 +18,17 @@
 #include "support/files.h"
 #include "support/model.h"
 #include "support/windows.h"
+#include "vqc/cmd/editors/document_files.h"
+#include "vqc/cmd/editors/kit/given_names.h"
+#include "vqc/cmd/editors/kit/given_options.h"
 #include "vqc/cmd/editors/kit/main_shell.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/kit/widgets.h"
 #include "vqc/cmd/editors/program/session.h"
 
-using vqc::editors::children_of;
-using vqc::editors::display;
-using vqc::editors::main_shell;
-using vqc::editors::session_hooks;
-using vqc::editors::shell_around;
+using namespace vqc;
+
+using namespace vqc::editors;
 
 /// A test of a session with the program, inside the test's process: one session per process, since the toolkit keeps
 /// state for life. Fails when the toolkit prints a warning.

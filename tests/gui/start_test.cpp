@@ -3,7 +3,9 @@
 #include "gui/hands.h"
 #include "gui/looks.h"
 #include "gui/session.h"
-#include "vqc/cmd/model/widgetedit.h"
+#include "vqc/cmd/editors/kit/given_names.h"
+
+using namespace vqc;
 
 namespace {
 
@@ -31,7 +33,7 @@ TEST_F(Start, LoadsTheDocumentOfTheCommandLine) {
   open_document(athena);
   EXPECT_EQ(Items{"Athena"}, items("family_selection"));
   EXPECT_EQ("vqconfig: document.vqc", title());
-  EXPECT_EQ(folder / "document.vqc", save_file.view());
+  EXPECT_EQ(folder / "document.vqc", save_file.value_or(""));
   EXPECT_FALSE(dirty);
   EXPECT_EQ(nullptr, family_getcurrent());
   EXPECT_EQ("", error_shown());
@@ -41,7 +43,7 @@ TEST_F(Start, ARelativeNameIsTakenAsItStands) {
   folder.with("athena.vqc", athena);
   start({"athena.vqc", "ignored.vqc"});
   EXPECT_EQ("vqconfig: athena.vqc", title());
-  EXPECT_EQ("athena.vqc", save_file.view());
+  EXPECT_EQ("athena.vqc", save_file.value_or(""));
 }
 
 TEST_F(Start, ADocumentThatIsMissingIsReportedAndTheWindowStays) {
@@ -130,8 +132,8 @@ TEST_F(Start, TheUsersTitlesComeFirst) {
 
 TEST_F(Start, AnEmptyNameResourceCountsAsNone) {
   start({"-xrm", "VQconfig.familyTableString:", "-xrm", "VQconfig.xwidgetArrayString: mine"});
-  EXPECT_STREQ("xw_families", vqc_get_family_table_variable());
-  EXPECT_STREQ("mine", vqc_get_xwidgets_variable());
+  EXPECT_EQ("xw_families", vqc_get_family_table_variable());
+  EXPECT_EQ("mine", vqc_get_xwidgets_variable());
 }
 
 class NoResourceFile : public Session {

@@ -2,6 +2,8 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 
+using namespace vqc;
+
 namespace {
 
 struct StopRow {
@@ -101,7 +103,7 @@ TEST_F(StopList, EachToggleStandsForItsClass) {
     toggle(name, true);
     press("stop_list_apply");
     toggle(name, false);
-    EXPECT_EQ(class_name, excluded_classes.view()) << name;
+    EXPECT_EQ(class_name, edited_document.excluded_classes.view()) << name;
   }
 }
 
@@ -141,7 +143,7 @@ TEST_F(StopList, ApplyWithEverythingOffStoresNone) {
   edit("stop_list = 'XmForm'\n");
   toggle("stop_form", false);
   press("stop_list_apply");
-  EXPECT_FALSE(excluded_classes);
+  EXPECT_FALSE(edited_document.excluded_classes);
   EXPECT_EQ("", saved_list());
 }
 

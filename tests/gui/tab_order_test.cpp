@@ -11,6 +11,8 @@
 #include "gui/session.h"
 #include "gui/widget_tables.h"
 
+using namespace vqc;
+
 // Where the Tab key goes: through each window as it is read.
 
 namespace {

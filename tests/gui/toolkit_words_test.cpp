@@ -8,6 +8,8 @@
 
 #include "vqc/cmd/application/toolkit_words.h"
 
+using namespace vqc;
+
 // The words that vqconfig leaves to the toolkit are those that the toolkit takes.
 
 namespace {

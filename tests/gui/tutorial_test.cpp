@@ -2,6 +2,8 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 
+using namespace vqc;
+
 // The tutorial of the help pages, done step by step as it says.
 
 namespace {

@@ -2,6 +2,8 @@
 #include "gui/looks.h"
 #include "gui/parts.h"
 
+using namespace vqc;
+
 namespace {
 
 /// As many families as no window has room for.

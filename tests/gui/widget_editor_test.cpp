@@ -2,6 +2,8 @@
 #include "gui/looks.h"
 #include "gui/session.h"
 
+using namespace vqc;
+
 // The upper half of the widget editor: the fields of the widget class itself.
 
 namespace {

@@ -10,6 +10,8 @@
 #include "gui/session.h"
 #include "gui/widget_tables.h"
 
+using namespace vqc;
+
 // What resource files and drivers from outside rely on: the names of the widgets and what hangs on them.
 
 namespace {

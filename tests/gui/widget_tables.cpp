@@ -7,6 +7,8 @@
 #include "gui/looks.h"
 #include "libkel/message.h"
 
+using namespace vqc;
+
 namespace {
 
 const char document[] =

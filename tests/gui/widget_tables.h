@@ -5,6 +5,8 @@
 
 #include "gui/session.h"
 
+using namespace vqc;
+
 /// What the program promises of one of its widgets to resource files and to drivers from outside.
 struct PromisedWidget {
   const char* name;

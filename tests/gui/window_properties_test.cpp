@@ -7,6 +7,8 @@
 #include "gui/looks.h"
 #include "support/windows.h"
 
+using namespace vqc;
+
 namespace {
 
 class WindowProperties : public Session {

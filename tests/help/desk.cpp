@@ -15,6 +15,8 @@
 
 #include "desktop/search_path.h"
 
+using namespace vqc;
+
 namespace {
 
 using Clock = std::chrono::steady_clock;

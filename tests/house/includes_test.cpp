@@ -44,9 +44,9 @@ TEST(Include, IsNotSoughtInCommentsAndText) {
 }
 
 TEST(Include, MayLookToTheLeftAndAtItsOwnLayer) {
-  EXPECT_EQ("", wrong_include("vqc/cmd/savefile/parse.cpp", "\"vqc/cmd/savefile/lexer.h\""));
-  EXPECT_EQ("", wrong_include("vqc/cmd/savefile/parse.cpp", "\"vqc/cmd/model/alias.h\""));
-  EXPECT_EQ("", wrong_include("vqc/cmd/savefile/parse.cpp", "\"libkel/text.h\""));
+  EXPECT_EQ("", wrong_include("vqc/cmd/savefile/load.cpp", "\"vqc/cmd/savefile/lexer.h\""));
+  EXPECT_EQ("", wrong_include("vqc/cmd/savefile/load.cpp", "\"vqc/cmd/model/document.h\""));
+  EXPECT_EQ("", wrong_include("vqc/cmd/savefile/load.cpp", "\"libkel/text.h\""));
   EXPECT_EQ("", wrong_include("vqc/cmd/editors/program/help.cpp", "\"help/client/help.h\""));
   EXPECT_EQ("", wrong_include("vqc/cmd/editors/program/session.cpp", "\"vqc/cmd/application/batch.h\""));
   EXPECT_EQ("", wrong_include("help/client/help.cpp", "\"libkel/message.h\""));
@@ -61,14 +61,14 @@ TEST(Include, MayNotLookToTheRight) {
   };
   const Look looks[] = {
       {"libkel/text.cpp", "\"vqc/cmd/model/records.h\""},
-      {"vqc/cmd/model/alias.h", "\"vqc/cmd/savefile/util.h\""},
-      {"vqc/cmd/model/alias.h", "\"help/client/help.h\""},
+      {"vqc/cmd/model/document.h", "\"vqc/cmd/savefile/util.h\""},
+      {"vqc/cmd/model/document.h", "\"help/client/help.h\""},
       {"vqc/cmd/savefile/save.cpp", "\"vqc/cmd/generate/generate.h\""},
       {"vqc/cmd/generate/generate.cpp", "\"vqc/cmd/editors/kit/dialog.h\""},
       {"vqc/cmd/editors/kit/dialog.cpp", "\"vqc/cmd/editors/entity.h\""},
       {"vqc/cmd/editors/open.cpp", "\"vqc/cmd/application/batch.h\""},
       {"vqc/cmd/editors/open.cpp", "\"help/client/help.h\""},
-      {"help/client/help.cpp", "\"vqc/cmd/model/alias.h\""},
+      {"help/client/help.cpp", "\"vqc/cmd/model/document.h\""},
       {"help/viewer/vqhelp.cpp", "\"help/client/help.h\""},
       {"help/protocol.cpp", "\"help/viewer/client.h\""},
       {"vqc/cmd/application/batch.cpp", "\"help/viewer/page.h\""},
@@ -83,8 +83,8 @@ TEST(Include, MayNotLookToTheRight) {
 
 TEST(Include, IsSpelledFromTheSourceFolder) {
   EXPECT_NE("", wrong_include("libkel/text.cpp", "\"text.h\""));
-  EXPECT_NE("", wrong_include("libkel/text.cpp", "\"../vqc/cmd/model/alias.h\""));
-  EXPECT_NE("", wrong_include("libkel/text.cpp", "<vqc/cmd/model/alias.h>"));
+  EXPECT_NE("", wrong_include("libkel/text.cpp", "\"../vqc/cmd/model/document.h\""));
+  EXPECT_NE("", wrong_include("libkel/text.cpp", "<vqc/cmd/model/document.h>"));
 }
 
 TEST(Include, OfMotifIsForThoseWhoShowSomething) {
@@ -93,7 +93,7 @@ TEST(Include, OfMotifIsForThoseWhoShowSomething) {
     EXPECT_EQ("", wrong_include(path, "<Xm/Xm.h>"));
   }
   for (const char* path :
-       {"libkel/text.h", "help/client/help.cpp", "vqc/cmd/model/alias.h", "vqc/cmd/savefile/save.cpp",
+       {"libkel/text.h", "help/client/help.cpp", "vqc/cmd/model/document.h", "vqc/cmd/savefile/save.cpp",
         "vqc/cmd/generate/generate.cpp", "vqc/cmd/application/VQconfig.cpp"}) {
     EXPECT_NE("", wrong_include(path, "<Xm/Xm.h>")) << path;
     EXPECT_NE("", wrong_include(path, "\"Xm/Xm.h\"")) << path;
@@ -105,7 +105,7 @@ TEST(Include, OfXIsForThemAndTheHelpClient) {
                            "help/client/help.cpp", "help/viewer/vqhelp.cpp"}) {
     EXPECT_EQ("", wrong_include(path, "<X11/Intrinsic.h>"));
   }
-  for (const char* path : {"libkel/text.cpp", "vqc/cmd/model/alias.h", "vqc/cmd/savefile/save.cpp",
+  for (const char* path : {"libkel/text.cpp", "vqc/cmd/model/document.h", "vqc/cmd/savefile/save.cpp",
                            "vqc/cmd/generate/generate.cpp", "vqc/cmd/application/VQconfig.cpp"}) {
     EXPECT_NE("", wrong_include(path, "<X11/Intrinsic.h>")) << path;
     EXPECT_NE("", wrong_include(path, "\"X11/Xlib.h\"")) << path;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace vqc;
+
 namespace {
 
 TEST(Leafnm, IsWhatFollowsTheLastSlash) {

@@ -8,6 +8,8 @@
 
 #include "support/messages.h"
 
+using namespace vqc;
+
 namespace {
 
 class Message : public testing::Test {

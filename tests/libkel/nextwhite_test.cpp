@@ -4,6 +4,8 @@
 
 #include "libkel/overwhite.h"
 
+using namespace vqc;
+
 namespace {
 
 TEST(Nextwhite, StopsAtEveryKindOfWhiteSpace) {

@@ -4,35 +4,44 @@
 #include <string>
 
 #include "support/document.h"
-#include "vqc/cmd/model/kinds.h"
+#include "support/files.h"
 #include "vqc/cmd/savefile/lexer.h"
-#include "vqc/cmd/savefile/util.h"
+
+using namespace vqc;
 
 namespace {
 
 const std::string kExamples = std::string(TEST_DATA) + "/../examples/";
 
-using Examples = DocumentTest;
+class Examples : public DocumentTest {
+ protected:
+  /// Reads a text that must have no fault.
+  void read(const std::string& text) {
+    EXPECT_TRUE(read_document(text).has_header);
+    EXPECT_EQ(Findings{}, diagnostics.findings());
+  }
+};
 
 TEST_F(Examples, AthenaIsWrittenAsItStands) {
   const std::string text = read_file(kExamples + "Athena.vqc");
-  ASSERT_EQ(1, read_document(text));
-  EXPECT_EQ(0, parse_errors);
-  EXPECT_NE(nullptr, widget_pool.ptr("labelWidgetClass"));
-  EXPECT_EQ(text, written_document());
+  read(text);
+  EXPECT_NE(nullptr, document.widgets.find("labelWidgetClass"));
+  EXPECT_EQ(text, saved(document));
 }
 
 TEST_F(Examples, TourIsReadToItsEndAndKeepsItsMeaning) {
-  ASSERT_EQ(1, read_document(read_file(kExamples + "tour.vqc")));
-  EXPECT_EQ(0, parse_errors);
-  EXPECT_GT(family_count(), 0);
-  const std::string once = written_document();
-  ASSERT_EQ(1, read_document(once));
-  EXPECT_EQ(once, written_document());
+  read(read_file(kExamples + "tour.vqc"));
+  EXPECT_GT(document.families.size(), 0U);
+  const std::string once = saved(document);
+  document.clear();
+  read(once);
+  EXPECT_EQ(once, saved(document));
 }
 
 TEST_F(Examples, TourHasEveryKeyword) {
-  Lexer lexer(openfile((kExamples + "tour.vqc").c_str(), "r"));
+  const auto tour = Source::read((kExamples + "tour.vqc").c_str());
+  ASSERT_TRUE(tour);
+  Lexer lexer(*tour);
   std::set<int> found;
   for (lexer.next_token(); !lexer.is(SaveFileToken::end_of_input); lexer.next_token()) {
     if (lexer.is(SaveFileToken::keyword)) found.insert(static_cast<int>(lexer.keyword()));

@@ -7,6 +7,8 @@
 
 #include "savefile/keyword_table.h"
 
+using namespace vqc;
+
 namespace {
 
 TEST(Keywords, AreFoundWithTheirNumbers) {
@@ -20,7 +22,7 @@ TEST(Keywords, AreFoundWithTheirNumbers) {
 
 TEST(Keywords, AreSpelledAsTheyAreFound) {
   for (const KeywordRow& row : keyword_table) {
-    EXPECT_STREQ(row.word, keyword_text(static_cast<Kw>(row.number)));
+    EXPECT_EQ(row.word, keyword_text(static_cast<Kw>(row.number)));
   }
 }
 

@@ -2,11 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
-#include "support/files.h"
+#include "support/document.h"
+
+using namespace vqc;
 
 namespace {
 
@@ -15,7 +19,10 @@ using Tokens = std::vector<std::string>;
 
 class LexerTest : public testing::Test {
  protected:
-  Lexer lexer_of(std::string_view text) { return Lexer(Stream::open(folder.with("text", text).c_str(), "r")); }
+  Lexer lexer_of(std::string_view text) {
+    source = Source::from_text(text);
+    return Lexer(*source);
+  }
 
   /// The current token in words; `result` is what next_token returned.
   static std::string described(const Lexer& lexer, int result) {
@@ -53,20 +60,18 @@ class LexerTest : public testing::Test {
     return tokens;
   }
 
-  /// The line on which each token ends, when the first one stands on line 1.
-  std::vector<int> lines_of(std::string_view text) {
+  /// Where the tokens stand in the text, the end too.
+  std::vector<Range> ranges_of(std::string_view text) {
     Lexer lexer = lexer_of(text);
-    lexer.next_token();
-    lineno = 1;
-    std::vector<int> lines{lineno};
-    while (!lexer.is(SaveFileToken::end_of_input)) {
+    std::vector<Range> ranges;
+    do {
       lexer.next_token();
-      lines.push_back(lineno);
-    }
-    return lines;
+      ranges.push_back(lexer.range());
+    } while (!lexer.is(SaveFileToken::end_of_input));
+    return ranges;
   }
 
-  TemporaryFolder folder;
+  std::shared_ptr<const Source> source;
 };
 
 TEST(SaveFileTokens, AreNumbered) {
@@ -166,7 +171,7 @@ TEST_F(LexerTest, ANulDoesNotEndAStringToken) {
     Lexer lexer = lexer_of(text);
     lexer.next_token();
     EXPECT_TRUE(lexer.is(SaveFileToken::string));
-    EXPECT_STREQ("a", Text(lexer.text()));
+    EXPECT_EQ("a", lexer.text());
     lexer.next_token();
     EXPECT_EQ("c", lexer.text());
   }
@@ -278,18 +283,55 @@ TEST_F(LexerTest, AKeywordIsThatKeywordOnly) {
   EXPECT_FALSE(lexer.is(Kw::family));
 }
 
-// Lines.
+// Places.
 
-TEST_F(LexerTest, LinesAreThoseOnWhichTokensEnd) {
-  EXPECT_EQ((std::vector<int>{1, 2, 2, 4, 5}), lines_of("a\nb c\n\nd\n"));
-  EXPECT_EQ((std::vector<int>{1, 1, 1}), lines_of("a b"));
-  EXPECT_EQ((std::vector<int>{1, 3, 4, 4}), lines_of("a\n'b\nc'\nd"));
-  EXPECT_EQ((std::vector<int>{1, 5, 5}), lines_of("a ! x\n/*\n\n*/\nb"));
-  EXPECT_EQ((std::vector<int>{1, 2, 3, 3}), lines_of("a\n12\n-3"));
-  EXPECT_EQ((std::vector<int>{1, 2, 3, 3}), lines_of("a\nfamily\n="));
+class TokenRanges : public LexerTest {
+ protected:
+  /// The tokens must stand where the marks are.
+  void expect(std::string_view marked) {
+    const MarkedText expected(marked);
+    EXPECT_EQ(expected.ranges, ranges_of(expected.text)) << expected.text;
+  }
+};
+
+TEST_F(TokenRanges, AreWhereTokensStand) {
+  expect("<>");
+  expect("  <VQconfig>\n<code_name> <=>\t<'x'>\n<>");
+  expect("<12><-34><->\n<{><}>! c\n/* c */<word.w><>");
 }
 
-// Single steps and closing.
+TEST_F(TokenRanges, HoldTheQuotesAndEscapesOfStrings) {
+  expect("<'it\\'s'> <'a\\65b'><''><>");
+  expect("<'a\nb'> <x><>");
+}
+
+TEST_F(TokenRanges, OfWhatHasNoEndGoToTheEnd) {
+  expect("<a> <'b c\n><>");
+  expect("<a> /* b c<>");
+}
+
+TEST_F(TokenRanges, LeaveOutTheSlashThatBeginsNoComment) { expect("/<=> <a><>"); }
+
+TEST_F(TokenRanges, HoldWhatIsCutOffALongToken) {
+  const std::string longest(5000, 'x');
+  expect("<'" + longest + "'> <" + longest + "> <b><>");
+}
+
+TEST_F(LexerTest, TextsStandInTheSourceUnlessTheyHaveEscapesOrNuls) {
+  const std::pair<std::string, bool> cases[] = {
+      {"word"s, true}, {"'text'"s, true}, {"''"s, true}, {R"('a\tb')"s, false}, {"'a\0b'"s, false}, {"'a"s, false},
+  };
+  for (auto& [text, expected] : cases) {
+    Lexer lexer = lexer_of(text);
+    lexer.next_token();
+    EXPECT_EQ(expected, lexer.text_is_in_source()) << text;
+    const bool inside = lexer.text().data() >= source->text().data() &&
+                        lexer.text().data() <= source->text().data() + source->text().size();
+    EXPECT_EQ(expected, inside) << text;
+  }
+}
+
+// Single steps and copies.
 
 TEST_F(LexerTest, NextChSkipsACharacter) {
   Lexer lexer = lexer_of("ab(cd");
@@ -299,109 +341,31 @@ TEST_F(LexerTest, NextChSkipsACharacter) {
   EXPECT_EQ("cd", lexer.text());
 }
 
-TEST_F(LexerTest, NextChCountsLines) {
-  Lexer lexer = lexer_of("a(\nb");
-  lexer.next_token();
-  lineno = 1;
-  lexer.next_ch();
-  lexer.next_ch();
-  lexer.next_token();
-  EXPECT_EQ("b", lexer.text());
-  EXPECT_EQ(2, lineno);
-}
-
-TEST_F(LexerTest, WithoutAStreamThereIsOnlyTheEnd) {
-  Lexer lexer(nullptr);
+TEST_F(LexerTest, AtTheEndThereIsNoNextCharacter) {
+  Lexer lexer = lexer_of("a");
+  EXPECT_EQ(1, lexer.next_ch());
   EXPECT_EQ(0, lexer.next_ch());
-  EXPECT_EQ(1, lexer.next_token());
+  lexer.next_token();
   EXPECT_TRUE(lexer.is(SaveFileToken::end_of_input));
 }
 
-TEST_F(LexerTest, AfterClosingThereIsOnlyTheEnd) {
-  Lexer lexer = lexer_of("a b c");
+TEST_F(LexerTest, ACopyGoesOnByItself) {
+  Lexer lexer = lexer_of("'\\65' b c");
   lexer.next_token();
-  lexer.close();
-  EXPECT_EQ(0, lexer.next_ch());
-  for (int i = 0; i < 3; ++i) {
-    lexer.next_token();
-    EXPECT_TRUE(lexer.is(SaveFileToken::end_of_input));
-  }
+  Lexer ahead = lexer;
+  ahead.next_token();
+  ahead.next_token();
+  EXPECT_EQ("c", ahead.text());
+  EXPECT_EQ("A", lexer.text());
+  lexer.next_token();
+  EXPECT_EQ("b", lexer.text());
 }
 
-// Stepping over what is known.
-
-TEST_F(LexerTest, StepsOverWhatStandsNextAsItIsSpelled) {
-  Lexer lexer = lexer_of("'a', True, False, 'b'");
-  lexer.next_token();
-  EXPECT_FALSE(lexer.skip(", False"));
-  EXPECT_FALSE(lexer.skip(" , True"));
-  EXPECT_TRUE(lexer.skip(", True, False"));
-  EXPECT_EQ("a", lexer.text());
-  EXPECT_EQ(",", described(lexer, lexer.next_token()));
-  EXPECT_EQ("string b", described(lexer, lexer.next_token()));
-}
-
-TEST_F(LexerTest, StepsOverNoPartOfAWord) {
-  for (const char* behind : {"d", "D", "4", "_", "."}) {
-    Lexer lexer = lexer_of("a bc" + std::string(behind) + " e");
-    lexer.next_token();
-    EXPECT_FALSE(lexer.skip(" bc")) << behind;
-    EXPECT_EQ("word bc" + std::string(behind), described(lexer, lexer.next_token()));
-  }
-}
-
-TEST_F(LexerTest, StepsOverNothingAtTheEnd) {
-  Lexer lexer = lexer_of("a bc");
-  lexer.next_token();
-  EXPECT_FALSE(lexer.skip(" bc "));
-  EXPECT_FALSE(lexer.skip(" bc"));  // more could follow in the next part of the file
-  lexer.next_token();
-  EXPECT_FALSE(lexer.skip("x"));
-}
-
-// Tokens that do not lie in one part of the file.
+// Long texts.
 
 const std::string kLong(2047, 'x');
 
-class BufferEdge : public LexerTest {
- protected:
-  const std::vector<std::pair<std::string, Tokens>> cases{
-      {"a_word.of_some"s, Tokens{"word a_word.of_some"}},
-      {"resource_popups"s, Tokens{"keyword 38"}},
-      {"'a string' b"s, Tokens{"string a string", "word b"}},
-      {R"('\65\066\'\n')"s, Tokens{"string AB'\n"}},
-      {"1234567890"s, Tokens{"integer 1234567890"}},
-      {"-12345678 -"s, Tokens{"integer -12345678", "bad -"}},
-      {"/* * a **/b"s, Tokens{"word b"}},
-      {"/=/=/=/=/="s, Tokens{"=", "=", "=", "=", "="}},
-      {"! a\n! b\nc"s, Tokens{"word c"}},
-      {"={}(),;:*="s, Tokens{"=", "{", "}", "(", ")", ",", ";", ":", "*", "="}},
-      {"'" + kLong + "'b", Tokens{"string " + kLong, "word b"}},
-      {"'" + kLong + "xyz'b", Tokens{"string " + kLong, "word b"}},
-      {kLong + " b", Tokens{"word " + kLong, "word b"}},
-      {kLong + "xyz b", Tokens{"word " + kLong, "word b"}},
-  };
-
-  /// The text must give the tokens wherever in a part of the file it begins.
-  void expect(const std::string& text, const Tokens& tokens, std::size_t before_the_edge) {
-    EXPECT_EQ(tokens, tokens_of(std::string(65536 - before_the_edge, ' ') + text)) << before_the_edge;
-  }
-};
-
-TEST_F(BufferEdge, DoesNotShowInTokens) {
-  for (auto& [text, tokens] : cases) {
-    for (std::size_t before = 0; before <= 16; ++before) expect(text, tokens, before);
-  }
-}
-
-TEST_F(BufferEdge, DoesNotShowInTheMiddleOfATokenEither) {
-  for (auto& [text, tokens] : cases) {
-    expect(text, tokens, text.size() / 2);
-    expect(text, tokens, text.size());
-  }
-}
-
-TEST_F(LexerTest, ATokenMayBeLongerThanTheBuffer) {
+TEST_F(LexerTest, ATokenMayHaveAnyLength) {
   const std::string longest(200000, 'x');
   EXPECT_EQ((Tokens{"string " + kLong, "word b"}), tokens_of("'" + longest + "' b"));
   EXPECT_EQ((Tokens{"word " + kLong, "word b"}), tokens_of(longest + " b"));

@@ -3,19 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <cstring>
+#include <cstddef>
+#include <memory>
 #include <string>
+#include <string_view>
 
 #include "support/document.h"
-#include "vqc/cmd/model/alias.h"
-#include "vqc/cmd/model/converter.h"
-#include "vqc/cmd/model/enumedit.h"
-#include "vqc/cmd/model/enumentry.h"
-#include "vqc/cmd/model/enumlist.h"
-#include "vqc/cmd/model/header.h"
-#include "vqc/cmd/model/page.h"
-#include "vqc/cmd/model/popup.h"
-#include "vqc/cmd/model/widgetedit.h"
+
+using namespace vqc;
 
 namespace {
 
@@ -45,43 +40,39 @@ const char predefined_uses[] =
 
 class SaveTest : public DocumentTest {
  protected:
-  static WidgetDef* new_widget(const char* name) {
-    widget_add(name);
-    return widget_ptr(name);
-  }
-  static ResourceDef* new_resource(WidgetDef* widget, const char* name) {
-    we_resource_add(name, widget);
-    return resource_ptr(widget, name);
+  WidgetDef* new_widget(const char* name) { return document.ensure(document.widgets, name); }
+  ResourceDef* new_resource(WidgetDef* widget, const char* name) {
+    return document.ensure(widget->resource_definitions, name);
   }
   /// What is written after the first line.
-  static std::string written_items() {
-    const std::string document = written_document();
-    EXPECT_EQ("VQconfig\n", document.substr(0, 9));
-    return document.substr(9);
+  std::string written_items() const {
+    const std::string text = saved(document);
+    EXPECT_EQ("VQconfig\n", text.substr(0, 9));
+    return text.substr(9);
   }
 };
 
-TEST_F(SaveTest, EmptyModelIsOneLine) { EXPECT_EQ("VQconfig\n", written_document()); }
+TEST_F(SaveTest, EmptyDocumentIsOneLine) { EXPECT_EQ("VQconfig\n", saved(document)); }
 
 // The header.
 
 using WriteHeader = SaveTest;
 
 TEST_F(WriteHeader, HasAllNamesInTheirOrder) {
-  set_code_file("code.c");
-  set_config_file("config.c");
-  set_stubs_file("stubs.c");
-  vqc_set_family_table_variable("table");
-  vqc_set_family_names_variable("names");
-  vqc_set_xwidgets_variable("widgets");
-  vqc_set_stop_list_variable("stops");
-  vqc_set_popups_variable("popups_");
-  vqc_set_page_names_variable("pages");
-  vqc_set_family_count_variable("count");
-  vqc_set_enumerations_variable("enums");
-  vqc_set_converters_variable("convs");
-  vqc_set_aliases_variable("aliases_");
-  stop_list_set("XmFrame,XmLabel");
+  document.output_names.code = "code.c";
+  document.output_names.config = "config.c";
+  document.output_names.stubs = "stubs.c";
+  document.names.family_table.document = "table";
+  document.names.family_names.document = "names";
+  document.names.xwidgets.document = "widgets";
+  document.names.stop_list.document = "stops";
+  document.names.popups.document = "popups_";
+  document.names.page_names.document = "pages";
+  document.names.family_count.document = "count";
+  document.names.enumerations.document = "enums";
+  document.names.converters.document = "convs";
+  document.names.aliases.document = "aliases_";
+  document.excluded_classes = "XmFrame,XmLabel";
   EXPECT_EQ(
       "VQconfig\n"
       "code_name='code.c'\n"
@@ -98,35 +89,33 @@ TEST_F(WriteHeader, HasAllNamesInTheirOrder) {
       "generate_converter_string='convs'\n"
       "generate_alias_string='aliases_'\n"
       "stop_list = 'XmFrame,XmLabel'\n",
-      written_document());
+      saved(document));
 }
 
 TEST_F(WriteHeader, HasANameThatEqualsItsDefault) {
-  vqc_set_aliases_variable("aliases");
-  EXPECT_EQ("VQconfig\ngenerate_alias_string='aliases'\n", written_document());
+  document.names.aliases.document = "aliases";
+  EXPECT_EQ("VQconfig\ngenerate_alias_string='aliases'\n", saved(document));
 }
 
 TEST_F(WriteHeader, LeavesOutANameThatWasTakenBack) {
-  vqc_set_aliases_variable("mine");
-  vqc_set_aliases_variable(nullptr);
-  EXPECT_EQ("VQconfig\n", written_document());
+  document.names.aliases.document = "mine";
+  document.names.aliases.document = nullptr;
+  EXPECT_EQ("VQconfig\n", saved(document));
 }
 
 TEST_F(WriteHeader, LeavesOutWhatTheResourcesSay) {
-  name_options.aliases.resource = "from_resource";
-  vqc_set_verbose_code(true);
-  vqc_set_comment_code(true);
-  EXPECT_EQ("VQconfig\n", written_document());
+  document.names.aliases.resource = "from_resource";
+  EXPECT_EQ("VQconfig\n", saved(document));
 }
 
 TEST_F(WriteHeader, LeavesOutAnEmptyStopList) {
-  stop_list_set("");
-  EXPECT_EQ("VQconfig\n", written_document());
+  document.excluded_classes = "";
+  EXPECT_EQ("VQconfig\n", saved(document));
 }
 
 TEST_F(WriteHeader, HasTheStopListAsItStands) {
-  stop_list_set("100%%,it's");
-  EXPECT_EQ("VQconfig\nstop_list = '100%%,it's'\n", written_document());
+  document.excluded_classes = "100%%,it's";
+  EXPECT_EQ("VQconfig\nstop_list = '100%%,it's'\n", saved(document));
 }
 
 // Widgets.
@@ -185,9 +174,8 @@ TEST_F(WriteWidget, HasAllFieldsInTheirOrder) {
       written_items());
 }
 
-TEST_F(WriteWidget, HasNoScratchAndNoCompatibility) {
+TEST_F(WriteWidget, HasNoCompatibility) {
   WidgetDef& widget = *new_widget("W");
-  widget.generated = true;
   ResourceDef& resource = *new_resource(&widget, "r");
   resource.mfc_compatible = resource.java_compatible = true;
   EXPECT_EQ("widget 'W' {\n\tresource_definitions='r', , , True, VQC_FREE_DEFAULT, VQC_FREE_DEFAULT;\n}\n",
@@ -239,13 +227,12 @@ TEST_F(WriteWidget, ComesInOrderOfNames) {
 // The other records.
 
 TEST_F(SaveTest, EnumerationHasItsTypeAndEntriesAsTheyCame) {
-  enum_add("E");
-  EnumDef* enumeration = enum_ptr("E");
+  EnumDef* enumeration = document.ensure(document.enumerations, "E");
   enumeration->type_name = "int";
-  enumentry_add("z", enumeration);
-  enumentry_add("a", enumeration);
-  enumentry_ptr(enumeration, "a")->code_symbol = "A";
-  enumentry_ptr(enumeration, "a")->resfile_symbol = "a_text";
+  document.ensure(enumeration->entries, "z");
+  EnumEntry* entry = document.ensure(enumeration->entries, "a");
+  entry->code_symbol = "A";
+  entry->resfile_symbol = "a_text";
   EXPECT_EQ(
       "enumeration 'E' {\n"
       "\ttypename='int'\n"
@@ -260,49 +247,49 @@ TEST_F(SaveTest, EnumerationHasItsTypeAndEntriesAsTheyCame) {
 }
 
 TEST_F(SaveTest, NewRecordsAreEmptyBlocks) {
-  enum_add("E");
-  alias_add("A");
-  converter_add("C");
-  popup_add("P");
+  document.ensure(document.enumerations, "E");
+  document.ensure(document.aliases, "A");
+  document.ensure(document.converters, "C");
+  document.ensure(document.popups, "P");
   EXPECT_EQ("enumeration 'E' {\n}\nalias 'A' {\n}\nconverter 'C' {\n}\npopup 'P' {\n}\n", written_items());
 }
 
 TEST_F(SaveTest, HeadersArePoolByPool) {
-  familyheader_add("f.h");
-  confheader_add("n.h");
-  codeheader_add("d.h");
-  codeheader_add("b.h");
+  document.ensure(document.family_headers, "f.h");
+  document.ensure(document.config_headers, "n.h");
+  document.ensure(document.code_headers, "d.h");
+  document.ensure(document.code_headers, "b.h");
   EXPECT_EQ("header 'b.h'\nheader 'd.h'\ncheader 'n.h'\nfamily_header 'f.h'\n", written_items());
 }
 
 TEST_F(SaveTest, AliasHasTheTypeItNames) {
-  alias_add("A");
-  alias_ptr("A")->to_name = "T";
+  AliasDef* alias = document.ensure(document.aliases, "A");
+  alias->to_name = "T";
   EXPECT_EQ("alias 'A' {\n\tto_name='T'\n}\n", written_items());
 }
 
 TEST_F(SaveTest, ConverterHasItsTrueFlagsOnly) {
-  converter_add("C");
-  converter_ptr("C")->proc_name = "convert";
-  converter_ptr("C")->dialog = "D";
-  converter_ptr("C")->add_in_vq = true;
-  converter_ptr("C")->add_in_code = true;
+  ConverterDef* converter = document.ensure(document.converters, "C");
+  converter->proc_name = "convert";
+  converter->dialog = "D";
+  converter->add_in_vq = true;
+  converter->add_in_code = true;
   EXPECT_EQ("converter 'C' {\n\tproc_name='convert'\n\tdialog='D'\n\tadd_in_vq=True\n\tadd_in_code=True\n}\n",
             written_items());
-  converter_ptr("C")->add_in_vq = false;
+  converter->add_in_vq = false;
   EXPECT_EQ("converter 'C' {\n\tproc_name='convert'\n\tdialog='D'\n\tadd_in_code=True\n}\n", written_items());
 }
 
 TEST_F(SaveTest, PopupHasItsProcedures) {
-  popup_add("P");
-  popup_ptr("P")->dialog_init = "init";
-  popup_ptr("P")->dialog_update = "update";
+  PopupDef* popup = document.ensure(document.popups, "P");
+  popup->dialog_init = "init";
+  popup->dialog_update = "update";
   EXPECT_EQ("popup 'P' {\n\tdialog_init='init'\n\tdialog_update='update'\n}\n", written_items());
 }
 
 TEST_F(SaveTest, PagesStandAsTheyCame) {
-  page_add("z");
-  page_add("a");
+  document.ensure(document.pages, "z");
+  document.ensure(document.pages, "a");
   EXPECT_EQ("page 'z'\npage 'a'\n", written_items());
 }
 
@@ -311,19 +298,18 @@ TEST_F(SaveTest, PagesStandAsTheyCame) {
 using WriteFamily = SaveTest;
 
 TEST_F(WriteFamily, HasThePredefinedPagesAndPopups) {
-  new_family("F");
+  document.ensure(document.families, "F");
   EXPECT_EQ(predefined_pool + std::string("family 'F' {\n") + predefined_uses + "}\n", written_items());
 }
 
 TEST_F(WriteFamily, LeavesOutFlagsWithoutAnInitProcedure) {
-  Family* family = new_family("F");
+  Family* family = document.ensure(document.families, "F");
   family->generate_family_init_code = family->generate_family_init_vq = true;
-  family->generate_selected = false;
   EXPECT_EQ(predefined_pool + std::string("family 'F' {\n") + predefined_uses + "}\n", written_items());
 }
 
 TEST_F(WriteFamily, HasAllFlagsWithAnInitProcedure) {
-  Family* family = new_family("F");
+  Family* family = document.ensure(document.families, "F");
   family->family_init = "init";
   family->generate_family_init_code = true;
   family->generate_family_init_pre_shell = true;
@@ -339,23 +325,23 @@ TEST_F(WriteFamily, HasAllFlagsWithAnInitProcedure) {
 }
 
 TEST_F(WriteFamily, TakesAnEmptyInitProcedureForOne) {
-  new_family("F")->family_init = "";
+  document.ensure(document.families, "F")->family_init = "";
   EXPECT_NE(std::string::npos,
             written_items().find("family 'F' {\n\tfamily_init=''\n\tgenerate_family_init_code=False\n"
                                  "\tgenerate_family_init_stub=False\n"));
 }
 
 TEST_F(WriteFamily, HasItsListsInTheirOrder) {
-  Family* family = new_family("F");
-  confheaderlist_add("n.h", family);
-  familyheaderlist_add("f.h", family);
-  codeheaderlist_add("z.h", family);
-  codeheaderlist_add("c.h", family);
-  converterlist_add("C", family);
-  aliaslist_add("A", family);
-  enumlist_add("E", family);
-  widgetlist_add("V", family);
-  widgetlist_add("U", family);
+  Family* family = document.ensure(document.families, "F");
+  document.ensure(family->config_headers, document.config_headers, "n.h");
+  document.ensure(family->family_headers, document.family_headers, "f.h");
+  document.ensure(family->code_headers, document.code_headers, "z.h");
+  document.ensure(family->code_headers, document.code_headers, "c.h");
+  document.ensure(family->converters, document.converters, "C");
+  document.ensure(family->aliases, document.aliases, "A");
+  document.ensure(family->enumerations, document.enumerations, "E");
+  document.ensure(family->widgets, document.widgets, "V");
+  document.ensure(family->widgets, document.widgets, "U");
   EXPECT_NE(std::string::npos, written_items().find("family 'F' {\n"
                                                     "\twidget='V'\n"
                                                     "\twidget='U'\n"
@@ -370,25 +356,25 @@ TEST_F(WriteFamily, HasItsListsInTheirOrder) {
 }
 
 TEST_F(WriteFamily, ComesInTheOrderOfTheFamilies) {
-  new_family("G");
-  new_family("F");
+  document.ensure(document.families, "G");
+  document.ensure(document.families, "F");
   const std::string items = written_items();
   EXPECT_LT(items.find("family 'G'"), items.find("family 'F'"));
-  family_move_up("F");
+  document.families.move_up(document.families.find("F"));
   const std::string moved = written_items();
   EXPECT_LT(moved.find("family 'F'"), moved.find("family 'G'"));
 }
 
 TEST_F(SaveTest, SectionsStandInTheirOrder) {
-  new_family("F");
-  page_add("own");
-  popup_add("a_popup");
-  converter_add("C");
-  alias_add("A");
-  familyheader_add("f.h");
-  confheader_add("n.h");
-  codeheader_add("c.h");
-  enum_add("E");
+  document.ensure(document.families, "F");
+  document.ensure(document.pages, "own");
+  document.ensure(document.popups, "a_popup");
+  document.ensure(document.converters, "C");
+  document.ensure(document.aliases, "A");
+  document.ensure(document.family_headers, "f.h");
+  document.ensure(document.config_headers, "n.h");
+  document.ensure(document.code_headers, "c.h");
+  document.ensure(document.enumerations, "E");
   new_widget("W");
   EXPECT_EQ(
       "widget 'W' {\n}\n"
@@ -406,91 +392,80 @@ TEST_F(SaveTest, SectionsStandInTheirOrder) {
 // Texts.
 
 TEST_F(SaveTest, NothingInATextIsEscaped) {
-  alias_add("it's a\\b");
+  document.ensure(document.aliases, "it's a\\b");
   EXPECT_EQ("alias 'it's a\\b' {\n}\n", written_items());
 }
 
 TEST_F(SaveTest, DoubledPerCentSignsAreWrittenAsOne) {
-  alias_add("100%%");
-  alias_ptr("100%%")->to_name = "%s%d %%%%";
+  AliasDef* alias = document.ensure(document.aliases, "100%%");
+  alias->to_name = "%s%d %%%%";
   EXPECT_EQ("alias '100%' {\n\tto_name='%s%d %%'\n}\n", written_items());
 }
 
 TEST_F(SaveTest, LongTextsAreWrittenWhole) {
   const std::string longest(100000, 'x');
-  alias_add(longest.c_str());
+  document.ensure(document.aliases, document.keep(longest.c_str()));
   EXPECT_EQ("alias '" + longest + "' {\n}\n", written_items());
 }
 
-// What else a save does.
+// Failures.
 
-using WriteSaveFile = SaveTest;
-
-TEST_F(WriteSaveFile, ReplacesTheFileAndClearsDirty) {
-  const std::string path = folder.with("document.vqc", std::string(1000, 'x'));
-  dirty = true;
-  write_save_file(path.c_str());
-  EXPECT_EQ("VQconfig\n", read_file(path));
-  EXPECT_FALSE(dirty);
-  EXPECT_EQ(Messages{}, messages.shown);
+TEST_F(SaveTest, TellsAtTheEndThatTheDiskIsFull) {
+  const std::unique_ptr<FileSink> full = FileSink::open("/dev/full");
+  ASSERT_TRUE(full);
+  save(document, *full);
+  errno = 0;
+  EXPECT_FALSE(full->finish());
+  EXPECT_EQ(ENOSPC, errno);
 }
 
-struct Seen {
-  inline static std::string path;
-  inline static Names calls;
-  static void titled(const char* title) { calls.push_back(std::string("titled ") + title); }
-  static void saved() { calls.push_back("saved " + read_file(path) + (dirty ? "dirty" : "clean")); }
-  static void watch(const std::string& file) {
-    path = file;
-    calls.clear();
-    document_hooks = {titled, saved};
+/// Takes nothing, and counts what it has been offered.
+class RefusingSink : public Sink {
+ public:
+  std::size_t offered = 0;
+
+ private:
+  bool take(std::string_view text) override {
+    offered += text.size();
+    return false;
   }
 };
 
-TEST_F(WriteSaveFile, TitlesTheDocumentAndGoesOnOnceAllIsWritten) {
-  Seen::watch(folder / "document.vqc");
-  dirty = true;
-  write_save_file(Seen::path.c_str());
-  EXPECT_EQ((Names{"titled " + Seen::path, "saved VQconfig\nclean"}), Seen::calls);
+TEST_F(SaveTest, GoesOnWhenALongDocumentDoesNotFit) {
+  for (int i = 0; i < 10000; ++i) {
+    const std::string name = "some_alias_" + std::to_string(i);
+    document.ensure(document.aliases, document.keep(name.c_str()));
+  }
+  RefusingSink sink;
+  save(document, sink);
+  EXPECT_FALSE(sink.finish());
+  EXPECT_EQ(saved(document).size(), sink.offered);
 }
 
-TEST_F(WriteSaveFile, ChangesNothingWhenTheFileCannotBeOpened) {
-  messages.texts["file_open_fail"] = "cannot open %s: %s";
-  Seen::watch(folder / "missing/document.vqc");
-  dirty = true;
-  write_save_file(Seen::path.c_str());
-  EXPECT_TRUE(dirty);
-  EXPECT_EQ(Names{}, Seen::calls);
-  EXPECT_EQ(Messages{"cannot open " + Seen::path + ": " + std::strerror(ENOENT)}, messages.shown);
-}
-
-TEST_F(WriteSaveFile, RefusesAFolder) {
-  dirty = true;
-  write_save_file(folder.path().c_str());
-  EXPECT_TRUE(dirty);
-  EXPECT_EQ(Messages{"file_open_fail"}, messages.shown);
-}
-
-TEST_F(WriteSaveFile, GoesOnWhenTheDiskIsFull) {
-  messages.texts["file_write_fail"] = "cannot write: %s";
-  Seen::watch("/dev/null");
-  dirty = true;
-  write_save_file("/dev/full");
-  EXPECT_FALSE(dirty);
-  EXPECT_EQ((Names{"titled /dev/full", "saved clean"}), Seen::calls);
-  EXPECT_EQ(Messages{std::string("cannot write: ") + std::strerror(ENOSPC)}, messages.shown);
-}
-
-TEST_F(WriteSaveFile, GoesOnWhenALongDocumentDoesNotFit) {
-  for (int i = 0; i < 10000; ++i) alias_add(("some_alias_" + std::to_string(i)).c_str());
-  write_save_file("/dev/full");
-  EXPECT_FALSE(dirty);
-  EXPECT_LT(1u, messages.shown.size());
+TEST_F(SaveTest, LeavesTheDocumentAsItIs) {
+  for (bool dirty : {false, true}) {
+    document.dirty = dirty;
+    EXPECT_EQ("VQconfig\n", saved(document));
+    EXPECT_EQ(dirty, document.dirty);
+  }
 }
 
 // There and back.
 
-class RoundTrip : public DocumentTest {};
+class RoundTrip : public DocumentTest {
+ protected:
+  /// Reads into the document, in place of what is there, what must be free of faults.
+  void read_saved(const std::string& text) {
+    document.clear();
+    const LoadResult result = read_document(text);
+    EXPECT_TRUE(result.has_header);
+    EXPECT_EQ(Findings{}, diagnostics.findings());
+  }
+  std::string read_and_saved(const std::string& text) {
+    read_saved(text);
+    return saved(document);
+  }
+};
 
 const char everything[] =
     "VQconfig\n"
@@ -551,43 +526,39 @@ std::string everything_with_families() {
 }
 
 TEST_F(RoundTrip, GivesTheSameBytesAgain) {
-  const std::string document = everything_with_families();
-  ASSERT_EQ(1, read_document(document));
-  EXPECT_EQ(document, written_document());
-  EXPECT_EQ(Messages{}, messages.shown);
+  EXPECT_EQ(everything_with_families(), read_and_saved(everything_with_families()));
 }
 
 TEST_F(RoundTrip, GivesTheSameBytesFromAnyOrder) {
-  ASSERT_EQ(1, read_document("VQconfig ! as people type it\n"
-                             "family F { alias = b  alias = 'a'  widget = W }\n"
-                             "alias a { to_name = T }\n"
-                             "widget W { resource_definitions = 'r', , , yes, 's', 'P', , True; can_create = False }"));
-  const std::string once = written_document();
-  ASSERT_EQ(1, read_document(once));
-  EXPECT_EQ(once, written_document());
+  const std::string once = read_and_saved(
+      "VQconfig ! as people type it\n"
+      "family F { alias = b  alias = 'a'  widget = W }\n"
+      "alias a { to_name = T }\n"
+      "widget W { resource_definitions = 'r', , , yes, 's', 'P', , True; can_create = False }");
+  EXPECT_EQ(once, read_and_saved(once));
 }
 
 TEST_F(RoundTrip, LosesTheFlagsOfAFamilyWithoutAnInitProcedure) {
-  new_family("F")->generate_family_init_vq = true;
-  ASSERT_EQ(1, read_document(written_document()));
-  EXPECT_FALSE(family_ptr("F")->generate_family_init_vq);
+  Document before;
+  before.ensure(before.families, "F")->generate_family_init_vq = true;
+  read_saved(saved(before));
+  EXPECT_FALSE(document.families.find("F")->generate_family_init_vq);
 }
 
 TEST_F(RoundTrip, ResolvesBackslashesThatWereWrittenAsTheyStood) {
-  alias_add("A");
-  alias_ptr("A")->to_name = "a\\tb";
-  ASSERT_EQ(1, read_document(written_document()));
-  EXPECT_STREQ("a\tb", alias_ptr("A")->to_name);
+  Document before;
+  before.ensure(before.aliases, "A")->to_name = "a\\tb";
+  read_saved(saved(before));
+  EXPECT_EQ("a\tb", document.aliases.find("A")->to_name);
 }
 
 TEST_F(RoundTrip, KeepsALongDocument) {
-  std::string document = "VQconfig\n";
+  std::string text = "VQconfig\n";
   for (int i = 10000; i < 20000; ++i) {
-    document += "alias 'alias_" + std::to_string(i) + "' {\n\tto_name='type_" + std::to_string(i % 7) + "'\n}\n";
+    text += "alias 'alias_" + std::to_string(i) + "' {\n\tto_name='type_" + std::to_string(i % 7) + "'\n}\n";
   }
-  ASSERT_EQ(1, read_document(document));
-  EXPECT_EQ(10000, alias_count());
-  EXPECT_EQ(document, written_document());
+  EXPECT_EQ(text, read_and_saved(text));
+  EXPECT_EQ(10000U, document.aliases.size());
 }
 
 }  // namespace

@@ -3,51 +3,66 @@
 
 #include <gtest/gtest.h>
 
-// Before the model, whose `stop_list` would seem to be shadowed by the keyword of that name.
-#include "vqc/cmd/savefile/keywords.h"
-
+#include <algorithm>
+#include <cstddef>
+#include <ostream>
 #include <string>
 #include <string_view>
+#include <vector>
 
-#include "support/files.h"
-#include "support/messages.h"
+#include "libkel/diagnostics.h"
 #include "support/model.h"
-#include "vqc/cmd/savefile/document_hooks.h"
-#include "vqc/cmd/savefile/parse.h"
+#include "vqc/cmd/savefile/load.h"
 #include "vqc/cmd/savefile/save.h"
 
-/// Reads `text` as a document, by default in place of the one that is there.
-inline int read_document(std::string_view text, int fresh = 1) {
-  TemporaryFolder folder;
-  Text path(folder.with("document.vqc", text).c_str());
-  return parseit(&path, fresh);
-}
-
-/// Adds the document `text` to the one that is there.
-inline int merge_document(std::string_view text) { return read_document(text, 0); }
+using namespace vqc;
 
 /// The document as the writer writes it.
-inline std::string written_document() {
-  TemporaryFolder folder;
-  const std::string path = folder / "document.vqc";
-  write_save_file(path.c_str());
-  return read_file(path);
+inline std::string saved(const Document& document) {
+  StringSink out;
+  save(document, out);
+  EXPECT_TRUE(out.finish());
+  return out.text();
 }
 
-/// A test that begins with an empty document and no syntax error so far, and records the messages.
-class DocumentTest : public ModelTest {
- protected:
-  DocumentTest() { forget_the_past(); }
-  ~DocumentTest() override { forget_the_past(); }
+namespace vqc {
 
-  RecordedMessages messages;
-  TemporaryFolder folder;
+inline void PrintTo(const Range& range, std::ostream* out) { *out << range.begin << " to " << range.end; }
 
- private:
-  static void forget_the_past() {
-    parse_errors = 0;
-    document_hooks = {};
+inline void PrintTo(const Finding& finding, std::ostream* out) {
+  *out << name_of(finding.id) << " from " << finding.range.begin << " to " << finding.range.end;
+  for (const std::string& argument : finding.arguments) *out << ", " << argument;
+}
+
+}  // namespace vqc
+
+using Findings = std::vector<Finding>;
+
+/// A text in which "<" and ">" stand around ranges, apart from each other.
+struct MarkedText {
+  explicit MarkedText(std::string_view marked) {
+    for (char c : marked) {
+      if (c == '<') ranges.push_back({text.size(), text.size()});
+      if (c == '>') ranges.back().end = text.size();
+      if (c != '<' && c != '>') text += c;
+    }
   }
+
+  std::string text;  // without the marks
+  std::vector<Range> ranges;
+};
+
+/// A test on a document of its own, which is empty at first.
+class DocumentTest : public testing::Test {
+ protected:
+  /// Adds a text to the document. What is found in it takes the place of what was found before.
+  LoadResult read_document(std::string_view text, AfterError after_error = AfterError::stop, Places* places = nullptr) {
+    diagnostics = {};
+    return load(Source::from_text(text), document, diagnostics, after_error, places);
+  }
+
+  Document document;
+  Diagnostics diagnostics;
 };
 
 #endif

@@ -7,6 +7,8 @@
 
 #include "libkel/message.h"
 
+using namespace vqc;
+
 /// Stands in for the error box and the resource file: keeps what is shown, and knows the texts it has been given.
 class RecordedMessages {
  public:

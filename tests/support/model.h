@@ -3,39 +3,20 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <vector>
 
-#include "vqc/cmd/model/builtin.h"
 #include "vqc/cmd/model/document.h"
-#include "vqc/cmd/model/family.h"
-#include "vqc/cmd/model/options.h"
-#include "vqc/cmd/model/stop.h"
 
-/// Leaves the model as it is when the program starts.
-inline void empty_model() {
-  clear_document();
-  for (auto option : all_name_options) (name_options.*option).resource = nullptr;
-  application_resources = {};
-  document_switches = {};
-  java_compatible_widgets = false;
-  mfc_compatible_widgets = false;
-  save_file = nullptr;
-  dirty = false;
-}
+using namespace vqc;
 
-/// A test that begins with an empty document and leaves one behind.
-class ModelTest : public testing::Test {
- protected:
-  ModelTest() { empty_model(); }
-  ~ModelTest() override { empty_model(); }
+namespace vqc {
 
-  /// A new family of that name.
-  static Family* new_family(const char* name) {
-    EXPECT_EQ(0, family_add(name));
-    return family_ptr(name);
-  }
-};
+/// Shows a text in what a test says.
+inline void PrintTo(Text text, std::ostream* out) { text ? *out << '"' << text.view() << '"' : *out << "a null text"; }
+
+}  // namespace vqc
 
 using Names = std::vector<std::string>;
 

@@ -9,7 +9,6 @@
 #include <string>
 
 #include "help/protocol.h"
-#include "libkel/text.h"
 
 using namespace help;
 
@@ -18,7 +17,7 @@ namespace {
 Atom help_win = None;
 Atom help_dest = None;
 
-Text last_request;
+std::string last_request;
 bool starting = false;  // a viewer has been launched that has not announced itself
 
 HelpStartedCallback started_callback = nullptr;
@@ -38,13 +37,12 @@ int note_bad_window(Display* display, XErrorEvent* error) {
 }
 
 /// Whether the request has reached the window.
-bool help_send(Display* display, Window viewer, const Text& request) {
+bool help_send(Display* display, Window viewer, const std::string& request) {
   previous_handler = XSetErrorHandler(note_bad_window);
   display_of_send = display;
   error_seen = false;
-  const std::string_view text = request.view();
   XChangeProperty(display, viewer, help_dest, XA_STRING, 8, PropModeReplace,
-                  reinterpret_cast<const unsigned char*>(text.data()), static_cast<int>(text.size()) + 1);
+                  reinterpret_cast<const unsigned char*>(request.c_str()), static_cast<int>(request.size()) + 1);
   XFlush(display);
   XSync(display, False);
   XSetErrorHandler(previous_handler);
@@ -55,7 +53,7 @@ void take_announcement(Widget w, XtPointer, XEvent* event, Boolean*) {
   if (event->type != PropertyNotify || event->xproperty.atom != help_win) return;
   if (event->xproperty.state == PropertyDelete) return;
   starting = false;
-  VQHelp(w, last_request);
+  VQHelp(w, std::string(last_request).c_str());
   if (started_callback) started_callback(started_data);
 }
 

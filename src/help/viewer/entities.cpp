@@ -9,6 +9,8 @@
 #include <array>
 #include <charconv>
 
+using namespace vqc;
+
 namespace help {
 
 namespace {

@@ -14,7 +14,7 @@ namespace help {
 std::string escape(std::string_view text);
 
 /// The character at the front of such a text, which is not empty, and the bytes that it takes there.
-Decoded read_escaped(std::string_view text);
+vqc::Decoded read_escaped(std::string_view text);
 
 /// A page with each of its entities as a number and a semicolon, such as "&#228;". One of no character becomes
 /// REPLACEMENT, and what is no known entity stands for itself.

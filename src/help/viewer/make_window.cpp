@@ -18,6 +18,8 @@
 #include "help/viewer/viewer.h"
 #include "help/viewer/window.h"
 
+using namespace vqc;
+
 namespace help {
 
 namespace {

@@ -8,6 +8,8 @@
 #include "help/viewer/elements.h"
 #include "help/viewer/entities.h"
 
+using namespace vqc;
+
 namespace help {
 
 namespace {

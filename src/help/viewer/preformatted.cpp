@@ -5,6 +5,8 @@
 #include "help/viewer/entities.h"
 #include "libkel/utf8.h"
 
+using namespace vqc;
+
 namespace help {
 
 namespace {

@@ -15,6 +15,8 @@
 #include "help/viewer/page_writer.h"
 #include "libkel/utf8.h"
 
+using namespace vqc;
+
 namespace help {
 
 namespace {

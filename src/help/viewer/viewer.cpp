@@ -26,6 +26,8 @@
 #include "help/viewer/window.h"
 #include "libkel/message.h"
 
+using namespace vqc;
+
 namespace help {
 
 namespace {

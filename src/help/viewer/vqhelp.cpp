@@ -15,6 +15,8 @@
 #include "help/viewer/viewer.h"
 #include "help/viewer/window.h"
 
+using namespace vqc;
+
 using namespace help;
 
 namespace {

@@ -9,6 +9,8 @@
 
 #include "desktop/window_properties.h"
 
+using namespace vqc;
+
 namespace help {
 
 namespace {

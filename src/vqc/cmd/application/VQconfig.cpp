@@ -9,6 +9,8 @@
 #include "vqc/cmd/application/start_up.h"
 #include "vqc/cmd/application/toolkit_words.h"
 
+using namespace vqc;
+
 int main(int argc, char** argv) {
   prepare_process();
   if (!has_toolkit_words(argc, argv)) {

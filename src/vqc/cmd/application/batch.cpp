@@ -1,13 +1,17 @@
+// Generates without a user.
+
 #include "vqc/cmd/application/batch.h"
 
 #include <unistd.h>
 
 #include <cstdio>
+#include <memory>
 #include <string>
 
 #include "vqc/cmd/generate/generate.h"
-#include "vqc/cmd/model/document.h"
-#include "vqc/cmd/savefile/parse.h"
+#include "vqc/cmd/savefile/load.h"
+
+namespace vqc {
 
 namespace {
 
@@ -29,9 +33,18 @@ int fail(const char* what) {
   return -1;
 }
 
-bool generate_requested(const Request& request) {
+/// Loads the save file. Errors in it, which are shown nowhere, leave what was read before them.
+bool load_save_file(Document& document) {
+  const auto source = Source::read(batch_save_file);
+  Diagnostics findings;
+  return source && load(source, document, findings).has_header;
+}
+
+bool generate_requested(Document& document, const Request& request) {
   const std::string name = request.name ? request.name : batch_file_name(batch_save_file, request.kind);
-  return batch_generate(name.c_str(), request.kind);
+  if (generate_file(document, name.c_str(), all_families(document), request.kind, {})) return true;
+  std::fprintf(stderr, "Cannot open %sfile %s\n", file_kind_name(request.kind), name.c_str());
+  return false;
 }
 
 }  // namespace
@@ -39,10 +52,13 @@ bool generate_requested(const Request& request) {
 int vqc_batch_mode() {
   if (!batch_save_file) return -1;
   if (access(batch_save_file, F_OK) != 0) return fail("Cannot open file ");
-  save_file = batch_save_file;
-  if (!parseit(&save_file, 1)) return fail("Could not parse file ");
+  Document document;
+  document.compatibility = batch_compatibility;
+  if (!load_save_file(document)) return fail("Could not parse file ");
   for (const Request& request : requests) {
-    if (request.wanted && !generate_requested(request)) return 1;
+    if (request.wanted && !generate_requested(document, request)) return 1;
   }
   return 0;
 }
+
+}  // namespace vqc

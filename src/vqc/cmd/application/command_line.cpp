@@ -4,7 +4,8 @@
 #include <cstdlib>
 
 #include "vqc/cmd/application/batch.h"
-#include "vqc/cmd/model/options.h"
+
+namespace vqc {
 
 namespace {
 
@@ -63,10 +64,10 @@ class CommandLine {
       case 's':
         return output(batch_stubs, batch_stubs_file, last);
       case 'j':
-        java_compatible_widgets = true;
+        batch_compatibility.java = true;
         return;
       case 'm':
-        mfc_compatible_widgets = true;
+        batch_compatibility.mfc = true;
         return;
       case 'x':
         explain();
@@ -95,3 +96,5 @@ void parse_command_line(int argc, char** argv) {
   batch_save = batch_save_file != nullptr;
   interactive = !batch_config && !batch_code && !batch_stubs;
 }
+
+}  // namespace vqc

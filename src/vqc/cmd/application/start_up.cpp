@@ -8,6 +8,8 @@
 #include <cstdlib>
 #include <new>
 
+namespace vqc {
+
 namespace {
 
 /// Gives closed standard streams a place, so that no file that is opened later is taken for one of them.
@@ -44,3 +46,5 @@ void give_up(const char* program, const std::string& reason) {
   std::fprintf(stderr, "%s: %s. Exiting...\n", program, reason.c_str());
   std::exit(-1);
 }
+
+}  // namespace vqc

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
+namespace vqc {
+
 namespace {
 
 /// The options that the X Toolkit has for all programs.
@@ -42,3 +44,5 @@ bool is_toolkit_word(std::string_view word) {
 }  // namespace
 
 bool has_toolkit_words(int argc, char** argv) { return std::any_of(argv + (argc > 0), argv + argc, is_toolkit_word); }
+
+}  // namespace vqc

@@ -1,6 +1,8 @@
 #ifndef VQC_CMD_APPLICATION_TOOLKIT_WORDS_H
 #define VQC_CMD_APPLICATION_TOOLKIT_WORDS_H
 
+namespace vqc {
+
 /// Whether the command line has a word that the toolkit would take for an option of its own.
 ///
 /// Where there is a display, the toolkit takes its options and their values out of the command line, wherever they
@@ -13,5 +15,7 @@
 /// So it takes nothing that has only letters of our options: "-s" and "-x" each begin several. It takes no other
 /// option, name or bare "-" either.
 bool has_toolkit_words(int argc, char** argv);
+
+}  // namespace vqc
 
 #endif

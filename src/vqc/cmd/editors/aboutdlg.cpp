@@ -9,9 +9,9 @@
 #include <cstring>
 
 #include "libkel/message.h"
-#include "libkel/text.h"
 #include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/cursor.h"
+#include "vqc/cmd/editors/kit/edited_document.h"
 
 namespace vqc::editors {
 
@@ -35,12 +35,12 @@ const WidgetLink links[] = {
 // clang-format on
 
 /// The text of a label; `given` when no resource sets one, so that it shows its own name.
-Text text_or(const char* given, Widget label) {
+std::string text_or(const char* given, Widget label) {
   XmString string = nullptr;
   XtVaGetValues(label, XmNlabelString, &string, nullptr);
-  const Text text = text_of(string);
+  std::string text = text_of(string);
   XmStringFree(string);
-  return text == XtName(label) ? Text(given) : text;
+  return text == XtName(label) ? given : text;
 }
 
 void show_text(Widget label, const char* text) {
@@ -53,7 +53,7 @@ void set_texts(Widget shell, Widget name, Widget version) {
   XtVaGetValues(shell, XmNtitle, &title, nullptr);
   if (std::strcmp(title, XtName(shell)) == 0) XtVaSetValues(shell, XmNtitle, "About vqconfig", nullptr);
   show_text(name, text_or("vqconfig", name).c_str());
-  show_text(version, filled(text_or("Version %s %s", version), {VQC_VERSION, VQC_RELEASE_DATE}).c_str());
+  show_text(version, filled(text_or("Version %s %s", version).c_str(), {VQC_VERSION, VQC_RELEASE_DATE}).c_str());
 }
 
 }  // namespace

@@ -7,8 +7,8 @@
 
 #include "vqc/cmd/editors/entity_dialog.h"
 #include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/list_page.h"
-#include "vqc/cmd/model/alias.h"
 
 namespace vqc::editors {
 
@@ -36,18 +36,18 @@ const ListPage aliases = {.name = "aliaslist",
 Widget to_name_field() { return entity_dialog[ALIASLIST_TO_NAME]; }
 
 /// An alias that another family has given its meaning keeps it.
-void alias_added(const Text& name) {
+void alias_added(Name name) {
   AliasDef* alias = alias_ptr(name);
   if (!alias->to_name) gettextf(to_name_field(), &alias->to_name);
   settextf(to_name_field(), alias->to_name);
 }
 
-void update_alias(const Text& name) {
+void update_alias(Name name) {
   dirty = true;
   gettextf(to_name_field(), &alias_ptr(name)->to_name);
 }
 
-void select_alias(const Text& name) {
+void select_alias(Name name) {
   if (auto* element = aliaslist_ptr(family_getcurrent(), name)) aliaslist_setcurrent(element);
 }
 
@@ -65,7 +65,7 @@ ListEditor aliaslist_editor{.dialog = entity_dialog,
 void current_alias_changed(Reference<AliasDef>* element) {
   if (!entity_dialog) return;
   if (!element) aliaslist_editor.clear_name();
-  settextf(to_name_field(), element ? element->record->to_name.c_str() : nullptr);
+  settextf(to_name_field(), element ? element->record->to_name : Text());
 }
 
 }  // namespace vqc::editors

@@ -11,9 +11,9 @@
 #include "vqc/cmd/editors/entity_dialog.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/list_page.h"
 #include "vqc/cmd/editors/popuplist.h"
-#include "vqc/cmd/model/converter.h"
 
 namespace vqc::editors {
 
@@ -67,18 +67,18 @@ void store_converter(ConverterDef& converter) {
 }
 
 /// A converter that another family has given its procedure keeps what it has.
-void converter_added(const Text& name) {
+void converter_added(Name name) {
   ConverterDef* converter = converter_ptr(name);
   if (!converter->proc_name) store_converter(*converter);
   show_converter(*converter);
 }
 
-void update_converter(const Text& name) {
+void update_converter(Name name) {
   dirty = true;
   store_converter(*converter_ptr(name));
 }
 
-void select_converter(const Text& name) {
+void select_converter(Name name) {
   if (auto* element = converterlist_ptr(family_getcurrent(), name)) converterlist_setcurrent(element);
 }
 

@@ -15,9 +15,9 @@
 #include "vqc/cmd/editors/headerlists.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/title.h"
 #include "vqc/cmd/editors/widgetlist.h"
-#include "vqc/cmd/model/family.h"
 
 namespace vqc::editors {
 
@@ -104,7 +104,7 @@ void entity_do_show_page(Widget toggle, XtPointer page, XtPointer call) {
 
 int entity_setfamily(Family* family) {
   if (!entity_dialog) return 0;
-  vq_set_title(entity_dialog[ENTITY_SHELL], "family_title", family ? family->name.c_str() : nullptr);
+  vq_set_title(entity_dialog[ENTITY_SHELL], "family_title", family ? family->name : Text());
   enumlist_setfamily(family);
   aliaslist_setfamily(family);
   converterlist_setfamily(family);

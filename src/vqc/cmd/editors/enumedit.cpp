@@ -7,10 +7,9 @@
 #include <Xm/TextF.h>
 
 #include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/list_page.h"
 #include "vqc/cmd/editors/title.h"
-#include "vqc/cmd/model/enumentry.h"
-#include "vqc/cmd/model/enumlist.h"
 
 namespace vqc::editors {
 
@@ -55,27 +54,27 @@ void show_symbols(const EnumEntry& entry) {
   settextf(enumedit_dialog[RESFILE_SYMBOL], entry.resfile_symbol);
 }
 
-void store_symbols(const Text& name) {
+void store_symbols(Name name) {
   EnumEntry* entry = enumentry_ptr(current_enum(), name);
   gettextf(enumedit_dialog[CODE_SYMBOL], &entry->code_symbol);
   gettextf(enumedit_dialog[RESFILE_SYMBOL], &entry->resfile_symbol);
 }
 
-void show_entry(const Text& name) {
+void show_entry(Name name) {
   const EnumEntry* entry = enumentry_ptr(current_enum(), name);
   if (!entry) return;
   settextf(enumedit_dialog[TYPE], current_enum()->type_name);
   show_symbols(*entry);
 }
 
-ErrorCode delete_entry(const Text& name) {
+ErrorCode delete_entry(Name name) {
   show_symbols({});
   return enumentry_delete(current_enum(), name);
 }
 
-std::vector<Text> entry_names() {
-  std::vector<Text> names;
-  for (const EnumEntry& entry : current_enum()->entries) names.push_back(entry.name);
+std::vector<std::string> entry_names() {
+  std::vector<std::string> names;
+  for (const EnumEntry& entry : current_enum()->entries) names.emplace_back(entry.name.view());
   return names;
 }
 
@@ -84,12 +83,12 @@ std::vector<Text> entry_names() {
 ListEditor enumentry_editor{
     .dialog = enumedit_dialog,
     .box_slot = BOX,
-    .names = {.has = [](const Text& name) { return enumentry_ptr(current_enum(), name) != nullptr; },
-              .add = [](const Text& name) { return enumentry_add(name, current_enum()); },
+    .names = {.has = [](Name name) { return enumentry_ptr(current_enum(), name) != nullptr; },
+              .add = [](Name name) { return enumentry_add(name, current_enum()); },
               .remove = delete_entry,
-              .position = [](const Text& name) { return enumentry_index(current_enum(), name); },
-              .move_up = [](const Text& name, bool) { return enumentry_move_up(current_enum(), name); },
-              .move_down = [](const Text& name, bool) { return enumentry_move_down(current_enum(), name); },
+              .position = [](Name name) { return enumentry_index(current_enum(), name); },
+              .move_up = [](Name name, bool) { return enumentry_move_up(current_enum(), name); },
+              .move_down = [](Name name, bool) { return enumentry_move_down(current_enum(), name); },
               .names = entry_names},
     .added = store_symbols,
     .accepted = store_symbols,
@@ -115,8 +114,8 @@ void enumedit_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(enumedit_dialo
 void enumedit_setenum(const Reference<EnumDef>* element) {
   if (!enumedit_dialog) return;
   const EnumDef* shown = element && enumentry_count(element->record) > 0 ? element->record : nullptr;
-  vq_set_title(enumedit_dialog[SHELL], "enum_title", shown ? shown->name.c_str() : nullptr);
-  settextf(enumedit_dialog[TYPE], shown ? shown->type_name.c_str() : nullptr);
+  vq_set_title(enumedit_dialog[SHELL], "enum_title", shown ? shown->name : Text());
+  settextf(enumedit_dialog[TYPE], shown ? shown->type_name : Text());
   show_symbols({});
   if (shown) {
     refill(enumentry_editor, true);

@@ -6,8 +6,8 @@
 
 #include "vqc/cmd/editors/entity_dialog.h"
 #include "vqc/cmd/editors/enumedit.h"
+#include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/list_page.h"
-#include "vqc/cmd/model/enumlist.h"
 
 namespace vqc::editors {
 
@@ -26,13 +26,13 @@ const ListPage enumerations = {.name = "enumlist",
                                .quit = entity_do_hide,
                                .rows = separator_rows};
 
-void select_enum(const Text& name) { enumlist_setcurrent(enumlist_ptr(family_getcurrent(), name)); }
+void select_enum(Name name) { enumlist_setcurrent(enumlist_ptr(family_getcurrent(), name)); }
 
-void enum_added(const Text& name) {
+void enum_added(Name name) {
   if (!enumlist_getcurrent()) select_enum(name);
 }
 
-void edit_enum(const Text& name) {
+void edit_enum(Name name) {
   select_enum(name);
   enumedit_show();
 }

@@ -9,8 +9,8 @@
 
 #include "vqc/cmd/editors/entity_dialog.h"
 #include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
-#include "vqc/cmd/model/family.h"
 
 namespace vqc::editors {
 
@@ -54,14 +54,15 @@ DialogPart familyinit_page() { return part(rows, links); }
 
 void familyinit_setfamily(const Family* family) {
   if (!entity_dialog) return;
-  settextf(entity_dialog[FAMILYINIT_INIT], family ? family->family_init.c_str() : nullptr);
+  settextf(entity_dialog[FAMILYINIT_INIT], family ? family->family_init : Text());
   for (const auto& [toggle, flag] : init_flags) settoggle(entity_dialog[toggle], family && family->*flag);
 }
 
 void family_init_do_update(Widget, XtPointer, XtPointer) {
   Family* family = family_getcurrent();
   if (!entity_dialog || !family) return;
-  family->family_init = gettextf(entity_dialog[FAMILYINIT_INIT]);  // an empty text is a text here
+  const std::string init = gettextf(entity_dialog[FAMILYINIT_INIT]);
+  family->family_init = edited_document.keep(Name(init));  // an empty text is a text here
   for (const auto& [toggle, flag] : init_flags) gettoggle(entity_dialog[toggle], &(family->*flag));
 }
 

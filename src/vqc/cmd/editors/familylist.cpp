@@ -43,25 +43,25 @@ DialogPart familylist_page() { return list_page(families); }
 ListEditor family_editor{
     .dialog = family_dialog,
     .box_slot = FAMILY_SELECTION,
-    .names = {.has = [](const Text& name) { return family_ptr(name) != nullptr; },
+    .names = {.has = [](Name name) { return family_ptr(name) != nullptr; },
               .add = family_add,
               .remove = family_delete,
-              .position = [](const Text& name) { return family_pool.position(family_pool.list, name); },
-              .move_up = [](const Text& name, bool) { return family_move_up(name); },
-              .move_down = [](const Text& name, bool) { return family_move_down(name); },
+              .position = [](Name name) { return edited_document.families.position(name); },
+              .move_up = [](Name name, bool) { return family_move_up(name); },
+              .move_down = [](Name name, bool) { return family_move_down(name); },
               .names = names_in_pool<family_pool>},
     .added =
-        [](const Text& name) {
+        [](Name name) {
           if (!family_getcurrent()) family_setcurrent(family_ptr(name));
           refresh_names(page_picker);  // the first family brings what every family has
           refresh_names(popup_picker);
         },
     .accepted =
-        [](const Text& name) {
+        [](Name name) {
           family_setcurrent(family_ptr(name));
           entity_show();
         },
-    .selected = [](const Text& name) { family_setcurrent(family_ptr(name)); },
+    .selected = [](Name name) { family_setcurrent(family_ptr(name)); },
     .delete_clears_name = true,
 };
 

@@ -9,19 +9,18 @@
 #include <string>
 
 #include "libkel/message.h"
+#include "vqc/cmd/editors/document_files.h"
 #include "vqc/cmd/editors/familylist.h"
 #include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/file_box.h"
+#include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/options.h"
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
+#include "vqc/cmd/editors/stop.h"
 #include "vqc/cmd/editors/title.h"
-#include "vqc/cmd/model/document.h"
-#include "vqc/cmd/model/family.h"
-#include "vqc/cmd/savefile/parse.h"
-#include "vqc/cmd/savefile/save.h"
 
 namespace vqc::editors {
 
@@ -75,7 +74,7 @@ constexpr Question questions[] = {
 std::string question_text(SaveOp operation) {
   for (const Question& question : questions) {
     if (question.operation != operation) continue;
-    return filled(text_or_name(save_file ? question.named : question.unnamed), {save_file});
+    return filled(text_or_name(save_file ? question.named : question.unnamed), {save_file_path()});
   }
   return {};
 }
@@ -83,7 +82,7 @@ std::string question_text(SaveOp operation) {
 void show_save_dialog(const char* title) {
   if (!ensure_dialog(save_dialog, create_save_dialog)) return;
   title_file_box(save_dialog[BOX], title);
-  show_file_box(save_dialog[BOX], save_file, name_in_box(save_dialog[BOX], save_file));
+  show_file_box(save_dialog[BOX], save_file_path(), name_in_box(save_dialog[BOX], save_file.value_or("")));
 }
 
 void close_save_dialog() {
@@ -92,6 +91,7 @@ void close_save_dialog() {
 
 /// Shows what a load has added to the document. What is typed in the page and popup editors stays.
 void show_additions() {
+  show_stop_list();
   family_display();
   family_setcurrent(nullptr);
   refresh_names(page_picker);
@@ -117,6 +117,14 @@ void run_save_op() {
   }
 }
 
+/// Saves the document to its file, and goes on with what waits for that.
+void save_document() {
+  if (!write_save_file(save_file_path())) return;
+  vqc_set_title(save_file_path());
+  run_save_op();
+  save_op = SaveOp::none;
+}
+
 /// Carries out an operation that loses the document, after the question if something has changed.
 void unless_changed(Widget w, SaveOp operation, void (*carry_out)()) {
   const BusyCursor busy(w);
@@ -136,9 +144,11 @@ Widget* create_savechanges_dialog(Widget parent) {
   return build_dialog(parent, savechanges_rows, SLOTS, savechanges_links);
 }
 
-void document_saved() {
-  run_save_op();
-  save_op = SaveOp::none;
+bool load_document() {
+  const bool opened = parseit(save_file, 1) != 0;
+  dirty = false;
+  if (opened) vqc_set_title(save_file_path());
+  return opened;
 }
 
 std::span<const CommandKey> file_command_keys() {
@@ -156,9 +166,9 @@ void show_document() {
 void do_new(Widget w, XtPointer, XtPointer) { unless_changed(w, SaveOp::start_new, really_do_new); }
 
 void really_do_new() {
-  clear_document();
+  edited_document.clear();
   options_dialog_reset();
-  save_file = nullptr;
+  save_file = std::nullopt;
   dirty = false;
   show_document();
   vqc_set_title(nullptr);
@@ -169,14 +179,13 @@ void do_exit(Widget w, XtPointer, XtPointer) { unless_changed(w, SaveOp::exit, r
 void open_do_popup(Widget w, XtPointer, XtPointer) { unless_changed(w, SaveOp::open, really_open_popup); }
 
 void really_open_popup() {
-  if (ensure_dialog(open_dialog, create_open_dialog)) show_file_box(open_dialog[BOX], save_file);
+  if (ensure_dialog(open_dialog, create_open_dialog)) show_file_box(open_dialog[BOX], save_file_path());
 }
 
 void do_open(Widget w, XtPointer, XtPointer call) {
   const BusyCursor busy(w);
   save_file = chosen_path(w, call);
-  parseit(&save_file, 1);
-  dirty = false;
+  load_document();
   hide_dialog(open_dialog[BOX]);
   show_document();
   options_dialog_load();
@@ -186,13 +195,13 @@ void open_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(open_dialog[BOX]);
 
 void read_do_popup(Widget w, XtPointer, XtPointer) {
   const BusyCursor busy(w);
-  if (ensure_dialog(read_dialog, create_read_dialog)) show_file_box(read_dialog[BOX], save_file);
+  if (ensure_dialog(read_dialog, create_read_dialog)) show_file_box(read_dialog[BOX], save_file_path());
 }
 
 void do_read(Widget w, XtPointer, XtPointer call) {
   const BusyCursor busy(w);
-  Text path = chosen_path(w, call);
-  parseit(&path, 0);
+  std::optional<std::string> path = chosen_path(w, call);
+  parseit(path, 0);
   hide_dialog(read_dialog[BOX]);
   show_additions();
 }
@@ -213,7 +222,7 @@ void saveas_do_popup(Widget w, XtPointer, XtPointer) {
 
 void really_save_popup() {
   if (save_file) {
-    write_save_file(save_file);
+    save_document();
   } else {
     show_save_dialog("save_title");
   }
@@ -223,7 +232,7 @@ void do_save(Widget w, XtPointer, XtPointer call) {
   const BusyCursor busy(w);
   save_file = chosen_path(w, call);
   close_save_dialog();
-  write_save_file(save_file);
+  save_document();
 }
 
 void save_do_hide(Widget, XtPointer, XtPointer) {

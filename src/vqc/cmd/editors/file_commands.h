@@ -30,11 +30,11 @@ inline void delete_savechanges_dialog(Widget* record) { delete_dialog(record); }
 enum class SaveOp { none, open, start_new, exit };
 inline SaveOp save_op = SaveOp::none;
 
-/// Carries out, once the document has been saved, what waits for that.
-void document_saved();
-
 /// The commands that a letter with Ctrl gives in every window.
 std::span<const CommandKey> file_command_keys();
+
+/// Loads the document's file in the place of what there is. False when that cannot be done, which is shown.
+bool load_document();
 
 /// Shows what a load has left in the model, with no family current.
 void show_document();

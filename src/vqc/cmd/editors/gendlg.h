@@ -20,9 +20,6 @@ void genstubs_do_popup(Widget w, XtPointer, XtPointer);
 void gen_do_generate(Widget w, XtPointer, XtPointer call);
 void gen_do_hide(Widget w, XtPointer, XtPointer);
 
-/// What the toggles say.
-extern const FamilyChoice toggled_families;
-
 }  // namespace vqc::editors
 
 #endif

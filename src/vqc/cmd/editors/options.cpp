@@ -16,8 +16,8 @@
 #include "libkel/overwhite.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/given_options.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
-#include "vqc/cmd/model/options.h"
 
 namespace vqc::editors {
 
@@ -102,12 +102,11 @@ constexpr OptionField option_fields[] = {
     {PAGE_NAMES, &NameOptions::page_names},
 };
 
-/// The first word of a text; null when it has none.
-Text first_word(const Text& text) {
-  std::string copy(text.view());
-  char* word = overwhite(copy.data());
+/// The first word of a text, for the document; null when it has none.
+Text first_word(std::string text) {
+  char* word = overwhite(text.data());
   *nextwhite(word) = '\0';
-  return non_empty(word);
+  return edited_document.keep(non_empty(word));
 }
 
 }  // namespace
@@ -128,19 +127,20 @@ void options_popup(Widget parent) {
 
 void options_dialog_load() {
   if (!options_shell) return;
-  for (const auto& [field, option] : option_fields) settextf(options_shell[field], (name_options.*option).value());
+  for (const auto& [field, option] : option_fields)
+    settextf(options_shell[field], (edited_document.names.*option).value());
   XmToggleButtonSetState(options_shell[COMMENT], vqc_comment_code() ? True : False, True);
   XmToggleButtonSetState(options_shell[VERBOSE], vqc_verbose_code() ? True : False, True);
 }
 
 void options_dialog_reset() {
-  for (const auto& [field, option] : option_fields) (name_options.*option).document = nullptr;
+  for (const auto& [field, option] : option_fields) (edited_document.names.*option).document = nullptr;
   options_dialog_load();
 }
 
 void options_ok_callback(Widget, XtPointer, XtPointer) {
   for (const auto& [field, option] : option_fields) {
-    (name_options.*option).document = first_word(gettextf(options_shell[field]));
+    (edited_document.names.*option).document = first_word(gettextf(options_shell[field]));
   }
   hide_dialog(options_shell[FORM]);
 }

@@ -8,9 +8,8 @@
 
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/list_page.h"
-#include "vqc/cmd/model/builtin.h"
-#include "vqc/cmd/model/page.h"
 
 namespace vqc::editors {
 
@@ -48,20 +47,18 @@ Widget* create_pageedit_dialog(Widget parent) {
 Picker page_picker{
     .editor = {.dialog = pageedit_dialog, .box_slot = BOX, .names = names_to_pick<page_kind, page_pool>()},
     .create = create_pageedit_dialog,
-    .exists = [](const Text& name) { return page_ptr(name) != nullptr; },
-    .show = [](const Text& name) { page_setcurrent(page_ptr(name)); },
+    .exists = [](Name name) { return page_ptr(name) != nullptr; },
+    .show = [](Name name) { page_setcurrent(page_ptr(name)); },
     .builtin_kind = BUILTIN_PAGE,
 };
 
 void pagelist_do_add(Widget w, XtPointer, XtPointer) {
-  const Text name = page_picker.name();
+  const std::string name = page_picker.name();
   if (name.empty()) return;
   const BusyCursor busy(w);
   page_into_family(name);
 }
 
-void current_page_changed(PageDef* page) {
-  settextf(page_picker.editor.name_field(), page ? page->name.c_str() : nullptr);
-}
+void current_page_changed(PageDef* page) { settextf(page_picker.editor.name_field(), page ? page->name : Text()); }
 
 }  // namespace vqc::editors

@@ -30,7 +30,7 @@ inline constexpr XtCallbackProc pagelist_do_down = do_picker_down<page_picker>;
 void pagelist_do_add(Widget w, XtPointer, XtPointer);
 
 /// Gives the current family, if there is one, a page of that name.
-inline void page_into_family(const Text& name) { name_into_family(page_picker, name); }
+inline void page_into_family(Name name) { name_into_family(page_picker, name); }
 
 /// Hears that another page, or none, is current now.
 void current_page_changed(PageDef* page);

@@ -5,23 +5,23 @@
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/generate/name_set.h"
-#include "vqc/cmd/model/builtin.h"
 
 namespace vqc::editors {
 
-Text Picker::name() const { return gettextf(editor.name_field()); }
+std::string Picker::name() const { return gettextf(editor.name_field()); }
 
 namespace {
 
 /// Where the list, which lacks what has been removed, has a name that is new to it: it has the order of the document.
-int place_in_list(const ListEditor& editor, const Text& name) {
+int place_in_list(const ListEditor& editor, Name name) {
   NameSet shown;
-  for (const Text& each : list_names(editor.list())) shown.insert(each);
+  for (Name each : list_names(editor.list())) shown.add(Name(each));
   int place = 1;
-  for (const Text& other : editor.names.names()) {
-    if (other == name) break;
-    if (shown.contains(other)) ++place;
+  for (Name other : editor.names.names()) {
+    if (Name(other) == name) break;
+    if (shown.contains(Name(other))) ++place;
   }
   return place;
 }
@@ -47,11 +47,11 @@ int show_all_names(const Picker& picker) {
 
 void refresh_names(const Picker& picker) {
   if (!picker.editor.dialog) return;
-  const std::vector<Text> names = picker.editor.names.names();
+  const std::vector<std::string> names = picker.editor.names.names();
   if (names != list_names(picker.editor.list())) list_show(picker.editor.list(), names);
 }
 
-void name_into_family(const Picker& picker, const Text& name) {
+void name_into_family(const Picker& picker, Name name) {
   const ListEditor& editor = picker.editor;
   if (editor.names.has(name) || with_memory(editor.names.add(name)) != 0 || !editor.dialog) return;
   if (list_position(editor.list(), name) == 0) list_insert(editor.list(), name, place_in_list(editor, name));
@@ -64,12 +64,12 @@ void apply_picked(Widget w, const Picker& picker) {
   settextf(picker.field, picker.name());
 }
 
-void show_picked(const Picker& picker, const Text& name) {
+void show_picked(const Picker& picker, Name name) {
   if (picker.exists(name)) picker.show(name);
 }
 
 void remove_picked(Widget w, const Picker& picker) {
-  const Text name = picker.name();
+  const std::string name = picker.name();
   if (name.empty() || check_builtin_name(name, picker.builtin_kind)) return;
   const BusyCursor busy(w);
   if (!picker.editor.names.has(name)) return;

@@ -14,13 +14,16 @@ template <auto& kind, auto& pool>
 NamesOf names_to_pick() {
   NamesOf names = names_in_family<kind>();
   names.names = names_in_pool<pool>;
-  names.move_up = [](const Text& name, bool) {
+  names.move_up = [](Name name, bool) {
     Family* family = family_getcurrent();
-    return kind.index(family, name) == 1 ? kind.codes.cannot_move : kind.move_up(family, name);
+    return kind.index(family, name) == 1 ? std::remove_reference_t<decltype(kind)>::List::codes.cannot_move
+                                         : kind.move_up(family, name);
   };
-  names.move_down = [](const Text& name, bool) {
+  names.move_down = [](Name name, bool) {
     Family* family = family_getcurrent();
-    return kind.index(family, name) == kind.count(family) ? kind.codes.cannot_move : kind.move_down(family, name);
+    return kind.index(family, name) == kind.count(family)
+               ? std::remove_reference_t<decltype(kind)>::List::codes.cannot_move
+               : kind.move_down(family, name);
   };
   return names;
 }
@@ -30,13 +33,13 @@ NamesOf names_to_pick() {
 struct Picker {
   ListEditor editor;
   Widget* (*create)(Widget parent);
-  bool (*exists)(const Text& name);
-  void (*show)(const Text& name);  // shows the record of that name, or none
+  bool (*exists)(Name name);
+  void (*show)(Name name);         // shows the record of that name, or none
   int builtin_kind;                // of names that cannot be removed
   Widget field = nullptr;          // who asked
   bool (*has_target)() = nullptr;  // whether what the field belongs to is there
 
-  Text name() const;
+  std::string name() const;
 };
 
 /// Shows the picker, made when it is first needed as a child of `parent`, with the name that `field` holds. The field
@@ -49,12 +52,12 @@ int show_all_names(const Picker& picker);
 void refresh_names(const Picker& picker);
 
 /// Gives the current family, if there is one, the name, and shows it in the list unless it is there.
-void name_into_family(const Picker& picker, const Text& name);
+void name_into_family(const Picker& picker, Name name);
 
 // The buttons, as callbacks.
 
 void apply_picked(Widget w, const Picker& picker);
-void show_picked(const Picker& picker, const Text& name);
+void show_picked(const Picker& picker, Name name);
 void remove_picked(Widget w, const Picker& picker);
 
 template <Picker& picker>
@@ -67,7 +70,7 @@ void do_hide(Widget, XtPointer, XtPointer) {
 }
 template <Picker& picker>
 void do_show(Widget w, XtPointer, XtPointer call) {
-  with_clicked_name(w, call, picker.editor, [](const ListEditor&, const Text& name) { show_picked(picker, name); });
+  with_clicked_name(w, call, picker.editor, [](const ListEditor&, Name name) { show_picked(picker, name); });
 }
 template <Picker& picker>
 void do_remove(Widget w, XtPointer, XtPointer) {

@@ -9,9 +9,8 @@
 
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/list_page.h"
-#include "vqc/cmd/model/builtin.h"
-#include "vqc/cmd/model/popup.h"
 
 namespace vqc::editors {
 
@@ -42,7 +41,7 @@ const ListPage popups = {.name = "popupedit",
                          .form = "popupedit_work_area",
                          .rows = work_rows};
 
-void show_popup(const Text& name) { popup_setcurrent(popup_ptr(name)); }
+void show_popup(Name name) { popup_setcurrent(popup_ptr(name)); }
 
 }  // namespace
 
@@ -53,13 +52,13 @@ Widget* create_popupedit_dialog(Widget parent) {
 Picker popup_picker{
     .editor = {.dialog = popupedit_dialog, .box_slot = BOX, .names = names_to_pick<popup_kind, popup_pool>()},
     .create = create_popupedit_dialog,
-    .exists = [](const Text& name) { return popup_ptr(name) != nullptr; },
+    .exists = [](Name name) { return popup_ptr(name) != nullptr; },
     .show = show_popup,
     .builtin_kind = BUILTIN_POPUP,
 };
 
 void popuplist_do_add(Widget w, XtPointer, XtPointer) {
-  const Text name = popup_picker.name();
+  const std::string name = popup_picker.name();
   if (name.empty()) return;
   const BusyCursor busy(w);
   if (check_builtin_name(name, BUILTIN_POPUP)) return show_popup(name);
@@ -72,9 +71,9 @@ void popuplist_do_add(Widget w, XtPointer, XtPointer) {
 
 void current_popup_changed(PopupDef* popup) {
   if (!popupedit_dialog) return;
-  settextf(popup_picker.editor.name_field(), popup ? popup->name.c_str() : nullptr);
-  settextf(popupedit_dialog[INIT], popup ? popup->dialog_init.c_str() : nullptr);
-  settextf(popupedit_dialog[UPDATE], popup ? popup->dialog_update.c_str() : nullptr);
+  settextf(popup_picker.editor.name_field(), popup ? popup->name : Text());
+  settextf(popupedit_dialog[INIT], popup ? popup->dialog_init : Text());
+  settextf(popupedit_dialog[UPDATE], popup ? popup->dialog_update : Text());
 }
 
 }  // namespace vqc::editors

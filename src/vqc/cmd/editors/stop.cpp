@@ -16,8 +16,8 @@
 
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/given_options.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
-#include "vqc/cmd/model/stop.h"
 
 namespace vqc::editors {
 
@@ -159,14 +159,20 @@ void stop_list_do_apply(Widget, XtPointer, XtPointer) {
     if (!classes.empty()) classes += ',';
     classes += each->name;
   }
-  stop_list_set(classes.empty() ? nullptr : classes.c_str());
+  stop_list_set(classes.empty() ? Name(nullptr) : Name(classes));
 }
 
 void stop_list_do_popdown(Widget, XtPointer, XtPointer) { hide_dialog(stop_list_shell[FORM]); }
 
+void stop_list_set(Name classes) {
+  edited_document.excluded_classes = edited_document.keep(classes);
+  show_stop_list();
+}
+
 void show_stop_list() {
   if (!stop_list_shell) return;
-  for (const StopClass& each : stop_classes) settoggle(toggle_of(each), excluded(excluded_classes.view(), each.name));
+  for (const StopClass& each : stop_classes)
+    settoggle(toggle_of(each), excluded(edited_document.excluded_classes.view(), each.name));
 }
 
 }  // namespace vqc::editors

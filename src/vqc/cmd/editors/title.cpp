@@ -17,10 +17,11 @@ void vqc_set_title(const char* path) {
   XtVaSetValues(main_shell(), XmNtitle, title.c_str(), nullptr);
 }
 
-void vq_set_title(Widget shell, const char* resource_name, const char* arg) {
+void vq_set_title(Widget shell, const char* resource_name, Text arg) {
   const char* format = vq_lookup_string(resource_name);
   if (!format || !*format) return;
-  const std::string title = filled(format, {arg ? arg : vq_lookup_string("none")});
+  const std::string shown(arg ? arg.view() : Text(vq_lookup_string("none")).view());
+  const std::string title = filled(format, {shown.c_str()});
   XtVaSetValues(shell, XmNtitle, title.c_str(), nullptr);
 }
 

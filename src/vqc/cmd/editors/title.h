@@ -5,6 +5,8 @@
 
 #include <Xm/Xm.h>
 
+#include "libkel/text.h"
+
 namespace vqc::editors {
 
 /// Titles the main window with the program's name and the leaf name of `path`; null stands for a document without a
@@ -13,7 +15,7 @@ void vqc_set_title(const char* path);
 
 /// Titles a shell with the text of the message resource `resource_name`, filled with `arg`, or with the text of "none"
 /// when that is null. Nothing happens when there is no such text.
-void vq_set_title(Widget shell, const char* resource_name, const char* arg);
+void vq_set_title(Widget shell, const char* resource_name, Text arg);
 
 }  // namespace vqc::editors
 

@@ -16,12 +16,12 @@
 
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/kit/shown_names.h"
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
 #include "vqc/cmd/editors/title.h"
-#include "vqc/cmd/model/widgetedit.h"
 
 namespace vqc::editors {
 
@@ -248,7 +248,7 @@ constexpr AccessToggle access_toggles[] = {
 /// What waits for the answer about a changed resource.
 enum class Pending { none, close, show_resource };
 Pending pending = Pending::none;
-Text pending_resource;
+std::string pending_resource;
 
 bool resource_changed = false;
 
@@ -311,7 +311,7 @@ void clear_resource() {
   show_free_modes({});
 }
 
-void show_resource(const Text& name) {
+void show_resource(Name name) {
   settextf(at(RESOURCE), name);
   const ResourceDef* known = resource_ptr(current_widget(), name);
   const ResourceDef& resource = known ? *known : ResourceDef{};
@@ -335,7 +335,7 @@ void store_resource(ResourceDef& resource) {
 
 /// Adds the resource that the fields name, or rewrites it.
 void update_resource(WidgetDef& widget) {
-  const Text name = gettextf(at(RESOURCE));
+  const std::string name = gettextf(at(RESOURCE));
   if (name.empty()) return;
   dirty = true;
   if (!resource_ptr(&widget, name)) {
@@ -352,14 +352,14 @@ void ask_about_resource(Pending action) {
   show_dialog(resource_warn_dialog[WARN_BOX], Place::over);
 }
 
-std::vector<Text> resource_names(const WidgetDef& widget) {
-  std::vector<Text> names;
-  for (const ResourceDef& resource : widget.resource_definitions) names.push_back(resource.name);
+std::vector<std::string> resource_names(const WidgetDef& widget) {
+  std::vector<std::string> names;
+  for (const ResourceDef& resource : widget.resource_definitions) names.emplace_back(resource.name.view());
   return names;
 }
 
 void show_widget(const WidgetDef* widget) {
-  vq_set_title(at(SHELL), "widget_title", widget ? widget->name.c_str() : nullptr);
+  vq_set_title(at(SHELL), "widget_title", widget ? widget->name : Text());
   const WidgetDef new_widget;
   const WidgetDef& shown = widget ? *widget : new_widget;
   for (const auto& [field, text] : text_fields) settextf(at(field), shown.*text);
@@ -423,7 +423,7 @@ void widget_do_undo(Widget w, XtPointer, XtPointer) {
 
 void we_select_cb(Widget w, XtPointer, XtPointer call) {
   const BusyCursor busy(w);
-  const Text name = clicked_name(w, *static_cast<XmListCallbackStruct*>(call));
+  const std::string name = clicked_name(w, *static_cast<XmListCallbackStruct*>(call));
   if (resource_changed) {
     pending_resource = name;
     ask_about_resource(Pending::show_resource);
@@ -440,7 +440,7 @@ void we_popup_update_cb(Widget w, XtPointer, XtPointer) {
 void we_popup_delete_cb(Widget w, XtPointer, XtPointer) {
   const BusyCursor busy(w);
   WidgetDef* widget = current_widget();
-  const Text name = gettextf(at(RESOURCE));
+  const std::string name = gettextf(at(RESOURCE));
   if (!resource_ptr(widget, name)) return;
   list_delete(at(RESOURCE_LIST), name);
   we_resource_delete(widget, name);

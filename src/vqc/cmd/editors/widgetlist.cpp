@@ -3,9 +3,9 @@
 #include "vqc/cmd/editors/widgetlist.h"
 
 #include "vqc/cmd/editors/entity_dialog.h"
+#include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/list_page.h"
 #include "vqc/cmd/editors/widgetedit.h"
-#include "vqc/cmd/model/widgetedit.h"
 
 namespace vqc::editors {
 
@@ -23,13 +23,13 @@ const ListPage widgets = {.name = "widgetlist",
                           .down = widgetlist_do_down,
                           .quit = entity_do_hide};
 
-void select_widget(const Text& name) { widgetlist_setcurrent(widgetlist_ptr(family_getcurrent(), name)); }
+void select_widget(Name name) { widgetlist_setcurrent(widgetlist_ptr(family_getcurrent(), name)); }
 
-void widget_added(const Text& name) {
+void widget_added(Name name) {
   if (!widgetlist_getcurrent()) select_widget(name);
 }
 
-void edit_widget(const Text& name) {
+void edit_widget(Name name) {
   select_widget(name);
   widgetedit_show();
 }

@@ -3,6 +3,8 @@
 
 #include "vqc/cmd/generate/walk.h"
 
+namespace vqc {
+
 /// Writes the widget set description code: the class records of the widgets and the declarations they need.
 void write_code_file(Run& run);
 
@@ -11,5 +13,7 @@ void write_code_file(Run& run);
 void write_widget_includes(Run& run);
 void write_procedure_declarations(Run& run);
 void write_class_records(Run& run);
+
+}  // namespace vqc
 
 #endif

@@ -1,7 +1,8 @@
 // The sections that name the class records of the code file.
 
 #include "vqc/cmd/generate/config_file.h"
-#include "vqc/cmd/model/options.h"
+
+namespace vqc {
 
 namespace {
 
@@ -18,29 +19,30 @@ constexpr bool kNeverRepeat = false;  // one declaration and one pointer are eno
 }  // namespace
 
 void write_class_declarations(Run& run) {
-  clear_done(widget_pool);
+  Done done;
   bool written = false;
-  each_family([&](Family& family) {
-    const Heading heading(run, family, "XWidget class records");
-    each_once(family.widgets, kNeverRepeat, heading, [&](const WidgetDef& widget, bool) {
-      emit<declaration>(run.out, widget.name);
+  for (const Family* family : run.families) {
+    const Heading heading(run, *family, "XWidget class records");
+    each_once(family->widgets, done, kNeverRepeat, heading, [&](const WidgetDef& widget, bool) {
+      emit<declaration>(run.out, bind<"WIDGET">(printed(widget.name)));
       written = true;
     });
-    charout(&run.out, "\n");
-  });
-  if (written) charout(&run.out, "\n");
+    run.out.write("\n");
+  }
+  if (written) run.out.write("\n");
 }
 
 void write_class_pointers(Run& run) {
-  clear_done(widget_pool);
+  Done done;
   write_title(run, "XWidget records");
-  emit<pointers_head>(run.out, vqc_get_xwidgets_variable());
-  each_family([&](Family& family) {
-    for (auto& reference : family.widgets) {
-      WidgetDef& widget = *reference.record;
-      if (!done(widget)) emit<pointer_row>(run.out, widget.name);
-      done(widget) = true;
-    }
-  });
+  emit<pointers_head>(run.out, bind<"XWIDGETS">(printed(run.document.names.xwidgets.value())));
+  for (const Family* family : run.families) {
+    Heading no_heading(run, *family, {});
+    no_heading.suppress();
+    each_once(family->widgets, done, kNeverRepeat, no_heading,
+              [&](const WidgetDef& widget, bool) { emit<pointer_row>(run.out, bind<"WIDGET">(printed(widget.name))); });
+  }
   emit<pointers_end>(run.out);
 }
+
+}  // namespace vqc

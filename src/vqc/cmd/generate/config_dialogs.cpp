@@ -1,7 +1,8 @@
 // The sections on what edits resources: the popup dialogs and the pages of the resource panel.
 
 #include "vqc/cmd/generate/config_file.h"
-#include "vqc/cmd/model/options.h"
+
+namespace vqc {
 
 namespace {
 
@@ -12,7 +13,7 @@ constexpr Template popup_row = "\t{@NAME@,@INIT@,@UPDATE@, False},";
 constexpr Template popups_end =
     "\t{(void (*)()) 0, (void (*)()) 0, (void (*)()) 0, False}\n"
     "};\n\n";
-constexpr const char* kNoProcedure = "(void (*)()) 0";
+constexpr std::string_view kNoProcedure = "(void (*)()) 0";
 
 constexpr Template page_names_head = "char *@PAGE_NAMES@[] = {\n";
 constexpr Template page_row = "\t\"@NAME@\",";
@@ -23,80 +24,74 @@ constexpr Template page_names_end =
     "};\n\n";
 
 void declare_procedures(Run& run, const PopupDef& popup) {
-  for (const Text& procedure : {popup.name, popup.dialog_init, popup.dialog_update}) {
-    if (procedure) emit<procedure_declaration>(run.out, procedure);
+  for (const Text procedure : {popup.name, popup.dialog_init, popup.dialog_update}) {
+    if (procedure) emit<procedure_declaration>(run.out, bind<"PROCEDURE">(printed(procedure)));
   }
 }
 
 void write_popup(Run& run, const PopupDef& popup) {
-  emit<popup_row>(run.out, Or{popup.name, kNoProcedure}, Or{popup.dialog_init, kNoProcedure},
-                  Or{popup.dialog_update, kNoProcedure});
+  emit<popup_row>(run.out, bind<"NAME">(printed(popup.name)), bind<"INIT">(printed(popup.dialog_init, kNoProcedure)),
+                  bind<"UPDATE">(printed(popup.dialog_update, kNoProcedure)));
 }
 
 void write_page_name(Run& run, const PageDef& page, bool repeat) {
-  emit<page_row>(run.out, page.name);
-  if (!run.comment) return;
-  repeat ? emit<repeated_page_comment>(run.out, page.index) : emit<page_comment>(run.out, page.index);
+  emit<page_row>(run.out, bind<"NAME">(printed(page.name)));
+  if (!run.switches.comment) return;
+  const auto place = bind<"N">(run.pages.of(page.name));
+  repeat ? emit<repeated_page_comment>(run.out, place) : emit<page_comment>(run.out, place);
 }
 
 }  // namespace
 
 void write_popup_declarations(Run& run) {
-  clear_done_and_index(popup_pool);
+  Done done;
   bool written = false;
-  each_family([&](Family& family) {
-    const Heading heading(run, family, "Externally defined functions");
-    each_once(family.popups, run.verbose, heading, [&](const PopupDef& popup, bool repeat) {
+  for (const Family* family : run.families) {
+    const Heading heading(run, *family, "Externally defined functions");
+    each_once(family->popups, done, run.switches.verbose, heading, [&](const PopupDef& popup, bool repeat) {
       write_around(run.out, around_block, repeat, [&] { declare_procedures(run, popup); });
       written = true;
     });
-  });
-  if (written) charout(&run.out, "\n");
+  }
+  if (written) run.out.write("\n");
 }
 
 void write_popups(Run& run) {
-  clear_done_and_index(popup_pool);
+  Done done;
   write_title(run, "Popup definitions");
-  emit<popups_head>(run.out, vqc_get_popups_variable());
-  int next_index = 0;
-  each_family([&](Family& family) {
-    each_once(family.popups, run.verbose, Heading(run, family, nullptr), [&](PopupDef& popup, bool repeat) {
-      if (!repeat) popup.index = next_index++;
+  emit<popups_head>(run.out, bind<"POPUPS">(printed(run.document.names.popups.value())));
+  for (const Family* family : run.families) {
+    const Heading heading(run, *family, {});
+    each_once(family->popups, done, run.switches.verbose, heading, [&](const PopupDef& popup, bool repeat) {
+      if (!repeat) run.popups.add(popup.name);
       write_around(run.out, around_row, repeat, [&] { write_popup(run, popup); });
     });
-  });
+  }
   emit<popups_end>(run.out);
 }
 
-const PopupDef* written_popup(const Text& name) {
-  PopupDef* popup = name ? popup_pool.list.find(name) : nullptr;
-  return popup && done(*popup) ? popup : nullptr;
+PopupReference reference_to_popup(const Run& run, Text name) {
+  return {run.document.names.popups.value(), name ? run.popups.of(name) : -1};
 }
 
-void put(Stream& out, const PopupReference& reference) {
-  if (reference.popup) {
-    emit<"&(@POPUPS@[@INDEX@])">(out, vqc_get_popups_variable(), reference.popup->index);
-  } else {
-    rawout(&out, "(Popup_p) 0");
-  }
+void put(Sink& out, const PopupReference& reference) {
+  if (reference.place < 0) return out.write("(Popup_p) 0");
+  emit<"&(@POPUPS@[@INDEX@])">(out, bind<"POPUPS">(printed(reference.table)), bind<"INDEX">(reference.place));
 }
 
 /// Repeats of pages are a comment for the reader, and so are written with the comments.
 void write_page_names(Run& run) {
-  clear_done_and_index(page_pool);
+  Done done;
   write_title(run, "Page names");
-  emit<page_names_head>(run.out, vqc_get_page_names_variable());
-  int next_index = 0;
-  each_family([&](Family& family) {
-    each_once(family.pages, run.comment, Heading(run, family, nullptr), [&](PageDef& page, bool repeat) {
-      if (!repeat) page.index = next_index++;
+  emit<page_names_head>(run.out, bind<"PAGE_NAMES">(printed(run.document.names.page_names.value())));
+  for (const Family* family : run.families) {
+    const Heading heading(run, *family, {});
+    each_once(family->pages, done, run.switches.comment, heading, [&](const PageDef& page, bool repeat) {
+      if (!repeat) run.pages.add(page.name);
       write_around(run.out, around_row, repeat, [&] { write_page_name(run, page, repeat); });
     });
-  });
+  }
   emit<page_names_end>(run.out);
 }
 
-int written_page(const Text& name) {
-  PageDef* page = name ? page_pool.list.find(name) : nullptr;
-  return page && done(*page) ? page->index : -1;
-}
+}  // namespace vqc

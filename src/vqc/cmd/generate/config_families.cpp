@@ -1,10 +1,12 @@
 // The sections on the families themselves.
 
 #include <string>
+#include <vector>
 
 #include "libkel/keltype.h"
 #include "vqc/cmd/generate/config_file.h"
-#include "vqc/cmd/model/options.h"
+
+namespace vqc {
 
 namespace {
 
@@ -59,7 +61,7 @@ bool is_kept(char c) { return kel_is(c, KEL_LETTER | KEL_UNDERSCORE); }
 
 /// What the identifiers of a family begin with: its name if that is letters and underscores only, else what comes
 /// before the first other character (a digit too) and the family's number among those that take part.
-std::string identifier_base(const Family& family, int index) {
+std::string identifier_base(const Family& family, std::size_t index) {
   const std::string_view name = family.name.view();
   std::size_t size = 0;
   while (size < name.size() && is_kept(name[size])) ++size;
@@ -67,57 +69,69 @@ std::string identifier_base(const Family& family, int index) {
   return size == name.size() ? base : base + "_" + std::to_string(index);
 }
 
-void write_headers_block(Run& run, const Family& family, const std::string& base) {
-  emit<headers_head>(run.out, family.name, base);
-  for (const auto& header : family.family_headers) emit<header_row>(run.out, header.record->name);
+void write_headers_block(Run& run, const Family& family, std::string_view base) {
+  emit<headers_head>(run.out, bind<"FAMILY">(printed(family.name)), bind<"BASE">(ours(base)));
+  for (const auto& header : family.family_headers) {
+    emit<header_row>(run.out, bind<"FILE">(printed(header.record->name)));
+  }
   emit<headers_end>(run.out);
 }
 
-void write_widgets_block(Run& run, const Family& family, const std::string& base) {
-  emit<widgets_head>(run.out, family.name, base);
-  for (const auto& widget : family.widgets) emit<widget_row>(run.out, widget.record->name);
+void write_widgets_block(Run& run, const Family& family, std::string_view base) {
+  emit<widgets_head>(run.out, bind<"FAMILY">(printed(family.name)), bind<"BASE">(ours(base)));
+  for (const auto& widget : family.widgets) {
+    emit<widget_row>(run.out, bind<"WIDGET">(printed(widget.record->name)));
+  }
   emit<widgets_end>(run.out);
 }
 
-void write_blocks(Run& run, const Family& family, const std::string& base) {
-  if (family.family_init) emit<init_block>(run.out, family.name, family.family_init, family.family_init);
+void write_blocks(Run& run, const Family& family, std::string_view base) {
+  if (family.family_init) {
+    emit<init_block>(run.out, bind<"FAMILY">(printed(family.name)), bind<"INIT">(printed(family.family_init)));
+  }
   write_headers_block(run, family, base);
   write_widgets_block(run, family, base);
 }
 
-void write_table_row(Run& run, const Family& family, const std::string& base) {
-  const std::string widgets = family.widgets.empty() ? "(XWidgetClass_p *) 0" : base + "_widgets";
-  const std::string headers = family.family_headers.empty() ? "(XFamilyHeader_p) 0" : base + "_headers";
-  emit<table_row>(run.out, family.name, widgets, headers, Quoted{family.family_init, "(char *) 0"},
-                  Or{family.family_init, "(void (*)()) 0"}, family.generate_family_init_vq,
-                  family.generate_family_init_code, family.generate_family_init_pre_shell);
-}
-
-/// Calls `write(family, base)` with each family that takes part.
-template <class Write>
-void each_with_base(Write write) {
-  int index = 0;
-  each_family([&](const Family& family) { write(family, identifier_base(family, index++)); });
+void write_table_row(Run& run, const Family& family, std::string_view base) {
+  const std::string widgets = family.widgets.empty() ? "(XWidgetClass_p *) 0" : std::string(base) + "_widgets";
+  const std::string headers = family.family_headers.empty() ? "(XFamilyHeader_p) 0" : std::string(base) + "_headers";
+  // clang-format off
+  emit<table_row>(run.out,
+       bind<"FAMILY">(printed(family.name)),
+       bind<"WIDGETS">(ours(widgets)),
+       bind<"HEADERS">(ours(headers)),
+       bind<"QUOTED_INIT">(quoted(family.family_init, "(char *) 0")),
+       bind<"INIT">(printed(family.family_init, "(void (*)()) 0")),
+       bind<"VQ">(family.generate_family_init_vq),
+       bind<"CODE">(family.generate_family_init_code),
+       bind<"PRE_SHELL">(family.generate_family_init_pre_shell));
+  // clang-format on
 }
 
 }  // namespace
 
 void write_family_names(Run& run) {
   write_title(run, "Families");
-  emit<names_head>(run.out, vqc_get_family_names_variable());
-  int count = 0;
-  each_family([&](const Family& family) {
-    emit<name_row>(run.out, Verbatim{family.name});
-    ++count;
-  });
+  emit<names_head>(run.out, bind<"FAMILY_NAMES">(printed(run.document.names.family_names.value())));
+  for (const Family* family : run.families) {
+    emit<name_row>(run.out, bind<"FAMILY">(verbatim(family->name)));
+  }
   emit<names_end>(run.out);
-  emit<count_definition>(run.out, vqc_get_family_count_variable(), count);
+  emit<count_definition>(run.out, bind<"FAMILY_COUNT">(printed(run.document.names.family_count.value())),
+                         bind<"N">(static_cast<int>(run.families.size())));
 }
 
 void write_families(Run& run) {
   write_title(run, "Family class records");
-  each_with_base([&](const Family& family, const std::string& base) { write_blocks(run, family, base); });
-  emit<table_head>(run.out, vqc_get_family_table_variable());
-  each_with_base([&](const Family& family, const std::string& base) { write_table_row(run, family, base); });
+  std::vector<std::string> bases;
+  for (const Family* family : run.families) {
+    bases.push_back(identifier_base(*family, bases.size()));
+    write_blocks(run, *family, bases.back());
+  }
+  emit<table_head>(run.out, bind<"FAMILY_TABLE">(printed(run.document.names.family_table.value())));
+  for (std::size_t i = 0; i < bases.size(); ++i) write_table_row(run, *run.families[i], bases[i]);
   emit<table_end>(run.out);
 }
+
+}  // namespace vqc

@@ -1,8 +1,10 @@
+// The config file: its sections in their order, and the stop list.
+
 #include "vqc/cmd/generate/config_file.h"
 
 #include "vqc/cmd/generate/includes.h"
-#include "vqc/cmd/model/options.h"
-#include "vqc/cmd/model/stop.h"
+
+namespace vqc {
 
 namespace {
 
@@ -34,10 +36,9 @@ void write_config_file(Run& run) {
 }
 
 void write_stop_list(Run& run) {
-  const Verbatim name{vqc_get_stop_list_variable()};
-  if (excluded_classes) {
-    emit<stop_list_array>(run.out, name, Verbatim{excluded_classes});
-  } else {
-    emit<no_stop_list>(run.out, name);
-  }
+  const Text classes = run.document.excluded_classes;
+  const auto name = bind<"NAME">(verbatim(run.document.names.stop_list.value()));
+  classes ? emit<stop_list_array>(run.out, name, bind<"TEXT">(verbatim(classes))) : emit<no_stop_list>(run.out, name);
 }
+
+}  // namespace vqc

@@ -3,6 +3,8 @@
 
 #include "vqc/cmd/generate/walk.h"
 
+namespace vqc {
+
 /// Writes the widget configuration code: the tables through which the builder learns the widget set.
 void write_config_file(Run& run);
 
@@ -14,15 +16,14 @@ void write_stop_list(Run& run);
 void write_popup_declarations(Run& run);
 void write_popups(Run& run);
 void write_page_names(Run& run);
-/// The popup of that name, if it stands in the table; else null.
-const PopupDef* written_popup(const Text& name);
-/// A reference to a popup in the table, for templates.
+
+/// A reference to a popup, for templates: its place in the table, or a null pointer when it has none there.
 struct PopupReference {
-  const PopupDef* popup;
+  Text table;
+  int place;  // -1 for none
 };
-void put(Stream& out, const PopupReference& reference);
-/// The place of the page of that name in its table, or -1.
-int written_page(const Text& name);
+PopupReference reference_to_popup(const Run& run, Text name);
+void put(Sink& out, const PopupReference& reference);
 
 void write_resources(Run& run);
 
@@ -36,5 +37,7 @@ void write_converters(Run& run);
 
 void write_family_names(Run& run);
 void write_families(Run& run);
+
+}  // namespace vqc
 
 #endif

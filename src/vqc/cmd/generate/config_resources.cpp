@@ -1,7 +1,8 @@
 // The section on the resources of the widget classes.
 
 #include "vqc/cmd/generate/config_file.h"
-#include "vqc/cmd/model/options.h"
+
+namespace vqc {
 
 namespace {
 
@@ -25,41 +26,53 @@ std::string_view free_word(FreeMode mode, const WidgetDef& widget) {
 
 void write_resource(Run& run, const WidgetDef& widget, const ResourceDef& resource) {
   if (!resource.name) return;
-  const PopupDef* popup = written_popup(resource.popup);
-  const std::string_view comma = popup ? "," : ", ";
-  emit<row>(run.out, resource.name, PopupReference{popup}, comma, written_page(resource.page), resource.visible,
-            free_word(resource.free_get, widget), free_word(resource.free_set, widget), resource.access,
-            resource.mfc_compatible, resource.java_compatible, Or{resource.counter, "(char *) 0"});
+  const PopupReference popup = reference_to_popup(run, resource.popup);
+  // clang-format off
+  emit<row>(run.out,
+       bind<"NAME">(printed(resource.name)),
+       bind<"POPUP">(popup),
+       bind<"COMMA">(ours(popup.place >= 0 ? "," : ", ")),
+       bind<"PAGE">(resource.page ? run.pages.of(resource.page) : -1),
+       bind<"VISIBLE">(resource.visible),
+       bind<"FREE_GET">(ours(free_word(resource.free_get, widget))),
+       bind<"FREE_SET">(ours(free_word(resource.free_set, widget))),
+       bind<"ACCESS">(resource.access),
+       bind<"MFC">(bool{resource.mfc_compatible}),
+       bind<"JAVA">(bool{resource.java_compatible}),
+       bind<"COUNTER">(printed(resource.counter, "(char *) 0")));
+  // clang-format on
 }
 
 void write_array(Run& run, const WidgetDef& widget) {
-  emit<array_head>(run.out, widget.name);
+  emit<array_head>(run.out, bind<"WIDGET">(printed(widget.name)));
   for (const ResourceDef& resource : widget.resource_definitions) write_resource(run, widget, resource);
   emit<array_end>(run.out);
 }
 
 /// True when an array was written.
-bool write_family_resources(Run& run, Family& family) {
+bool write_family_resources(Run& run, const Family& family, Done& done) {
   Heading heading(run, family, "Resource arrays");
   bool written = false;
-  for (auto& reference : family.widgets) {
-    WidgetDef& widget = *reference.record;
-    const bool repeat = done(widget);
-    done(widget) = true;
-    if (widget.resource_definitions.empty() || (repeat && !run.verbose)) continue;
+  for (const auto& reference : family.widgets) {
+    const WidgetDef& widget = *reference.record;
+    const bool repeat = done.has(&widget);
+    done.add(&widget);
+    if (widget.resource_definitions.empty() || (repeat && !run.switches.verbose)) continue;
     heading.show();
     write_around(run.out, around_block, repeat, [&] { write_array(run, widget); });
     written = true;
   }
-  charout(&run.out, "\n");
+  run.out.write("\n");
   return written;
 }
 
 }  // namespace
 
 void write_resources(Run& run) {
-  clear_done(widget_pool);
+  Done done;
   bool written = false;
-  each_family([&](Family& family) { written |= write_family_resources(run, family); });
-  if (written) charout(&run.out, "\n");
+  for (const Family* family : run.families) written |= write_family_resources(run, *family, done);
+  if (written) run.out.write("\n");
 }
+
+}  // namespace vqc

@@ -1,7 +1,8 @@
 // The sections on the types of resource values: enumerations, aliases and converters.
 
 #include "vqc/cmd/generate/config_file.h"
-#include "vqc/cmd/model/options.h"
+
+namespace vqc {
 
 namespace {
 
@@ -36,56 +37,73 @@ constexpr Template converters_end =
     "};\n\n";
 
 void write_enum_array(Run& run, const EnumDef& enumeration) {
-  emit<enum_array_head>(run.out, enumeration.name);
+  emit<enum_array_head>(run.out, bind<"NAME">(printed(enumeration.name)));
   for (const EnumEntry& entry : enumeration.entries) {
-    emit<enum_entry_row>(run.out, entry.name, entry.code_symbol, entry.code_symbol, entry.resfile_symbol);
+    emit<enum_entry_row>(run.out, bind<"ENTRY">(printed(entry.name)), bind<"CODE_SYMBOL">(printed(entry.code_symbol)),
+                         bind<"RESFILE_SYMBOL">(printed(entry.resfile_symbol)));
   }
   emit<enum_array_end>(run.out);
 }
 
 void write_enum_arrays(Run& run) {
-  clear_done(enum_pool);
+  Done done;
   bool written = false;
-  each_family([&](Family& family) {
-    each_once(family.enumerations, run.verbose, Heading(run, family, nullptr), [&](const EnumDef& each, bool repeat) {
+  for (const Family* family : run.families) {
+    const Heading heading(run, *family, {});
+    each_once(family->enumerations, done, run.switches.verbose, heading, [&](const EnumDef& each, bool repeat) {
       write_around(run.out, around_block, repeat, [&] { write_enum_array(run, each); });
       written = true;
     });
-  });
-  if (written) charout(&run.out, "\n");
+  }
+  if (written) run.out.write("\n");
+}
+
+void write_enumeration_row(Run& run, const EnumDef& enumeration) {
+  emit<enumeration_row>(run.out, bind<"TYPENAME">(verbatim(enumeration.type_name)),
+                        bind<"NAME">(printed(enumeration.name)));
 }
 
 /// The second pass over the families: their banners stand before the arrays already.
 void write_enum_table(Run& run) {
-  clear_done(enum_pool);
-  emit<enumerations_head>(run.out, vqc_get_enumerations_variable());
-  each_family([&](Family& family) {
-    Heading no_heading(run, family, nullptr);
+  Done done;
+  emit<enumerations_head>(run.out, bind<"ENUMERATIONS">(printed(run.document.names.enumerations.value())));
+  for (const Family* family : run.families) {
+    Heading no_heading(run, *family, {});
     no_heading.suppress();
-    each_once(family.enumerations, run.verbose, no_heading, [&](const EnumDef& each, bool repeat) {
-      write_around(run.out, around_row, repeat,
-                   [&] { emit<enumeration_row>(run.out, Verbatim{each.type_name}, each.name); });
+    each_once(family->enumerations, done, run.switches.verbose, no_heading, [&](const EnumDef& each, bool repeat) {
+      write_around(run.out, around_row, repeat, [&] { write_enumeration_row(run, each); });
     });
-  });
+  }
   emit<enumerations_end>(run.out);
 }
 
+void write_alias(Run& run, const AliasDef& alias) {
+  emit<alias_row>(run.out, bind<"NAME">(printed(alias.name)), bind<"TO_NAME">(printed(alias.to_name)));
+}
+
 bool declares(const ConverterDef& converter) { return converter.proc_name && converter.add_in_vq; }
+
+void declare(Run& run, const ConverterDef& converter) {
+  emit<converter_declaration>(run.out, bind<"PROCEDURE">(printed(converter.proc_name)));
+}
 
 /// The procedure itself, for the builder, and its name, for the code that the builder writes.
 struct ProcedureFields {
   const ConverterDef& converter;
 };
 
-void put(Stream& out, const ProcedureFields& fields) {
+void put(Sink& out, const ProcedureFields& fields) {
   const ConverterDef& converter = fields.converter;
-  if (!converter.proc_name) {
-    charout(&out, "(Boolean (*)()) 0, (char *) 0 ");
-    return;
-  }
-  static const Text none;
-  emit<"@PROCEDURE@,@QUOTED_PROCEDURE@">(out, Or{converter.add_in_vq ? converter.proc_name : none, "(Boolean (*)()) 0"},
-                                         Quoted{converter.add_in_code ? converter.proc_name : none, "(char *) 0"});
+  if (!converter.proc_name) return out.write("(Boolean (*)()) 0, (char *) 0 ");
+  const Text in_vq = converter.add_in_vq ? converter.proc_name : nullptr;
+  const Text in_code = converter.add_in_code ? converter.proc_name : nullptr;
+  emit<"@PROCEDURE@,@QUOTED_PROCEDURE@">(out, bind<"PROCEDURE">(printed(in_vq, "(Boolean (*)()) 0")),
+                                         bind<"QUOTED_PROCEDURE">(quoted(in_code, "(char *) 0")));
+}
+
+void write_converter(Run& run, const ConverterDef& converter) {
+  emit<converter_row>(run.out, bind<"NAME">(printed(converter.name)), bind<"PROCEDURES">(ProcedureFields{converter}),
+                      bind<"POPUP">(reference_to_popup(run, converter.dialog)));
 }
 
 }  // namespace
@@ -97,44 +115,43 @@ void write_enumerations(Run& run) {
 }
 
 void write_aliases(Run& run) {
-  clear_done(alias_pool);
+  Done done;
   write_title(run, "Alias definitions");
-  emit<aliases_head>(run.out, vqc_get_aliases_variable());
-  each_family([&](Family& family) {
-    each_once(family.aliases, run.verbose, Heading(run, family, nullptr), [&](const AliasDef& alias, bool repeat) {
-      write_around(run.out, around_row, repeat, [&] { emit<alias_row>(run.out, alias.name, alias.to_name); });
+  emit<aliases_head>(run.out, bind<"ALIASES">(printed(run.document.names.aliases.value())));
+  for (const Family* family : run.families) {
+    const Heading heading(run, *family, {});
+    each_once(family->aliases, done, run.switches.verbose, heading, [&](const AliasDef& alias, bool repeat) {
+      write_around(run.out, around_row, repeat, [&] { write_alias(run, alias); });
     });
-  });
+  }
   emit<aliases_end>(run.out);
 }
 
 void write_converter_declarations(Run& run) {
-  clear_done(converter_pool);
+  Done done;
   bool visited = false;
-  each_family([&](Family& family) {
-    const Heading heading(run, family, "Externally defined functions");
-    each_once(family.converters, run.verbose, heading, [&](const ConverterDef& converter, bool repeat) {
+  for (const Family* family : run.families) {
+    const Heading heading(run, *family, "Externally defined functions");
+    each_once(family->converters, done, run.switches.verbose, heading, [&](const ConverterDef& each, bool repeat) {
       visited = true;
-      if (!declares(converter)) return;
-      write_around(run.out, around_block, repeat, [&] { emit<converter_declaration>(run.out, converter.proc_name); });
+      if (declares(each)) write_around(run.out, around_block, repeat, [&] { declare(run, each); });
     });
-    charout(&run.out, "\n");
-  });
-  if (visited) charout(&run.out, "\n");
+    run.out.write("\n");
+  }
+  if (visited) run.out.write("\n");
 }
 
 void write_converters(Run& run) {
-  clear_done(converter_pool);
+  Done done;
   emit<converters_title>(run.out);
-  emit<converters_head>(run.out, vqc_get_converters_variable());
-  each_family([&](Family& family) {
-    each_once(family.converters, run.verbose, Heading(run, family, nullptr),
-              [&](const ConverterDef& each, bool repeat) {
-                write_around(run.out, around_row, repeat, [&] {
-                  emit<converter_row>(run.out, each.name, each.name, ProcedureFields{each},
-                                      PopupReference{written_popup(each.dialog)});
-                });
-              });
-  });
+  emit<converters_head>(run.out, bind<"CONVERTERS">(printed(run.document.names.converters.value())));
+  for (const Family* family : run.families) {
+    const Heading heading(run, *family, {});
+    each_once(family->converters, done, run.switches.verbose, heading, [&](const ConverterDef& each, bool repeat) {
+      write_around(run.out, around_row, repeat, [&] { write_converter(run, each); });
+    });
+  }
   emit<converters_end>(run.out);
 }
+
+}  // namespace vqc

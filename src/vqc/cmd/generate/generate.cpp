@@ -1,30 +1,34 @@
+// The three generated files: their names, and writing them.
+
 #include "vqc/cmd/generate/generate.h"
 
-#include <cstdio>
 #include <memory>
-#include <string_view>
 
 #include "vqc/cmd/generate/code_file.h"
 #include "vqc/cmd/generate/config_file.h"
 #include "vqc/cmd/generate/stubs_file.h"
-#include "vqc/cmd/model/options.h"
+#include "vqc/cmd/savefile/util.h"
+
+namespace vqc {
 
 namespace {
 
 struct OutputFile {
   int kind;
-  const char* name;    // as messages put it, with a blank behind
-  const char* suffix;  // of a name that is made from the document's
-  void (*set_name)(const Text& name);
+  const char* name;
+  std::string_view suffix;  // of a name that is made from the document's
+  Text OutputNames::*remembered;
   void (*write)(Run& run);
 };
 
+// clang-format off
 constexpr OutputFile output_files[] = {
-    {CONFIG_FILE, "configuration ", "_config.c", set_config_file, write_config_file},
-    {CODE_FILE, "code ", "_code.c", set_code_file, write_code_file},
-    {STUBS_FILE, "stubs ", "_stubs.c", set_stubs_file, write_stubs_file},
+    {CONFIG_FILE, "configuration ", "_config.c", &OutputNames::config, write_config_file},
+    {CODE_FILE,   "code ",          "_code.c",   &OutputNames::code,   write_code_file},
+    {STUBS_FILE,  "stubs ",         "_stubs.c",  &OutputNames::stubs,  write_stubs_file},
 };
-constexpr OutputFile other_file{0, "", "_stubs.c", set_stubs_file, write_stubs_file};
+// clang-format on
+constexpr OutputFile other_file{0, "", "_stubs.c", &OutputNames::stubs, write_stubs_file};
 
 const OutputFile& output_file(int kind) {
   for (const OutputFile& file : output_files) {
@@ -33,36 +37,38 @@ const OutputFile& output_file(int kind) {
   return other_file;
 }
 
-void choose_families(bool interactive) {
-  int place = 0;
-  for (Family& family : family_pool.list) {
-    family.generate_selected = !interactive || !family_choice || family_choice->chosen(place);
-    ++place;
-  }
-}
-
 }  // namespace
 
-std::string batch_file_name(const char* document, int kind) {
-  constexpr std::string_view kSuffix = ".vqc";
-  std::string name = document;
-  if (name.ends_with(kSuffix)) name.resize(name.size() - kSuffix.size());
-  return name + output_file(kind).suffix;
+Families all_families(const Document& document) {
+  Families families;
+  for (const Family& family : document.families) families.push_back(&family);
+  return families;
 }
 
-bool generate(const char* name, bool interactive, int kind) {
-  const OutputFile& file = output_file(kind);
-  choose_families(interactive);
-  const std::unique_ptr<Stream> out = openfile(name, "w");
-  if (!out) {
-    if (!interactive) std::fprintf(stderr, "Cannot open %sfile %s\n", file.name, name ? name : "");
-    return false;
-  }
-  file.set_name(name);
-  Run run{*out, vqc_comment_code(), vqc_verbose_code()};
-  file.write(run);
+std::string batch_file_name(std::string_view document, int kind) {
+  constexpr std::string_view kSuffix = ".vqc";
+  if (document.ends_with(kSuffix)) document.remove_suffix(kSuffix.size());
+  return std::string(document).append(output_file(kind).suffix);
+}
+
+const char* file_kind_name(int kind) { return output_file(kind).name; }
+
+Text& generated_name(Document& document, int kind) { return document.output_names.*output_file(kind).remembered; }
+
+void generate(const Document& document, std::span<const Family* const> families, int kind, Switches switches,
+              Sink& out) {
+  Run run{document, families, switches, out};
+  output_file(kind).write(run);
+}
+
+bool generate_file(Document& document, const char* path, std::span<const Family* const> families, int kind,
+                   Switches switches) {
+  const std::unique_ptr<FileSink> out = openfile(path);
+  if (!out) return false;
+  generated_name(document, kind) = document.keep(path);
+  generate(document, families, kind, switches, *out);
   closefile(*out);
   return true;
 }
 
-bool batch_generate(const char* name, int kind) { return generate(name, false, kind); }
+}  // namespace vqc

@@ -1,6 +1,12 @@
+// The beginning of the generated files.
+
 #include "vqc/cmd/generate/includes.h"
 
-#include "vqc/cmd/generate/file_finder.h"
+#include <unistd.h>
+
+#include <string>
+
+namespace vqc {
 
 namespace {
 
@@ -15,59 +21,59 @@ constexpr Template prelude = R"(/*
 #include "xwidget.h"
 
 )";
-constexpr const char* kTitle = "Header files";
+constexpr std::string_view kTitle = "Header files";
 
-using HeaderList = References<HeaderEntry, Order::appended>;
+bool is_file(Text path) { return access(std::string(path.view()).c_str(), F_OK) == 0; }
 
 /// Includes one header, unless it has no name. True when it was written.
-bool write_include(Run& run, HeaderEntry& header, Heading& heading) {
-  done(header) = true;
+bool write_include(Run& run, const HeaderEntry& header, Done& done, Heading& heading) {
+  done.add(&header);
   if (header.name.empty()) return false;
   heading.show();
-  emit<include_line>(run.out, header.name);
+  emit<include_line>(run.out, bind<"FILE">(printed(header.name)));
   return true;
 }
 
 /// Includes the headers that are no files for the current directory, and so are found through the compiler's search
 /// path. True when any was written.
-bool write_system_headers(Run& run, Family& family, const HeaderList& headers, FileFinder& files) {
+bool write_system_headers(Run& run, const Family& family, const HeaderReferences& headers, Done& done) {
   Heading heading(run, family, kTitle);
   bool written = false;
-  for (auto& reference : headers) {
-    HeaderEntry& header = *reference.record;
-    if (!done(header) && !files.exists(header.name)) written |= write_include(run, header, heading);
+  for (const auto& reference : headers) {
+    const HeaderEntry& header = *reference.record;
+    if (!done.has(&header) && !is_file(header.name)) written |= write_include(run, header, done, heading);
   }
   return written;
 }
 
 /// Includes the remaining headers. One that stands in the file already takes the family's heading with it.
-bool write_own_headers(Run& run, Family& family, const HeaderList& headers) {
+bool write_own_headers(Run& run, const Family& family, const HeaderReferences& headers, Done& done) {
   Heading heading(run, family, kTitle);
   bool written = false;
-  for (auto& reference : headers) {
-    HeaderEntry& header = *reference.record;
-    if (done(header)) {
+  for (const auto& reference : headers) {
+    const HeaderEntry& header = *reference.record;
+    if (done.has(&header)) {
       heading.suppress();
     } else {
-      written |= write_include(run, header, heading);
+      written |= write_include(run, header, done, heading);
     }
   }
   return written;
 }
 
-template <class Pool>
-void write_includes(Run& run, Pool& pool, HeaderList Family::*headers) {
-  emit<prelude>(run.out, kProgramName);
-  clear_done(pool);
-  FileFinder files;
+void write_includes(Run& run, HeaderReferences Family::*headers) {
+  emit<prelude>(run.out, bind<"PROGRAM">(ours(kProgramName)));
+  Done done;
   bool written = false;
-  each_family([&](Family& family) { written |= write_system_headers(run, family, family.*headers, files); });
-  each_family([&](Family& family) { written |= write_own_headers(run, family, family.*headers); });
-  if (written) charout(&run.out, "\n");
+  for (const Family* family : run.families) written |= write_system_headers(run, *family, family->*headers, done);
+  for (const Family* family : run.families) written |= write_own_headers(run, *family, family->*headers, done);
+  if (written) run.out.write("\n");
 }
 
 }  // namespace
 
-void write_config_includes(Run& run) { write_includes(run, config_header_pool, &Family::config_headers); }
+void write_config_includes(Run& run) { write_includes(run, &Family::config_headers); }
 
-void write_code_includes(Run& run) { write_includes(run, code_header_pool, &Family::code_headers); }
+void write_code_includes(Run& run) { write_includes(run, &Family::code_headers); }
+
+}  // namespace vqc

@@ -3,8 +3,10 @@
 
 #include "vqc/cmd/generate/walk.h"
 
+namespace vqc {
+
 /// The name the program goes by in what it generates.
-inline constexpr const char* kProgramName = "vqconfig";
+inline constexpr std::string_view kProgramName = "vqconfig";
 
 inline constexpr Template include_line = "#include <@FILE@>\n";
 
@@ -12,5 +14,7 @@ inline constexpr Template include_line = "#include <@FILE@>\n";
 
 void write_config_includes(Run& run);
 void write_code_includes(Run& run);
+
+}  // namespace vqc
 
 #endif

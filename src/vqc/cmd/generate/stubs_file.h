@@ -3,6 +3,8 @@
 
 #include "vqc/cmd/generate/walk.h"
 
+namespace vqc {
+
 /// Writes the user-defined integration procedures: a body to fill in for every procedure that the document names and
 /// the builder does not supply.
 void write_stubs_file(Run& run);
@@ -11,5 +13,7 @@ void write_stubs_file(Run& run);
 
 void write_stub_functions(Run& run);
 void write_popup_functions(Run& run);
+
+}  // namespace vqc
 
 #endif

@@ -1,7 +1,12 @@
 #ifndef VQC_CMD_MODEL_BUILTIN_H
 #define VQC_CMD_MODEL_BUILTIN_H
 
-#include "vqc/cmd/model/kinds.h"
+#include <list>
+#include <string>
+
+#include "libkel/text.h"
+
+namespace vqc {
 
 /// The kinds of names that the run-time itself supplies.
 enum BuiltinKind : int {
@@ -12,20 +17,39 @@ enum BuiltinKind : int {
 };
 
 struct BuiltinName {
-  BuiltinName* next;
-  Text name;
+  std::string name;
   int kind;
 };
 
-/// The entry of that name and kind, made if there is none. Null for a null name. The registry owns its entries.
-BuiltinName* register_builtin_name(const Text& name, int kind);
-/// Whether there was an entry to remove.
-int unregister_builtin_name(const Text& name, int kind);
-int check_builtin_name(const Text& name, int kind);
+/// The names that the run-time supplies, newest first.
+class BuiltinNames {
+ public:
+  /// The entry of that name and kind, made if there is none. Null for a null name. The registry owns its entries.
+  const BuiltinName* add(Text name, int kind);
+  /// Whether there was an entry to remove.
+  bool remove(Text name, int kind);
+  bool has(Text name, int kind) const;
 
-/// Give a new family the pages and popups that every family has. A predefined popup gets its built-in initialise
-/// procedure back each time, whatever the document had made of it.
-void predefine_pages(Family* family);
-void predefine_popups(Family* family);
+ private:
+  std::list<BuiltinName>::const_iterator find(Text name, int kind) const;
+
+  std::list<BuiltinName> names_;
+};
+
+inline constexpr Text predefined_pages[] = {"display", "margins", "settings", "callbacks", "misc"};
+
+struct PredefinedPopup {
+  Text name;
+  Text dialog_init;
+};
+inline constexpr PredefinedPopup predefined_popups[] = {
+    {"vq_font_dialog_create", "vq_font_dialog_initialise"},
+    {"vq_colour_dialog_create", "vq_colour_dialog_initialise"},
+    {"vq_pixmap_dialog_create", "vq_pixmap_dialog_initialise"},
+    {"vq_string_dialog_create", "vq_string_dialog_initialise"},
+    {"vq_fsb_dialog_create", "vq_fsb_dialog_initialise"},
+};
+
+}  // namespace vqc
 
 #endif

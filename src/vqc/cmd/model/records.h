@@ -4,12 +4,30 @@
 #include <cstdint>
 
 #include "libkel/text.h"
-#include "vqc/cmd/model/in_blocks.h"
 #include "vqc/cmd/model/name_list.h"
 
+namespace vqc {
+
 // The records of a document. A member's initial value is its value in a new record. Pools hold the records
-// themselves; families refer to them. What can be deleted from anywhere in a long list also knows what stands before
-// it. Members that are named like words of the document hold those words' values.
+// themselves; families refer to them. Members that are named like words of the document hold those words' values. Their
+// texts are the document's.
+
+/// What a list operation returns: 0 for success, or a number that the list's kind fixes for the failure.
+using ErrorCode = int;
+
+/// The failures of one kind of list.
+struct Codes {
+  ErrorCode duplicate;
+  ErrorCode absent;
+  ErrorCode no_owner = 1;     // a null family, or whatever else owns the list
+  ErrorCode cannot_move = 0;  // the element to move is absent
+};
+
+/// A list of one kind.
+template <class Element, Order order, Codes list_codes>
+struct ListOf : NameList<Element, order> {
+  static constexpr Codes codes = list_codes;
+};
 
 /// How a resource's value is freed after it has been got or set.
 enum class FreeMode : std::uint8_t { by_default, free, dont_free };
@@ -18,8 +36,9 @@ enum class FreeMode : std::uint8_t { by_default, free, dont_free };
 enum Access : int { ACCESS_NOT_GIVEN = -1, ACCESS_CREATE = 1, ACCESS_GET = 2, ACCESS_SET = 4 };
 
 /// One resource of one widget class, which owns it.
-struct ResourceDef : InBlocks {
+struct ResourceDef {
   ResourceDef* next = nullptr;
+  ResourceDef* previous = nullptr;
   Text name;
   Text popup;
   Text page;
@@ -33,14 +52,11 @@ struct ResourceDef : InBlocks {
   bool java_compatible : 1 = false;
 };
 
-struct WidgetDef : InBlocks {
-  ~WidgetDef();
-
+struct WidgetDef {
   WidgetDef* next = nullptr;
   WidgetDef* previous = nullptr;
   Text name;
-  int uses = 0;            // by families
-  bool generated = false;  // scratch: the current section has written it
+  int uses = 0;  // by families
   Text include_filename;
   Text defined_name;
   Text realise;
@@ -63,44 +79,40 @@ struct WidgetDef : InBlocks {
   Text dialogue_doc;
   Text dialogue_tag;
   bool default_is_dont_free = false;
-  NameList<ResourceDef, Order::sorted> resource_definitions;
+  ListOf<ResourceDef, Order::sorted, Codes{26, 25, 3}> resource_definitions;
 };
 
 /// One value of one enumeration, which owns it.
-struct EnumEntry : InBlocks {
+struct EnumEntry {
   EnumEntry* next = nullptr;
+  EnumEntry* previous = nullptr;
   Text name;
   Text code_symbol;
   Text resfile_symbol;
 };
 
-struct EnumDef : InBlocks {
-  ~EnumDef();
-
+struct EnumDef {
   EnumDef* next = nullptr;
   EnumDef* previous = nullptr;
   Text name;
   int uses = 0;
-  bool used = false;  // scratch: the current section has written it; so below
-  Text type_name;     // "typename" in the document
-  NameList<EnumEntry, Order::appended> entries;
+  Text type_name;  // "typename" in the document
+  ListOf<EnumEntry, Order::appended, Codes{12, 11, 7, 11}> entries;
 };
 
-struct AliasDef : InBlocks {
+struct AliasDef {
   AliasDef* next = nullptr;
   AliasDef* previous = nullptr;
   Text name;
   Text to_name;
   int uses = 0;
-  bool used = false;
 };
 
-struct ConverterDef : InBlocks {
+struct ConverterDef {
   ConverterDef* next = nullptr;
   ConverterDef* previous = nullptr;
   Text name;
   int uses = 0;
-  bool used = false;
   bool add_in_vq = false;
   bool add_in_code = false;
   Text proc_name;
@@ -108,48 +120,44 @@ struct ConverterDef : InBlocks {
 };
 
 /// A dialog that edits resources. Its name is also its create procedure.
-struct PopupDef : InBlocks {
+struct PopupDef {
   PopupDef* next = nullptr;
   PopupDef* previous = nullptr;
   Text name;
-  int index = 0;  // scratch: its place in the generated table
-  bool used = false;
   Text dialog_init;
   Text dialog_update;
 };
 
 /// A page of the resource panel.
-struct PageDef : InBlocks {
+struct PageDef {
   PageDef* next = nullptr;
   PageDef* previous = nullptr;
   Text name;
-  int index = 0;
-  bool used = false;
 };
 
 /// A header file to include.
-struct HeaderEntry : InBlocks {
+struct HeaderEntry {
   HeaderEntry* next = nullptr;
   HeaderEntry* previous = nullptr;
   Text name;
   int uses = 0;
-  bool used = false;
 };
 
 /// A family's use of a record. It owns nothing but itself.
 template <class RecordType>
-struct Reference : InBlocks {
+struct Reference {
   using Record = RecordType;
   Reference* next = nullptr;
   Reference* previous = nullptr;
   Record* record = nullptr;
 };
 
-template <class Record, Order order>
-using References = NameList<Reference<Record>, order>;
+template <class Record, Order order, Codes codes>
+using References = ListOf<Reference<Record>, order, codes>;
+using HeaderReferences = References<HeaderEntry, Order::appended, Codes{20, 17, 1, 19}>;
 
 /// The initialisation procedure of a family and what is generated for it.
-struct FamilyInit : InBlocks {
+struct FamilyInit {
   Text family_init;  // unlike other texts it may be empty without being null
   bool generate_family_init_vq = false;
   bool generate_family_init_code = false;
@@ -157,22 +165,28 @@ struct FamilyInit : InBlocks {
   bool generate_family_init_pre_shell = false;
 };
 
-struct Family : FamilyInit {
-  ~Family();
+struct Family;
 
+/// What families have before their fields, so that no field stands at the address of its family.
+struct FamilyHead {
   Family* next = nullptr;
   Family* previous = nullptr;
   Text name;
-  bool generate_selected = true;
-  References<WidgetDef, Order::appended> widgets;
-  References<EnumDef, Order::sorted> enumerations;
-  References<AliasDef, Order::sorted> aliases;
-  References<ConverterDef, Order::sorted> converters;
-  References<HeaderEntry, Order::appended> code_headers;
-  References<HeaderEntry, Order::appended> family_headers;
-  References<HeaderEntry, Order::appended> config_headers;
-  References<PopupDef, Order::sorted> popups;
-  References<PageDef, Order::appended> pages;
+  bool generate_selected = true;  // what the user has chosen; it is never saved
 };
+
+struct Family : FamilyHead, FamilyInit {
+  References<WidgetDef, Order::appended, Codes{6, 3, 1, 5}> widgets;
+  References<EnumDef, Order::sorted, Codes{10, 7, 1, 7}> enumerations;
+  References<AliasDef, Order::sorted, Codes{16, 13, 1, 13}> aliases;
+  References<ConverterDef, Order::sorted, Codes{24, 21, 1, 23}> converters;
+  HeaderReferences code_headers;
+  HeaderReferences family_headers;
+  HeaderReferences config_headers;
+  References<PopupDef, Order::sorted, Codes{28, 21, 1, 21}> popups;
+  References<PageDef, Order::appended, Codes{32, 31, 1, 31}> pages;
+};
+
+}  // namespace vqc
 
 #endif

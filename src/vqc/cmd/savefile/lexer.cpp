@@ -1,67 +1,44 @@
+// Turns the characters of a document into tokens.
+
 #include "vqc/cmd/savefile/lexer.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
-#include <cstring>
-#include <experimental/simd>
-#include <utility>
 
 #include "libkel/keltype.h"
 
+namespace vqc {
+
 namespace {
 
-using Characters = std::experimental::native_simd<char>;  // as many as the processor compares at once
-static_assert(Characters::size() <= Stream::kNulsBehind);
+constexpr std::size_t kLongest = 2047;  // characters kept of a token
 
-/// What a character begins where a token may begin.
-enum class Start : std::uint8_t { invalid, nul, space, line_comment, slash, string, minus, digit, word, single };
+/// Characters that are tokens by themselves.
+constexpr bool is_punctuation(char c) { return std::string_view("=,;()*:{}").find(c) != std::string_view::npos; }
 
-constexpr Start start_of(char c) {
-  if (kel_is(c, KEL_SPACE)) return Start::space;
-  if (kel_is(c, KEL_LETTER | KEL_UNDERSCORE)) return Start::word;
-  if (kel_is(c, KEL_DIGIT)) return Start::digit;
-  switch (c) {
-    case '\0':
-      return Start::nul;
-    case '!':
-      return Start::line_comment;
-    case '/':
-      return Start::slash;
-    case '\'':
-      return Start::string;
-    case '-':
-      return Start::minus;
-    default:
-      return std::string_view("=,;()*:{}").find(c) == std::string_view::npos ? Start::invalid : Start::single;
-  }
+/// The runs that tokens are made of.
+enum CharacterRun : std::uint8_t { SPACE = 1, DIGITS = 2, WORD = 4, PLAIN_STRING = 8 };
+
+constexpr std::uint8_t runs_of(char c) {
+  unsigned runs = 0;
+  if (kel_is(c, KEL_SPACE)) runs |= SPACE;
+  if (kel_is(c, KEL_DIGIT)) runs |= DIGITS;
+  if (kel_is(c, KEL_IDENTIFIER) || c == '.') runs |= WORD;
+  if (c != '\'' && c != '\\' && c != '\0') runs |= PLAIN_STRING;
+  return static_cast<std::uint8_t>(runs);
 }
 
-// What ends a run of characters, asked of many characters at once. Both hold for the NUL behind each part of the file,
-// so that a search needs no other end.
-
-constexpr auto ends_word = [](const auto& c) {
-  constexpr char kLowerCase = 'a' - 'A';  // the bit by which it differs from upper case
-  const auto is_within = [](const auto& some, char low, char high) { return some >= low && some <= high; };
-  return !(is_within(c | kLowerCase, 'a', 'z') || is_within(c, '0', '9') || c == '_' || c == '.');
-};
-
-constexpr auto ends_plain_string = [](const auto& c) { return c == '\'' || c == '\\' || c == '\n' || c == '\0'; };
-
-/// A function of characters as a table: these are asked for every character of a document.
-template <auto function>
-constexpr auto table = [] {
-  std::array<decltype(function('\0')), 256> values{};
-  for (std::size_t c = 0; c < values.size(); ++c) values[c] = function(static_cast<char>(c));
-  return values;
+constexpr auto character_runs = [] {
+  std::array<std::uint8_t, 256> table{};
+  for (std::size_t c = 0; c < table.size(); ++c) table[c] = runs_of(static_cast<char>(c));
+  return table;
 }();
 
-/// The first character from `from` for which `test` holds.
-template <class Test>
-const char* find(const char* from, Test test) {
-  for (;; from += Characters::size()) {
-    const auto found = test(Characters(from, std::experimental::element_aligned));
-    if (any_of(found)) return from + find_first_set(found);
-  }
+/// Steps over a run. The NUL behind the document is in none.
+const char* end_of_run(const char* from, CharacterRun run) {
+  while (character_runs[static_cast<unsigned char>(*from)] & run) ++from;
+  return from;
 }
 
 /// What a backslash makes of the character after it.
@@ -82,31 +59,18 @@ constexpr char escaped(char c) {
   }
 }
 
+/// As much of a token's text as is kept.
+std::string_view kept(const char* from, const char* to) {
+  return {from, std::min(static_cast<std::size_t>(to - from), kLongest)};
+}
+
 }  // namespace
 
-Lexer::Lexer(std::unique_ptr<Stream> stream) : stream_(std::move(stream)) {}
-
-bool Lexer::fill() {
-  if (!stream_) return false;
-  const std::string_view part = stream_->read();
-  if (part.empty()) {
-    close();
-    return false;
-  }
-  next_ = part.data();
-  end_ = next_ + part.size();
-  return true;
-}
-
-void Lexer::close() {
-  stream_.reset();
-  next_ = end_ = kNothing.data();
-}
+Lexer::Lexer(const Source& source)
+    : begin_(source.text().data()), end_(begin_ + source.text().size()), next_(begin_), token_(begin_) {}
 
 int Lexer::next_ch() {
-  const int c = current();
-  if (c == kEnd) return 0;
-  if (c == '\n') ++lineno;
+  if (at_end()) return 0;
   ++next_;
   return 1;
 }
@@ -114,138 +78,68 @@ int Lexer::next_ch() {
 int Lexer::next_token() {
   text_ = {};
   for (;;) {
-    while (*next_ == ' ') ++next_;  // what mostly stands between tokens
-    switch (table<start_of>[static_cast<unsigned char>(*next_)]) {
-      case Start::nul:
-        if (next_ != end_ || !fill()) return read_character();
-        break;
-      case Start::space:
-        skip_space();
-        break;
-      case Start::line_comment:
-        skip_line();
-        break;
-      case Start::slash:
-        if (!skip_comment()) return read_character();  // whatever follows, even white space, is a token of its own
-        break;
-      case Start::string:
-        return read_string();
-      case Start::word:
-        return read_word();
-      case Start::digit:
-        return read_number(false);
-      case Start::minus:
-        return read_minus();
-      case Start::single:
-        return take_character();
-      default:
-        return read_character();
-    }
+    token_ = next_ = end_of_run(next_, SPACE);
+    const char c = *next_;
+    if (c == '\'') return read_string();
+    if (kel_is(c, KEL_LETTER | KEL_UNDERSCORE)) return read_word();
+    if (kel_is(c, KEL_DIGIT)) return read_number(false);
+    if (c == '-') return read_minus();
+    if (c != '!' && c != '/') return read_character();
+    if (!skip_comment()) return read_character();
   }
 }
 
-bool Lexer::skip(std::string_view text) {
-  const bool buffered = static_cast<std::size_t>(end_ - next_) > text.size();
-  if (!buffered || std::memcmp(next_, text.data(), text.size()) != 0) return false;
-  const char* to = next_ + text.size();
-  if (!ends_word(*to)) return false;
-  next_ = to;
-  return true;
-}
-
-void Lexer::skip_space() {
-  for (; kel_is(*next_, KEL_SPACE); ++next_) lineno += *next_ == '\n';
-}
-
-void Lexer::skip_line() {
-  while (current() != '\n' && next_ch()) continue;
-}
-
-/// False for a slash that begins no comment, which is skipped alone.
+/// False for a slash that begins no comment. It is skipped alone: whatever follows, even white space, is a token of its
+/// own.
 bool Lexer::skip_comment() {
-  next_ch();
-  if (current() != '*') return false;
-  next_ch();
-  for (int previous = 0; current() != kEnd;) {
-    const int c = current();
-    next_ch();
-    if (previous == '*' && c == '/') break;
-    previous = c;
+  const std::string_view rest(next_, static_cast<std::size_t>(end_ - next_));
+  const bool is_line = rest.front() == '!';
+  if (!is_line && !rest.starts_with("/*")) {
+    token_ = ++next_;
+    return false;
   }
+  const std::size_t close = is_line ? rest.find('\n') : rest.find("*/", 2);
+  next_ = close == std::string_view::npos ? end_ : next_ + close + (is_line ? 0 : 2);
   return true;
-}
-
-/// Takes the characters up to `to` as the token's text where they stand, if there is more in the buffer after them.
-/// False for a token that has to be put together from pieces, or cut.
-bool Lexer::take_whole(const char* to) {
-  const auto size = static_cast<std::size_t>(to - next_);
-  if (to == end_ || size > kLongest) return false;
-  text_ = {next_, size};
-  next_ = to;
-  return true;
-}
-
-/// Keeps characters up to the first that `stop` holds for, or the end of the document.
-template <class Test>
-void Lexer::keep_until(Test stop) {
-  do {
-    const char* from = next_;
-    next_ = find(next_, stop);
-    keep(from, next_);
-  } while (next_ == end_ && fill());
-}
-
-void Lexer::keep(const char* from, const char* to) {
-  const std::size_t size = std::min(static_cast<std::size_t>(to - from), kLongest - text_.size());
-  std::copy_n(from, size, kept_.data() + text_.size());
-  text_ = {kept_.data(), text_.size() + size};
 }
 
 int Lexer::read_string() {
   kind_ = SaveFileToken::string;
-  ++next_;
-  const char* to = find(next_, ends_plain_string);
-  if (*to != '\'' || !take_whole(to)) return read_string_in_pieces();
-  ++next_;
-  return 1;
-}
-
-int Lexer::read_string_in_pieces() {
-  for (;;) {
-    keep_until(ends_plain_string);
-    const int c = current();
-    if (c == '\\') {
-      read_escape();
-      continue;
-    }
-    if (c == '\n' || c == '\0') keep(next_, next_ + 1);
-    next_ch();
-    if (c == '\'' || c == kEnd) break;
+  const char* from = ++next_;
+  next_ = end_of_run(from, PLAIN_STRING);
+  if (*next_ != '\'') {
+    next_ = from;
+    return read_escaped_string();
   }
-  text_ = text_.substr(0, text_.find('\0'));
+  text_ = kept(from, next_++);
   return 1;
 }
 
-void Lexer::read_escape() {
+/// A string with escapes or NULs in it, or without an end.
+int Lexer::read_escaped_string() {
+  unescaped_.clear();
+  while (!at_end() && *next_ != '\'') {
+    const char c = *next_++;
+    if (c == '\\' && at_end()) break;
+    unescaped_ += c == '\\' ? read_escape() : c;
+  }
   next_ch();
-  int c = current();
-  if (c == kEnd) return;
-  char result = escaped(static_cast<char>(c));
-  if (kel_is(c, KEL_DIGIT)) {
-    unsigned code = 0;
-    for (; kel_is(c, KEL_DIGIT); c = current()) {
-      code = code * 10 + static_cast<unsigned>(c - '0');
-      next_ch();
-    }
-    result = static_cast<char>(code);
-  } else {
-    next_ch();
-  }
-  keep(&result, &result + 1);
+  unescaped_.resize(std::min(unescaped_.size(), kLongest));
+  text_ = std::string_view(unescaped_).substr(0, unescaped_.find('\0'));
+  return 1;
+}
+
+/// The character that an escape stands for; its backslash has been read.
+char Lexer::read_escape() {
+  if (!kel_is(*next_, KEL_DIGIT)) return escaped(*next_++);
+  unsigned code = 0;
+  for (; kel_is(*next_, KEL_DIGIT); ++next_) code = code * 10 + static_cast<unsigned>(*next_ - '0');
+  return static_cast<char>(code);
 }
 
 int Lexer::read_word() {
-  if (!take_whole(find(next_, ends_word))) keep_until(ends_word);
+  next_ = end_of_run(next_, WORD);
+  text_ = kept(token_, next_);
   const Keyword* keyword = find_keyword(text_);
   kind_ = keyword ? SaveFileToken::keyword : SaveFileToken::identifier;
   if (keyword) keyword_ = keyword->kw;
@@ -255,29 +149,27 @@ int Lexer::read_word() {
 int Lexer::read_number(bool negative) {
   kind_ = SaveFileToken::integer;
   unsigned value = 0;  // wraps to 32 bits
-  for (int c = current(); kel_is(c, KEL_DIGIT); c = current()) {
-    value = value * 10 + static_cast<unsigned>(c - '0');
-    next_ch();
-  }
+  for (; kel_is(*next_, KEL_DIGIT); ++next_) value = value * 10 + static_cast<unsigned>(*next_ - '0');
   integer_ = static_cast<int>(negative ? 0 - value : value);
   return 1;
 }
 
 int Lexer::read_minus() {
-  next_ch();
-  if (kel_is(current(), KEL_DIGIT)) return read_number(true);
-  kind_ = SaveFileToken::character;
-  character_ = '-';
-  return 0;
+  if (kel_is(next_[1], KEL_DIGIT)) {
+    ++next_;
+    return read_number(true);
+  }
+  return read_character();
 }
 
 int Lexer::read_character() {
-  const int c = current();
-  if (c == kEnd) {
+  if (at_end()) {
     kind_ = SaveFileToken::end_of_input;
     return 1;
   }
-  lineno += c == '\n';
-  take_character();
-  return table<start_of>[static_cast<std::size_t>(c)] == Start::single ? 1 : 0;
+  kind_ = SaveFileToken::character;
+  character_ = *next_++;
+  return is_punctuation(character_) ? 1 : 0;
 }
+
+}  // namespace vqc

@@ -1,17 +1,14 @@
 #ifndef VQC_CMD_SAVEFILE_LEXER_H
 #define VQC_CMD_SAVEFILE_LEXER_H
 
-#include <array>
 #include <cstddef>
-#include <memory>
+#include <string>
 #include <string_view>
 
-#include "libkel/text.h"
+#include "libkel/source.h"
 #include "vqc/cmd/savefile/keywords.h"
-#include "vqc/cmd/savefile/stream.h"
 
-/// The line of the document that is being read, from 1.
-inline int lineno = 0;
+namespace vqc {
 
 /// The kinds of token. They stand apart from the characters' codes, some of which are the same numbers.
 enum class SaveFileToken {
@@ -23,23 +20,22 @@ enum class SaveFileToken {
   character = -1
 };
 
-/// Turns the characters of one document into tokens.
+/// Turns the characters of a Source into tokens. A copy goes on from the same place by itself.
 class Lexer {
  public:
-  /// Null reads as an empty document.
-  explicit Lexer(std::unique_ptr<Stream> stream);
+  /// The source must outlive the lexer.
+  explicit Lexer(const Source& source);
 
-  /// Moves to the next character. 0 when there is no open stream: the current character stays.
+  /// Moves to the next character. 0 at the end.
   int next_ch();
 
   /// Reads the next token. 0 for a character that can begin none, and for a lone "-".
   int next_token();
-
-  /// Steps over `text`, whole tokens on one line, if that stands next as it is spelled. The current token stays.
-  bool skip(std::string_view text);
-
-  /// After this there is only end of input.
-  void close();
+  /// Reads the token again that stands there.
+  int go_back(Range token) {
+    next_ = begin_ + token.begin;
+    return next_token();
+  }
 
   SaveFileToken kind() const { return kind_; }
   bool is(char character) const { return kind_ == SaveFileToken::character && character_ == character; }
@@ -47,47 +43,37 @@ class Lexer {
   bool is(SaveFileToken kind) const { return kind_ == kind; }
   Kw keyword() const { return keyword_; }
   int integer() const { return integer_; }
-  /// The text of a string or identifier up to its first NUL, until the next token is read.
+  /// The text of a string or word up to its first NUL, until the next token is read.
   std::string_view text() const { return text_; }
+  /// Whether text() stands in the source as it is, and so lives as long as that.
+  bool text_is_in_source() const { return text_.data() != unescaped_.data(); }
+  /// Where the token stands.
+  Range range() const { return {offset(token_), offset(next_)}; }
 
  private:
-  static constexpr int kEnd = -1;
-  static constexpr std::size_t kLongest = 2047;  // characters kept of a token
-
-  int current() { return next_ != end_ || fill() ? static_cast<unsigned char>(*next_) : kEnd; }
-  bool take_whole(const char* to);
-  void keep(const char* from, const char* to);
+  std::size_t offset(const char* place) const { return static_cast<std::size_t>(place - begin_); }
+  bool at_end() const { return next_ == end_; }
+  bool skip_comment();
   int read_string();
+  int read_escaped_string();
+  char read_escape();
   int read_word();
-  int take_character() {
-    kind_ = SaveFileToken::character;
-    character_ = static_cast<unsigned char>(*next_++);
-    return 1;
-  }
+  int read_number(bool negative);
+  int read_minus();
+  int read_character();
 
-  // What is rarer stays out of next_token, which is the quicker for being small.
-  [[gnu::noinline]] bool fill();
-  [[gnu::noinline]] void skip_space();
-  [[gnu::noinline]] void skip_line();
-  [[gnu::noinline]] bool skip_comment();
-  template <class Test>
-  [[gnu::noinline]] void keep_until(Test stop);
-  [[gnu::noinline]] int read_string_in_pieces();
-  [[gnu::noinline]] int read_number(bool negative);
-  [[gnu::noinline]] int read_minus();
-  [[gnu::noinline]] int read_character();
-  void read_escape();
-
-  std::unique_ptr<Stream> stream_;
-  static constexpr std::array<char, Stream::kNulsBehind> kNothing{};
-  const char* next_ = kNothing.data();  // the current character, unless it is `end_`
-  const char* end_ = kNothing.data();   // NULs follow
+  const char* begin_;
+  const char* end_;    // a NUL stands there
+  const char* next_;   // the current character
+  const char* token_;  // where the current token begins
   SaveFileToken kind_ = SaveFileToken::end_of_input;
-  int character_ = 0;
+  char character_ = '\0';
   Kw keyword_{};
   int integer_ = 0;
-  std::string_view text_;  // in the stream's buffer or in `kept_`
-  std::array<char, kLongest> kept_;
+  std::string_view text_;
+  std::string unescaped_;
 };
+
+}  // namespace vqc
 
 #endif

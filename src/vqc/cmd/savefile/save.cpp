@@ -1,37 +1,37 @@
+// Writes a document.
+
 #include "vqc/cmd/savefile/save.h"
 
 #include <cstddef>
-#include <memory>
 
-#include "vqc/cmd/model/document.h"
-#include "vqc/cmd/model/kinds.h"
-#include "vqc/cmd/savefile/document_hooks.h"
 #include "vqc/cmd/savefile/fields.h"
-#include "vqc/cmd/savefile/header_keys.h"
 #include "vqc/cmd/savefile/util.h"
+
+namespace vqc {
 
 namespace {
 
 /// A keyword, a blank and the quoted name.
-void write_named(Stream* out, Kw word, const Text& name) {
-  charout(out, keyword_text(word));
-  charout(out, " ");
+void write_named(Sink& out, Kw word, Text name) {
+  out.write(keyword_text(word));
+  out.write(" ");
   strout(out, name);
 }
 
-void write_value(Stream* out, const char* indent, Kw word, const Text& value) {
-  charout(out, indent);
-  charout_1s(out, "%s=", keyword_text(word));
+void write_value(Sink& out, std::string_view indent, Kw word, Text value) {
+  out.write(indent);
+  out.write(keyword_text(word));
+  out.write("=");
   strout(out, value);
-  charout(out, "\n");
+  out.write("\n");
 }
 
 /// Texts that are set, and flags that differ from what a new record has.
 template <class Record, std::size_t n>
-void write_fields(Stream* out, const Field<Record> (&fields)[n], const Record& record, const char* indent = "\t") {
+void write_fields(Sink& out, const Field<Record> (&fields)[n], const Record& record, std::string_view indent = "\t") {
   static const Record fresh{};
   for (const Field<Record>& field : fields) {
-    if (const auto* text = std::get_if<Text Record::*>(&field.member)) {
+    if (const auto* text = field.text()) {
       if (record.**text) write_value(out, indent, field.word, record.**text);
     } else {
       const auto flag = std::get<bool Record::*>(field.member);
@@ -41,103 +41,106 @@ void write_fields(Stream* out, const Field<Record> (&fields)[n], const Record& r
 }
 
 template <class Record, std::size_t n>
-void write_record(Stream* out, Kw word, const Field<Record> (&fields)[n], const Record& record) {
+void write_record(Sink& out, Kw word, const Field<Record> (&fields)[n], const Record& record) {
   write_named(out, word, record.name);
-  charout(out, " {\n");
+  out.write(" {\n");
   write_fields(out, fields, record);
-  charout(out, "}\n");
+  out.write("}\n");
 }
 
-void write_header(Stream* out) {
-  charout(out, keyword_text(Kw::vqconfig));
-  charout(out, "\n");
+void write_header(Sink& out, const Document& document) {
+  out.write(keyword_text(Kw::vqconfig));
+  out.write("\n");
   for (const HeaderKey& key : header_keys) {
-    if (*key.value) write_value(out, "", key.word, *key.value);
+    if (const Text value = key.value(document)) write_value(out, "", key.word, value);
   }
-  if (excluded_classes.empty()) return;
-  charout(out, "stop_list = '");
-  ptrout(out, excluded_classes);
-  charout(out, "'\n");
+  if (document.excluded_classes.empty()) return;
+  out.write("stop_list = '");
+  ptrout(out, document.excluded_classes);
+  out.write("'\n");
 }
 
-void write_optional(Stream* out, const Text& value) {
+void write_optional(Sink& out, Text value) {
   if (value) strout(out, value);
 }
 
-void write_resource(Stream* out, const ResourceDef& resource) {
+void write_resource(Sink& out, const ResourceDef& resource) {
   write_optional(out, resource.name);
-  charout(out, ", ");
+  out.write(", ");
   write_optional(out, resource.popup);
-  charout(out, ", ");
+  out.write(", ");
   write_optional(out, resource.page);
-  charout(out, ", ");
+  out.write(", ");
   boolout(out, resource.visible);
-  charout(out, ", ");
-  charout(out, free_mode_words[static_cast<std::size_t>(resource.free_get)]);
-  charout(out, ", ");
-  charout(out, free_mode_words[static_cast<std::size_t>(resource.free_set)]);
+  out.write(", ");
+  out.write(free_mode_words[static_cast<std::size_t>(resource.free_get)]);
+  out.write(", ");
+  out.write(free_mode_words[static_cast<std::size_t>(resource.free_set)]);
   if (resource.access != ACCESS_NOT_GIVEN) {
-    charout(out, " access ");
+    out.write(" access ");
     intout(out, resource.access);
   }
   if (resource.counter) {
-    charout(out, " counter ");
+    out.write(" counter ");
     strout(out, resource.counter);
   }
-  charout(out, resource.next ? ",\n" : ";\n");
+  out.write(resource.next ? ",\n" : ";\n");
 }
 
-void write_widget(Stream* out, const WidgetDef& widget) {
+void write_widget(Sink& out, const WidgetDef& widget) {
   write_named(out, Kw::widget, widget.name);
-  charout(out, " {\n");
+  out.write(" {\n");
   write_fields(out, widget_fields, widget);
-  if (!widget.resource_definitions.empty()) charout(out, "\tresource_definitions=");
+  if (!widget.resource_definitions.empty()) out.write("\tresource_definitions=");
   for (const ResourceDef& resource : widget.resource_definitions) write_resource(out, resource);
-  charout(out, "}\n");
+  out.write("}\n");
 }
 
-void write_enumeration(Stream* out, const EnumDef& enumeration) {
+void write_enumeration(Sink& out, const EnumDef& enumeration) {
   write_named(out, Kw::enumeration, enumeration.name);
-  charout(out, " {\n");
+  out.write(" {\n");
   write_fields(out, enum_fields, enumeration);
   for (const EnumEntry& entry : enumeration.entries) {
-    charout(out, "\t");
+    out.write("\t");
     write_named(out, Kw::enumentry, entry.name);
-    charout(out, "{\n");
+    out.write("{\n");
     write_fields(out, enum_entry_fields, entry, "\t\t");
-    charout(out, "\t}\n");
+    out.write("\t}\n");
   }
-  charout(out, "}\n");
+  out.write("}\n");
 }
 
 /// Records that are nothing but a name.
 template <class Pool>
-void write_names(Stream* out, Kw word, const Pool& pool) {
-  for (const auto& record : pool.list) {
+void write_names(Sink& out, Kw word, const Pool& pool) {
+  for (const auto& record : pool) {
     write_named(out, word, record.name);
-    charout(out, "\n");
+    out.write("\n");
   }
 }
 
 template <class List>
-void write_references(Stream* out, Kw word, const List& list) {
+void write_references(Sink& out, Kw word, const List& list) {
   for (const auto& reference : list) write_value(out, "\t", word, reference.record->name);
 }
 
 /// The flags go with the procedure: without one they are not written.
-void write_family_init(Stream* out, const Family& family) {
+void write_family_init(Sink& out, const Family& family) {
   if (!family.family_init) return;
-  write_value(out, "\t", Kw::family_init, family.family_init);
-  for (const Field<FamilyInit>& flag : family_init_flags) {
-    charout_1s(out, "\t%s=", keyword_text(flag.word));
-    boolout(out, family.*std::get<bool FamilyInit::*>(flag.member));
-    charout(out, "\n");
+  for (const Field<FamilyInit>& field : family_init_fields) {
+    if (const auto* text = field.text()) {
+      write_value(out, "\t", field.word, family.**text);
+      continue;
+    }
+    charout_1s(out, "\t%s=", keyword_text(field.word));
+    boolout(out, family.*std::get<bool FamilyInit::*>(field.member));
+    out.write("\n");
   }
 }
 
-void write_family(Stream* out, const Family& family) {
+void write_family(Sink& out, const Family& family) {
   write_named(out, Kw::family, family.name);
-  charout(out, " {\n");
+  out.write(" {\n");
   write_family_init(out, family);
   write_references(out, Kw::widget, family.widgets);
   write_references(out, Kw::enumeration, family.enumerations);
@@ -148,31 +151,23 @@ void write_family(Stream* out, const Family& family) {
   write_references(out, Kw::converter, family.converters);
   write_references(out, Kw::popup, family.popups);
   write_references(out, Kw::page, family.pages);
-  charout(out, "}\n");
-}
-
-void write_document(Stream* out) {
-  write_header(out);
-  for (const WidgetDef& widget : widget_pool.list) write_widget(out, widget);
-  for (const EnumDef& enumeration : enum_pool.list) write_enumeration(out, enumeration);
-  write_names(out, Kw::header, code_header_pool);
-  write_names(out, Kw::cheader, config_header_pool);
-  write_names(out, Kw::family_header, family_header_pool);
-  for (const AliasDef& alias : alias_pool.list) write_record(out, Kw::alias, alias_fields, alias);
-  for (const ConverterDef& each : converter_pool.list) write_record(out, Kw::converter, converter_fields, each);
-  for (const PopupDef& popup : popup_pool.list) write_record(out, Kw::popup, popup_fields, popup);
-  write_names(out, Kw::page, page_pool);
-  for (const Family& family : family_pool.list) write_family(out, family);
+  out.write("}\n");
 }
 
 }  // namespace
 
-void write_save_file(const char* path) {
-  const std::unique_ptr<Stream> out = openfile(path, "w");
-  if (!out) return;
-  if (document_hooks.titled) document_hooks.titled(path);
-  write_document(out.get());
-  closefile(*out);
-  dirty = false;
-  if (document_hooks.saved) document_hooks.saved();
+void save(const Document& document, Sink& out) {
+  write_header(out, document);
+  for (const WidgetDef& widget : document.widgets) write_widget(out, widget);
+  for (const EnumDef& enumeration : document.enumerations) write_enumeration(out, enumeration);
+  write_names(out, Kw::header, document.code_headers);
+  write_names(out, Kw::cheader, document.config_headers);
+  write_names(out, Kw::family_header, document.family_headers);
+  for (const AliasDef& alias : document.aliases) write_record(out, Kw::alias, alias_fields, alias);
+  for (const ConverterDef& each : document.converters) write_record(out, Kw::converter, converter_fields, each);
+  for (const PopupDef& popup : document.popups) write_record(out, Kw::popup, popup_fields, popup);
+  write_names(out, Kw::page, document.pages);
+  for (const Family& family : document.families) write_family(out, family);
 }
+
+}  // namespace vqc

@@ -1,84 +1,73 @@
+// The primitives of writing.
+
 #include "vqc/cmd/savefile/util.h"
 
 #include <array>
 #include <charconv>
-#include <cstring>
 #include <string>
 
 #include "libkel/message.h"
 
-namespace {
+namespace vqc {
 
-/// `text` with each "%%" made one, as a formatted printer would print it.
-std::string with_single_percents(std::string_view text) {
-  std::string result;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    result += text[i];
-    if (text.substr(i, 2) == "%%") ++i;
+std::unique_ptr<FileSink> openfile(const char* path) {
+  std::unique_ptr<FileSink> out = path ? FileSink::open(path) : nullptr;
+  if (!out) error_show_2s("file_open_fail", path, system_errmsg());
+  return out;
+}
+
+bool closefile(Sink& out) {
+  const bool whole = out.finish();
+  if (!whole) error_show_1s("file_write_fail", system_errmsg());
+  return whole;
+}
+
+void charout(Sink& out, Text text) {
+  std::string_view rest = text.view();
+  for (std::size_t i = rest.find("%%"); i != std::string_view::npos; i = rest.find("%%")) {
+    out.write(rest.substr(0, i + 1));
+    rest.remove_prefix(i + 2);
   }
-  return result;
+  out.write(rest);
 }
 
-}  // namespace
-
-int report_write_failure() {
-  error_show_1s("file_write_fail", system_errmsg());
-  return 0;
-}
-
-std::unique_ptr<Stream> openfile(const char* path, const char* mode) {
-  std::unique_ptr<Stream> stream = path && mode ? Stream::open(path, mode) : nullptr;
-  if (!stream) error_show_2s("file_open_fail", path, system_errmsg());
-  return stream;
-}
-
-int closefile(Stream& stream) { return stream.close() ? 1 : report_write_failure(); }
-
-int charout(Stream* stream, const char* text) {
-  return text ? charout(stream, std::string_view(text)) : stream != nullptr;
-}
-
-int charout(Stream* stream, std::string_view text) {
-  if (!stream) return 0;
-  const bool plain = text.empty() || std::memchr(text.data(), '%', text.size()) == nullptr;
-  return rawout(stream, plain ? text : with_single_percents(text));
-}
-
-int charout_1s(Stream* stream, const char* format, const char* argument) {
-  if (!format || !argument) return 0;
-  std::string text = format;
+void charout_1s(Sink& out, std::string_view format, std::string_view argument) {
+  std::string text(format);
   const std::size_t place = text.find("%s");
   if (place != std::string::npos) text.replace(place, 2, argument);
-  return charout(stream, text);
+  charout(out, Text(text));
 }
 
-int strout(Stream* stream, const char* text) {
-  return charout(stream, "'") && charout(stream, text) && charout(stream, "'");
+void strout(Sink& out, Text text) {
+  out.write("'");
+  charout(out, text);
+  out.write("'");
 }
 
-int stringout(Stream* stream, const char* text) {
-  return charout(stream, "\"") && charout(stream, text) && charout(stream, "\"");
+void stringout(Sink& out, Text text) {
+  out.write("\"");
+  charout(out, text);
+  out.write("\"");
 }
 
-int boolout_bc(Stream* stream, bool flag, const char* keyword, bool default_flag) {
-  if (flag == default_flag) return 0;
-  charout_1s(stream, "\t%s=", keyword);
-  boolout(stream, flag);
-  charout(stream, "\n");
-  return 1;
+bool boolout_bc(Sink& out, bool flag, std::string_view keyword, bool default_flag) {
+  if (flag == default_flag) return false;
+  charout_1s(out, "\t%s=", keyword);
+  boolout(out, flag);
+  out.write("\n");
+  return true;
 }
 
-int intout(Stream* stream, int value) {
-  if (value == -1) return rawout(stream, "-1");  // as most numbers are, or else have one digit
-  if (value >= 0 && value <= 9) return rawout(stream, {&"0123456789"[value], 1});
+void intout(Sink& out, int value) {
   std::array<char, 16> digits;
-  const auto end = std::to_chars(digits.begin(), digits.end(), value).ptr;
-  return rawout(stream, {digits.begin(), end});
+  out.write({digits.begin(), std::to_chars(digits.begin(), digits.end(), value).ptr});
 }
 
-int ptrout(Stream* stream, const char* text) { return rawout(stream, text ? text : "0"); }
+void ptrout(Sink& out, Text text) { out.write(text ? text.view() : "0"); }
 
-int ptrsfxout(Stream* stream, const char* text, const char* suffix) {
-  if (!text) return rawout(stream, "0");
-  return rawout(stream, text) && rawout(stream, suffix);
+void ptrsfxout(Sink& out, Text text, std::string_view suffix) {
+  ptrout(out, text);
+  if (text) out.write(suffix);
 }
+
+}  // namespace vqc

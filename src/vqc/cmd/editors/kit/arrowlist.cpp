@@ -44,7 +44,7 @@ void keep_in_sight(Widget list, int position, bool down) {
 int arrowlist_action(Widget list, Move move, bool down, bool wrap) {
   const int position = selected_position(list);
   if (position == 0) return 0;
-  const std::vector<Text>& names = list_names(list);
+  const std::vector<std::string>& names = list_names(list);
   const int new_position = moved_position(position, static_cast<int>(names.size()), down, wrap);
   if (new_position == 0 || move(names[static_cast<std::size_t>(position) - 1], wrap) != 0) return 0;
   list_move(list, position, new_position);

@@ -5,12 +5,12 @@
 
 #include <Xm/Xm.h>
 
-#include "vqc/cmd/model/ordered_list.h"
+#include "vqc/cmd/editors/kit/given_names.h"
 
 namespace vqc::editors {
 
 /// Moves a name of a model list one place; not 0 when it cannot.
-using Move = ErrorCode (*)(const Text& name, bool wrap);
+using Move = ErrorCode (*)(Name name, bool wrap);
 
 /// Moves the one selected item of `list` a place up or down, the model first. The item stays selected and in sight. At
 /// an end it only moves, to the other end, if `wrap`. 0 when nothing has moved, else 1.

@@ -25,19 +25,19 @@ CompoundString CompoundString::of_lines(const char* text) {
   return CompoundString(XmStringGenerate(const_cast<char*>(text), nullptr, XmCHARSET_TEXT, nullptr));
 }
 
-Text text_of(XmString string) {
-  if (!string) return nullptr;
+std::string text_of(XmString string) {
+  if (!string) return {};
   static XmParseMapping characters[] = {
       mapping("\n", XmStringSeparatorCreate()),
       mapping("\t", XmStringComponentCreate(XmSTRING_COMPONENT_TAB, 0, nullptr)),
   };
   const ToolkitCharacters plain(static_cast<char*>(XmStringUnparse(string, nullptr, XmCHARSET_TEXT, XmCHARSET_TEXT,
                                                                    characters, XtNumber(characters), XmOUTPUT_ALL)));
-  return plain.get();
+  return plain ? plain.get() : "";
 }
 
-std::string displayable(const Text& whole) {
-  std::string_view text = whole.view();
+std::string displayable(const std::string& whole) {
+  std::string_view text = whole;
   std::string result;
   std::mbstate_t state{};
   while (!text.empty()) {

@@ -9,7 +9,7 @@
 #include <string>
 #include <utility>
 
-#include "libkel/text.h"
+#include "vqc/cmd/editors/kit/edited_document.h"
 
 namespace vqc::editors {
 
@@ -40,11 +40,11 @@ class CompoundString {
   XmString string_;
 };
 
-/// The plain text of a compound string, lines and all; null when there is none.
-Text text_of(XmString string);
+/// The plain text of a compound string, lines and all; empty when there is none.
+std::string text_of(XmString string);
 
 /// The text with a question mark for each byte that is no character of the locale.
-std::string displayable(const Text& whole);
+std::string displayable(const std::string& whole);
 
 }  // namespace vqc::editors
 

@@ -23,8 +23,8 @@ namespace {
 
 /// A text, with what a field makes of it.
 struct Given {
-  Text text;
-  Text shown;
+  std::string text;
+  std::string shown;
   bool typed_over = false;
 };
 
@@ -47,8 +47,6 @@ void remember(Widget w, Given given) {
   if (is_first) XtAddCallback(w, XmNmodifyVerifyCallback, watch_typing_over, nullptr);
 }
 
-Text shown_text(Widget w) { return characters_in(w).c_str(); }
-
 void select_text(Widget field, XtPointer, XtPointer) {
   XtRemoveCallback(field, XmNfocusCallback, select_text, nullptr);
   const XmTextPosition end = XmTextFieldGetLastPosition(field);
@@ -63,16 +61,16 @@ bool may_select(Widget field) {
 
 }  // namespace
 
-int settext(Widget w, const char* text) {
+int settext(Widget w, Name text) {
   if (!w) return 0;
-  const Text whole = text ? text : "";
+  const std::string whole(text.view());
   set_characters(w, displayable(whole));
   forget_typing(w);
-  remember(w, {whole, shown_text(w)});
+  remember(w, {whole, characters_in(w)});
   return 1;
 }
 
-void offer_name(Widget field, const char* name) {
+void offer_name(Widget field, Name name) {
   settext(field, name);
   offer_text(field);
 }
@@ -89,16 +87,16 @@ void mark_text(Widget field) {
   XtAddCallback(field, XmNfocusCallback, select_text, nullptr);
 }
 
-Text undistorted(Widget w, const Text& shown) {
+std::string undistorted(Widget w, const std::string& shown) {
   const auto found = given_texts().find(w);
   if (found == given_texts().end()) return shown;
   const Given& given = found->second;
   return given.shown == shown && !given.typed_over ? given.text : shown;
 }
 
-Text gettextf(Widget w, Text* field) {
-  Text text = w ? undistorted(w, shown_text(w)) : nullptr;
-  if (field) *field = non_empty(text);
+std::string gettextf(Widget w, Text* field) {
+  std::string text = w ? undistorted(w, characters_in(w)) : std::string();
+  if (field) *field = non_empty(edited_document.keep(Name(text)));
   return text;
 }
 

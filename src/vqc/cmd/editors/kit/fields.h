@@ -5,16 +5,16 @@
 
 #include <Xm/Xm.h>
 
-#include "libkel/text.h"
+#include "vqc/cmd/editors/kit/edited_document.h"
 
 namespace vqc::editors {
 
 /// Writes a text into a text field or text widget; null counts as "". 0 when there is no widget, else 1.
-int settext(Widget w, const char* text);
-inline int settextf(Widget w, const char* text) { return settext(w, text); }
+int settext(Widget w, Name text);
+inline int settextf(Widget w, Name text) { return settext(w, text); }
 
 /// Shows a name in a text field that the user may take as it is, or type over.
-void offer_name(Widget field, const char* name);
+void offer_name(Widget field, Name name);
 /// Selects what stands in a text field, so that typing replaces it, and gives it the keyboard.
 void offer_text(Widget field);
 /// Selects it without giving the field the keyboard. What somebody else has selected stays selected until the field
@@ -23,10 +23,10 @@ void mark_text(Widget field);
 
 /// What stands in a text field or text widget; null when there is no widget. What settext() could not show as it is
 /// comes back as it was, unless the user has changed it. A `field` gets the text too, as null when it is empty.
-Text gettextf(Widget w, Text* field = nullptr);
+std::string gettextf(Widget w, Text* field = nullptr);
 
 /// The text that settext() was given for a field, if what it shows of it is `shown`; otherwise `shown` itself.
-Text undistorted(Widget w, const Text& shown);
+std::string undistorted(Widget w, const std::string& shown);
 
 /// Sets a toggle button, or its gadget, without calling its callbacks. 0 when there is no widget, else 1.
 int settoggle(Widget w, bool on);

@@ -25,28 +25,28 @@ std::string folder_of(const char* document) {
 
 }  // namespace
 
-void show_file_box(Widget box, const char* document, const char* name) {
+void show_file_box(Widget box, const char* document, const std::string& name) {
   XtVaSetValues(box, XmNdirectory, CompoundString(folder_of(document).c_str()).get(), nullptr);
   XmFileSelectionDoSearch(box, nullptr);
   show_dialog(box, Place::over);
   offer_name(XmFileSelectionBoxGetChild(box, XmDIALOG_TEXT), name);
 }
 
-const char* name_in_box(Widget box, const char* path) {
+std::string name_in_box(Widget box, const std::string& path) {
   unsigned char mode = XmPATH_MODE_FULL;
   XtVaGetValues(box, XmNpathMode, &mode, nullptr);
-  return path && mode == XmPATH_MODE_RELATIVE ? leafnm(path) : path;
+  return mode == XmPATH_MODE_RELATIVE ? leafnm(path.c_str()) : path;
 }
 
-Text chosen_path(Widget box, XtPointer call) {
-  const Text path = text_of(static_cast<XmFileSelectionBoxCallbackStruct*>(call)->value);
+std::string chosen_path(Widget box, XtPointer call) {
+  const std::string path = text_of(static_cast<XmFileSelectionBoxCallbackStruct*>(call)->value);
   if (path.empty()) return "";
   // The box has put it together from what its field shows, which may not be all of the name that was offered.
   Widget field = XmFileSelectionBoxGetChild(box, XmDIALOG_TEXT);
-  Text whole = undistorted(field, path);
+  std::string whole = undistorted(field, path);
   if (whole != path) return whole;
   const char* leaf = leafnm(path.c_str());
-  return std::string(path.c_str(), leaf).append(undistorted(field, leaf).view()).c_str();
+  return std::string(path.c_str(), leaf).append(undistorted(field, leaf));
 }
 
 void title_file_box(Widget box, const char* resource_name) {

@@ -24,7 +24,7 @@ void set_family(ListEditor& editor, const Family* family) {
 }
 
 void refill(const ListEditor& editor, bool has_owner) {
-  const std::vector<Text> names = has_owner ? editor.names.names() : std::vector<Text>();
+  const std::vector<std::string> names = has_owner ? editor.names.names() : std::vector<std::string>();
   list_show(editor.list(), names);
   if (names.empty() || !editor.refill_keeps_name) editor.clear_name();
   for (const char* button : {"Apply", "Cancel", "OK"}) {  // by name: what Escape presses passes for the Cancel button
@@ -32,20 +32,20 @@ void refill(const ListEditor& editor, bool has_owner) {
   }
 }
 
-void add_name(const ListEditor& editor, const Text& name) {
+void add_name(const ListEditor& editor, Name name) {
   if (editor.names.has(name) || with_memory(editor.names.add(name)) != 0) return;
   if (editor.added) editor.added(name);
   list_insert(editor.list(), name, editor.names.position(name));
 }
 
-void delete_name(const ListEditor& editor, const Text& name) {
+void delete_name(const ListEditor& editor, Name name) {
   if (!editor.names.has(name)) return;
   list_delete(editor.list(), name);
   if (editor.delete_clears_name) editor.clear_name();
   editor.names.remove(name);
 }
 
-void accept_name(const ListEditor& editor, const Text& name) {
+void accept_name(const ListEditor& editor, Name name) {
   if (editor.accepted && editor.names.has(name)) {
     editor.accepted(name);
   } else {
@@ -53,21 +53,20 @@ void accept_name(const ListEditor& editor, const Text& name) {
   }
 }
 
-void select_name(const ListEditor& editor, const Text& name) {
+void select_name(const ListEditor& editor, Name name) {
   if (editor.selected) editor.selected(name);
 }
 
-void with_name(Widget w, XtPointer call, const ListEditor& editor, void (*action)(const ListEditor&, const Text&)) {
+void with_name(Widget w, XtPointer call, const ListEditor& editor, void (*action)(const ListEditor&, Name)) {
   const auto* box_call = static_cast<XmSelectionBoxCallbackStruct*>(call);
-  const Text name = undistorted(editor.name_field(), text_of(box_call->value));
+  const std::string name = undistorted(editor.name_field(), text_of(box_call->value));
   if (name.empty()) return;
   const BusyCursor busy(w);
   action(editor, name);
 }
 
-void with_clicked_name(Widget list, XtPointer call, const ListEditor& editor,
-                       void (*action)(const ListEditor&, const Text&)) {
-  const Text name = clicked_name(list, *static_cast<XmListCallbackStruct*>(call));
+void with_clicked_name(Widget list, XtPointer call, const ListEditor& editor, void (*action)(const ListEditor&, Name)) {
+  const std::string name = clicked_name(list, *static_cast<XmListCallbackStruct*>(call));
   if (name.empty()) return;
   const BusyCursor busy(list);
   settextf(editor.name_field(), name);

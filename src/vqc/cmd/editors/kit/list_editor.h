@@ -8,23 +8,21 @@
 
 #include <vector>
 
-#include "libkel/text.h"
 #include "vqc/cmd/editors/kit/arrowlist.h"
+#include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/shown_names.h"
-#include "vqc/cmd/model/family.h"
-#include "vqc/cmd/model/kinds.h"
 
 namespace vqc::editors {
 
 /// The list that an editor shows, wherever the model keeps it.
 struct NamesOf {
-  bool (*has)(const Text& name);
-  ErrorCode (*add)(const Text& name);
-  ErrorCode (*remove)(const Text& name);
-  int (*position)(const Text& name);  // counted from 1
-  Move move_up;                       // null for a list that cannot be rearranged
+  bool (*has)(Name name);
+  ErrorCode (*add)(Name name);
+  ErrorCode (*remove)(Name name);
+  int (*position)(Name name);  // counted from 1
+  Move move_up;                // null for a list that cannot be rearranged
   Move move_down;
-  std::vector<Text> (*names)();
+  std::vector<std::string> (*names)();
   void (*make_none_current)() = nullptr;  // null where nothing is ever current
 };
 
@@ -32,17 +30,18 @@ struct NamesOf {
 template <auto& kind>
 NamesOf names_in_family() {
   return {
-      .has = [](const Text& name) { return kind.ptr(family_getcurrent(), name) != nullptr; },
-      .add = [](const Text& name) { return kind.add(name, family_getcurrent()); },
-      .remove = [](const Text& name) { return kind.remove(family_getcurrent(), name); },
-      .position = [](const Text& name) { return kind.index(family_getcurrent(), name); },
-      .move_up = [](const Text& name, bool) { return kind.move_up(family_getcurrent(), name); },
-      .move_down = [](const Text& name, bool) { return kind.move_down(family_getcurrent(), name); },
+      .has = [](Name name) { return kind.ptr(family_getcurrent(), name) != nullptr; },
+      .add = [](Name name) { return kind.add(name, family_getcurrent()); },
+      .remove = [](Name name) { return kind.remove(family_getcurrent(), name); },
+      .position = [](Name name) { return kind.index(family_getcurrent(), name); },
+      .move_up = [](Name name, bool) { return kind.move_up(family_getcurrent(), name); },
+      .move_down = [](Name name, bool) { return kind.move_down(family_getcurrent(), name); },
       .names =
           [] {
-            std::vector<Text> names;
+            std::vector<std::string> names;
             const Family* family = family_getcurrent();
-            for (auto* element = kind.first(family); element; element = kind.next()) names.push_back(name_of(*element));
+            for (auto* element = kind.first(family); element; element = kind.next())
+              names.emplace_back(name_of(*element).view());
             return names;
           },
       .make_none_current = [] { kind.set_current(nullptr); },
@@ -51,9 +50,9 @@ NamesOf names_in_family() {
 
 /// The names of a pool, in its order.
 template <auto& pool>
-std::vector<Text> names_in_pool() {
-  std::vector<Text> names;
-  for (const auto& record : pool.list) names.push_back(record.name);
+std::vector<std::string> names_in_pool() {
+  std::vector<std::string> names;
+  for (const auto& record : pool.list()) names.emplace_back(record.name.view());
   return names;
 }
 
@@ -62,9 +61,9 @@ struct ListEditor {
   Widget*& dialog;  // the record that holds the box; null until the dialog exists
   int box_slot;
   NamesOf names;
-  void (*added)(const Text& name) = nullptr;     // a new name is in the model and about to be shown
-  void (*accepted)(const Text& name) = nullptr;  // OK on a name that is there already
-  void (*selected)(const Text& name) = nullptr;  // a click on a name
+  void (*added)(Name name) = nullptr;     // a new name is in the model and about to be shown
+  void (*accepted)(Name name) = nullptr;  // OK on a name that is there already
+  void (*selected)(Name name) = nullptr;  // a click on a name
   bool delete_clears_name = false;
   bool refill_keeps_name = false;  // unless the list is empty
   const Family* family = nullptr;  // whose names are shown
@@ -83,16 +82,15 @@ void set_family(ListEditor& editor, const Family* family);
 void refill(const ListEditor& editor, bool has_owner);
 
 /// What the buttons do with a name.
-void add_name(const ListEditor& editor, const Text& name);
-void delete_name(const ListEditor& editor, const Text& name);
-void accept_name(const ListEditor& editor, const Text& name);
-void select_name(const ListEditor& editor, const Text& name);
+void add_name(const ListEditor& editor, Name name);
+void delete_name(const ListEditor& editor, Name name);
+void accept_name(const ListEditor& editor, Name name);
+void select_name(const ListEditor& editor, Name name);
 
 /// Calls `action` with the name that a box's callback brings, if there is one.
-void with_name(Widget w, XtPointer call, const ListEditor& editor, void (*action)(const ListEditor&, const Text&));
+void with_name(Widget w, XtPointer call, const ListEditor& editor, void (*action)(const ListEditor&, Name));
 /// The same with the name that has been clicked in its list. It stands in the name field then, to be typed over.
-void with_clicked_name(Widget list, XtPointer call, const ListEditor& editor,
-                       void (*action)(const ListEditor&, const Text&));
+void with_clicked_name(Widget list, XtPointer call, const ListEditor& editor, void (*action)(const ListEditor&, Name));
 void move_selected(Widget w, const ListEditor& editor, bool down);
 
 // The same as callbacks.

@@ -65,7 +65,7 @@ void show_tip(Widget arrow) {
 void lighten_shortcut(Widget item) {
   XmString shortcut = nullptr;
   XtVaGetValues(item, XmNacceleratorText, &shortcut, nullptr);
-  const Text text = text_of(shortcut);
+  const std::string text = text_of(shortcut);
   XmStringFree(shortcut);
   if (text.empty()) return;
   XmString lighter = XmStringCreate(const_cast<char*>(text.c_str()), const_cast<char*>("shortcut"));

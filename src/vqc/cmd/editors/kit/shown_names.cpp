@@ -14,12 +14,12 @@ namespace vqc::editors {
 namespace {
 
 /// What another hand has put into a list is what can be read there.
-std::vector<Text>& names_in(Widget list) {
-  static std::unordered_map<Widget, std::vector<Text>> lists;
+std::vector<std::string>& names_in(Widget list) {
+  static std::unordered_map<Widget, std::vector<std::string>> lists;
   XmString* items = nullptr;
   int count = 0;
   XtVaGetValues(list, XmNitems, &items, XmNitemCount, &count, nullptr);
-  std::vector<Text>& names = lists[list];
+  std::vector<std::string>& names = lists[list];
   const auto known = std::min(names.size(), static_cast<std::size_t>(count));
   names.resize(known);
   for (auto i = known; i < static_cast<std::size_t>(count); ++i) names.push_back(text_of(items[i]));
@@ -27,7 +27,7 @@ std::vector<Text>& names_in(Widget list) {
 }
 
 /// In one line, or all rows of the list would be as high as this one.
-CompoundString item(const Text& name) {
+CompoundString item(const std::string& name) {
   std::string line = displayable(name);
   std::ranges::replace_if(
       line, [](unsigned char c) { return c < ' '; }, '?');
@@ -45,43 +45,43 @@ void bring_into_view(Widget list, int position) {
 
 }  // namespace
 
-void list_show(Widget list, const std::vector<Text>& names) {
-  std::vector<Text> shown;
+void list_show(Widget list, const std::vector<std::string>& names) {
+  std::vector<std::string> shown;
   std::vector<CompoundString> strings;
-  for (const Text& name : names) {
+  for (const std::string& name : names) {
     CompoundString string = item(name);
     if (!string) continue;
     shown.push_back(name);
     strings.push_back(std::move(string));
   }
   std::vector<XmString> items(strings.begin(), strings.end());
-  std::vector<Text>& shown_before = names_in(list);
+  std::vector<std::string>& shown_before = names_in(list);
   XmListDeleteAllItems(list);
   XtVaSetValues(list, XmNitems, items.data(), XmNitemCount, static_cast<int>(items.size()), nullptr);
   shown_before = std::move(shown);
 }
 
-void list_insert(Widget list, const Text& name, int position) {
-  std::vector<Text>& shown = names_in(list);
+void list_insert(Widget list, Name name, int position) {
+  std::vector<std::string>& shown = names_in(list);
   const auto count = static_cast<int>(shown.size());
   const int place = position == 0 || position > count ? count + 1 : position;
-  const CompoundString string = item(name);
-  shown.insert(shown.begin() + place - 1, name);
+  const CompoundString string = item(std::string(name.view()));
+  shown.emplace(shown.begin() + place - 1, name.view());
   XmListAddItem(list, string, place);
   bring_into_view(list, place);
 }
 
-void list_delete(Widget list, const Text& name) {
+void list_delete(Widget list, Name name) {
   const int position = list_position(list, name);
   if (position == 0) return;
-  std::vector<Text>& shown = names_in(list);
+  std::vector<std::string>& shown = names_in(list);
   shown.erase(shown.begin() + position - 1);
   XmListDeletePos(list, position);
 }
 
 void list_move(Widget list, int from, int to) {
-  std::vector<Text>& shown = names_in(list);
-  const Text name = shown[static_cast<std::size_t>(from) - 1];
+  std::vector<std::string>& shown = names_in(list);
+  const std::string name = shown[static_cast<std::size_t>(from) - 1];
   const CompoundString string = item(name);
   shown.erase(shown.begin() + from - 1);
   shown.insert(shown.begin() + to - 1, name);
@@ -89,18 +89,18 @@ void list_move(Widget list, int from, int to) {
   XmListAddItem(list, string, to);
 }
 
-const std::vector<Text>& list_names(Widget list) { return names_in(list); }
+const std::vector<std::string>& list_names(Widget list) { return names_in(list); }
 
-int list_position(Widget list, const Text& name) {
-  const std::vector<Text>& shown = names_in(list);
-  const auto place = std::ranges::find(shown, name);
+int list_position(Widget list, Name name) {
+  const std::vector<std::string>& shown = names_in(list);
+  const auto place = std::ranges::find(shown, name.view());
   return place == shown.end() ? 0 : static_cast<int>(place - shown.begin()) + 1;
 }
 
-Text clicked_name(Widget list, const XmListCallbackStruct& call) {
-  const std::vector<Text>& names = names_in(list);
+std::string clicked_name(Widget list, const XmListCallbackStruct& call) {
+  const std::vector<std::string>& names = names_in(list);
   const auto place = static_cast<std::size_t>(call.item_position);
-  return place >= 1 && place <= names.size() ? names[place - 1] : nullptr;
+  return place >= 1 && place <= names.size() ? names[place - 1] : std::string();
 }
 
 }  // namespace vqc::editors

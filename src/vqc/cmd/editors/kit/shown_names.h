@@ -8,24 +8,24 @@
 
 #include <vector>
 
-#include "libkel/text.h"
+#include "vqc/cmd/editors/kit/edited_document.h"
 
 namespace vqc::editors {
 
 /// Shows `names`, and nothing else, in a list.
-void list_show(Widget list, const std::vector<Text>& names);
+void list_show(Widget list, const std::vector<std::string>& names);
 /// Puts a name at a place, or at the end for 0, and scrolls so that it is seen.
-void list_insert(Widget list, const Text& name, int position);
+void list_insert(Widget list, Name name, int position);
 /// Takes a name out if it is there.
-void list_delete(Widget list, const Text& name);
+void list_delete(Widget list, Name name);
 /// Takes the name at one place out and puts it in at another.
 void list_move(Widget list, int from, int to);
 
-const std::vector<Text>& list_names(Widget list);
+const std::vector<std::string>& list_names(Widget list);
 /// The place of a name; 0 when it is absent.
-int list_position(Widget list, const Text& name);
+int list_position(Widget list, Name name);
 /// The name that a click on a list means.
-Text clicked_name(Widget list, const XmListCallbackStruct& call);
+std::string clicked_name(Widget list, const XmListCallbackStruct& call);
 
 }  // namespace vqc::editors
 

@@ -16,8 +16,8 @@ Widget anchor = nullptr;
 
 void show_help(Widget w, const char* topic) {
   if (!anchor) anchor = w;
-  const Text path = vqc_HelpPath(XtDisplayOfObject(w), topic);
-  if (!path || VQHelp(anchor, path) == -1) error_show("no_help_topic");
+  const std::string path = vqc_HelpPath(XtDisplayOfObject(w), topic);
+  if (path.empty() || VQHelp(anchor, path.c_str()) == -1) error_show("no_help_topic");
 }
 
 void vqc_QuitHelp() {

@@ -8,7 +8,7 @@
 #include <memory>
 #include <string>
 
-#include "vqc/cmd/model/options.h"
+#include "vqc/cmd/editors/kit/given_options.h"
 
 namespace vqc::editors {
 
@@ -81,7 +81,7 @@ void vqc_init_resources(Widget shell) {
   for (std::size_t i = 0; i < std::size(name_resources); ++i) {
     const auto& [name, option] = name_resources[i];
     table[6 + i] =
-        string_resource(name, offsetof(Resources, names) + i * sizeof(char*), (name_options.*option).builtin);
+        string_resource(name, offsetof(Resources, names) + i * sizeof(char*), (NameOptions().*option).builtin);
   }
   XtGetApplicationResources(shell, &resources, table, XtNumber(table), nullptr, 0);
   application_resources = {.verbose_code = resources.verbose_code != 0,
@@ -89,16 +89,17 @@ void vqc_init_resources(Widget shell) {
                            .generate_options = resources.generate_options != 0,
                            .java_compatible_widgets = resources.java_compatible_widgets != 0,
                            .mfc_compatible_widgets = resources.mfc_compatible_widgets != 0};
+  edited_document.compatibility = {.mfc = vqc_mfc_compatible_widgets(), .java = vqc_java_compatible_widgets()};
   for (std::size_t i = 0; i < std::size(name_resources); ++i) {
-    (name_options.*name_resources[i].option).resource = resources.names[i];
+    (edited_document.names.*name_resources[i].option).resource = resources.names[i];
   }
 }
 
-Text vqc_HelpPath(Display* display, const char* topic) {
-  if (!resources.help_dir) return nullptr;
+std::string vqc_HelpPath(Display* display, const char* topic) {
+  if (!resources.help_dir) return {};
   static const std::string path = expanded_by_shell(resources.help_dir);
   char* file = XtResolvePathname(display, "help", topic ? topic : "entry", ".html", path.c_str(), nullptr, 0, nullptr);
-  Text result = file;
+  std::string result = file ? file : "";
   XtFree(file);
   return result;
 }

@@ -5,7 +5,7 @@
 
 #include <X11/Intrinsic.h>
 
-#include "libkel/text.h"
+#include "vqc/cmd/editors/kit/edited_document.h"
 
 namespace vqc::editors {
 
@@ -14,7 +14,7 @@ void vqc_init_resources(Widget shell);
 
 /// The help file of a topic, in the user's language if there is one; a null topic stands for the contents. Null when
 /// there is none.
-Text vqc_HelpPath(Display* display, const char* topic);
+std::string vqc_HelpPath(Display* display, const char* topic);
 
 }  // namespace vqc::editors
 

@@ -15,12 +15,13 @@
 #include "vqc/cmd/application/batch.h"
 #include "vqc/cmd/editors/aliaslist.h"
 #include "vqc/cmd/editors/convlist.h"
+#include "vqc/cmd/editors/document_files.h"
 #include "vqc/cmd/editors/enumlist.h"
 #include "vqc/cmd/editors/error.h"
 #include "vqc/cmd/editors/familydlg.h"
 #include "vqc/cmd/editors/file_commands.h"
-#include "vqc/cmd/editors/gendlg.h"
 #include "vqc/cmd/editors/kit/cursor.h"
+#include "vqc/cmd/editors/kit/given_options.h"
 #include "vqc/cmd/editors/kit/keys.h"
 #include "vqc/cmd/editors/kit/memory.h"
 #include "vqc/cmd/editors/kit/placement.h"
@@ -30,14 +31,8 @@
 #include "vqc/cmd/editors/program/exit.h"
 #include "vqc/cmd/editors/program/help.h"
 #include "vqc/cmd/editors/program/resources.h"
-#include "vqc/cmd/editors/stop.h"
 #include "vqc/cmd/editors/title.h"
 #include "vqc/cmd/editors/widgetlist.h"
-#include "vqc/cmd/model/document.h"
-#include "vqc/cmd/model/options.h"
-#include "vqc/cmd/model/stop.h"
-#include "vqc/cmd/savefile/document_hooks.h"
-#include "vqc/cmd/savefile/parse.h"
 
 extern "C" void XmRegisterConverters();  // only Motif's private headers declare it
 
@@ -50,9 +45,6 @@ XtAppContext context = nullptr;
 /// Lets the lower layers speak to the editors, and the editors to the program. A batch run does without.
 void install_hooks() {
   message_sink = &error_box;
-  document_hooks = {.titled = vqc_set_title, .saved = document_saved};
-  family_choice = &toggled_families;
-  on_stop_list = show_stop_list;
   family_pool.on_current = current_family_changed;
   widget_kind.on_current = current_widget_changed;
   enum_kind.on_current = current_enum_changed;
@@ -80,9 +72,7 @@ void load_first_document(Widget shell) {
   if (!batch_save) return;
   const BusyCursor busy(shell);
   save_file = batch_save_file;
-  const bool opened = parseit(&save_file, 1) != 0;
-  dirty = false;
-  if (opened) show_document();
+  if (load_document()) show_document();
 }
 
 }  // namespace
@@ -108,6 +98,7 @@ bool start_session(int argc, char** argv) {
   Widget shell = family_dialog[FAMILY_SHELL];
   install_hooks();
   vqc_set_title(nullptr);
+  forced_compatibility = batch_compatibility;
   vqc_init_resources(shell);
   if (!vqc_generate_options()) XtUnmanageChild(family_dialog[FAMILY_OPTIONS_CASCADE]);
   set_icon(shell);

@@ -11,6 +11,7 @@
 #include "vqc/cmd/application/start_up.h"
 #include "vqc/cmd/editors/program/session.h"
 
+using namespace vqc;
 using namespace vqc::editors;
 
 namespace {

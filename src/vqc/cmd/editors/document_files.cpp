@@ -1,0 +1,57 @@
+// Loads the document that is being edited, and saves it.
+
+#include "vqc/cmd/editors/document_files.h"
+
+#include <memory>
+
+#include "libkel/message.h"
+#include "vqc/cmd/editors/kit/edited_document.h"
+#include "vqc/cmd/savefile/load.h"
+#include "vqc/cmd/savefile/save.h"
+#include "vqc/cmd/savefile/util.h"
+
+namespace vqc::editors {
+
+namespace {
+
+/// Shows what has ended a reading early: of the syntax errors, the first of the process.
+void show_errors(const LoadResult& result, const Diagnostics& findings) {
+  if (result.out_of_memory) error_show("out_of_memory");
+  if (result.first_error && parse_errors++ == 0) {
+    vq_syntax_error(result.first_error->line, result.first_error->message.c_str());
+  }
+  const bool no_document = !findings.empty() && findings.findings().front().id == FindingId::no_document;
+  if (no_document) error_show("bad_save_file");
+}
+
+}  // namespace
+
+int parseit(std::optional<std::string>& path, int fresh) {
+  if (!path) return 0;
+  const auto source = Source::read(path->c_str());
+  if (!source) {
+    error_show_2s("file_open_fail", path->c_str(), system_errmsg());
+    path = std::nullopt;
+    return 0;
+  }
+  if (fresh) edited_document.clear();
+  Diagnostics findings;
+  const LoadResult result = load(source, edited_document, findings);
+  show_errors(result, findings);
+  if (result.has_header) return 1;
+  if (!fresh) return 0;
+  edited_document.clear();  // of what the header said before it went wrong
+  path = std::nullopt;
+  return 0;
+}
+
+bool write_save_file(const char* path) {
+  const std::unique_ptr<FileSink> out = openfile(path);
+  if (!out) return false;
+  save(edited_document, *out);
+  closefile(*out);
+  dirty = false;
+  return true;
+}
+
+}  // namespace vqc::editors

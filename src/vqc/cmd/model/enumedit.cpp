@@ -1,3 +1,0 @@
-#include "vqc/cmd/model/enumedit.h"
-
-EnumDef::~EnumDef() { enum_entry_kind.clear(entries); }
