@@ -14,7 +14,7 @@ std::list<BuiltinName>::const_iterator BuiltinNames::find(Text name, int kind) c
 const BuiltinName* BuiltinNames::add(Text name, int kind) {
   if (!name) return nullptr;
   const auto found = find(name, kind);
-  return found != names_.end() ? &*found : &names_.emplace_front(std::string(name.view()), kind);
+  return found != names_.end() ? &*found : &names_.emplace_front(BuiltinName{std::string(name.view()), kind});
 }
 
 bool BuiltinNames::remove(Text name, int kind) {
