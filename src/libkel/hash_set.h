@@ -20,7 +20,8 @@ template <class Element, class Hash, class Equal = std::equal_to<Element>>
 class HashSet {
  public:
   /// With room for `size` elements.
-  explicit HashSet(std::size_t size = 0) : table_(size + size / 4 + kLeastCapacity) {}
+  explicit HashSet(std::size_t size = 0, const Hash& hash = Hash(), const Equal& equal = Equal())
+      : table_(size + size / 4 + kLeastCapacity, hash, equal) {}
 
   /// False when an equal element was there.
   bool insert(const Element& element) {
@@ -51,7 +52,8 @@ class HashSet {
   std::size_t room() const { return table_.capacity() / 8 * 7; }
 
   void grow() {
-    absl::flat_hash_set<Element, Hash, Equal> larger(table_.size() * 2 + kLeastCapacity);
+    absl::flat_hash_set<Element, Hash, Equal> larger(table_.size() * 2 + kLeastCapacity, table_.hash_function(),
+                                                     table_.key_eq());
     larger.insert(table_.begin(), table_.end());
     table_ = std::move(larger);
     filled_ = table_.size();

@@ -7,8 +7,8 @@
 #include <new>
 #include <vector>
 
-#include "libkel/hash_set.h"
 #include "libkel/text.h"
+#include "vqc/cmd/model/name_index.h"
 
 namespace vqc {
 
@@ -74,8 +74,7 @@ class NameList {
     if (tail_ && name_of(*tail_) == name) return tail_;  // what has just been added is soon looked for
     if (!index_ && size_ <= kSearched) return searched(name);
     if (!index_) make_index();
-    Element* const* found = index_->find(name);
-    return found ? *found : nullptr;
+    return static_cast<Element*>(index_->find(name));
   }
 
   /// The place of that name, counted from 1; 0 when it is absent.
@@ -157,18 +156,6 @@ class NameList {
   }
 
  private:
-  struct Hash {
-    using is_transparent = void;
-    std::size_t operator()(Text name) const { return hash_of(name.view()); }
-    std::size_t operator()(const Element* element) const { return (*this)(name_of(*element)); }
-  };
-  struct Equal {
-    using is_transparent = void;
-    bool operator()(const Element* a, const Element* b) const { return a == b; }
-    bool operator()(const Element* a, Text b) const { return name_of(*a) == b; }
-  };
-  using Index = HashSet<Element*, Hash, Equal>;
-
   static constexpr unsigned kSearched = 16;  // up to here a search is as quick as an index
 
   /// Makes two elements neighbours; null stands for what is before the first and after the last.
@@ -184,7 +171,8 @@ class NameList {
   }
 
   void make_index() const {
-    auto index = std::make_unique<Index>(size_);
+    const auto name = [](const void* element) { return name_of(*static_cast<const Element*>(element)); };
+    auto index = std::make_unique<NameIndex>(name, size_);
     for (Element* each = head_; each; each = each->next) index->insert(each);
     index_ = std::move(index);
   }
@@ -203,7 +191,7 @@ class NameList {
   mutable Element* head_ = nullptr;
   mutable Element* tail_ = nullptr;
   mutable Element* unsettled_after_ = nullptr;  // the last element in order, when later ones are not
-  mutable std::unique_ptr<Index> index_;        // made when it is first needed
+  mutable std::unique_ptr<NameIndex> index_;    // made when it is first needed
   unsigned size_ = 0;
   bool rearranged_ = false;  // moves have been made: no longer may a new element be compared with the last one alone
 };
