@@ -27,7 +27,7 @@ Document::~Document() {
 
 Text Document::keep(Text text) {
   if (!text) return nullptr;
-  auto* copy = static_cast<char*>(memory_.allocate(text.view().size() + 1, 1));
+  auto* copy = static_cast<char*>(memory_.allocate(text.view().size(), 1));
   text.view().copy(copy, text.view().size());
   return Text(std::string_view(copy, text.view().size()));
 }
@@ -40,7 +40,7 @@ Family* Document::ensure(decltype(families)& list, Text name) {
   return family;
 }
 
-void Document::begin(ResourceDef& resource) {
+void Document::begin(ResourceDef& resource) const {
   resource.mfc_compatible = compatibility.mfc;
   resource.java_compatible = compatibility.java;
 }

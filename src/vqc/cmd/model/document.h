@@ -132,8 +132,8 @@ class Document {
 
   /// Gives a new element what a member cannot state as its first value.
   template <class Element>
-  void begin(Element& /*element*/) {}
-  void begin(ResourceDef& resource);
+  void begin(Element& /*element*/) const {}
+  void begin(ResourceDef& resource) const;
   void predefine(Family& family);
 
   template <class Element>

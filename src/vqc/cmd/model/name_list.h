@@ -128,14 +128,6 @@ class NameList {
     if (element->previous) move_down(element->previous);
   }
 
-  /// Forgets the elements, which are nobody's then.
-  void clear() {
-    head_ = tail_ = unsettled_after_ = nullptr;
-    size_ = 0;
-    rearranged_ = false;
-    index_.reset();
-  }
-
   /// Brings what was added out of order to its place: sorts it and merges it with what stands in order already.
   void settle() const {
     if (!unsettled_after_) return;

@@ -40,7 +40,7 @@ class Actions {
 
  private:
   void note(const void* part, Range range) {
-    if (places_) places_->note(part, range);
+    if (places_ && part) places_->note(part, range);
   }
 
   Document& document_;

@@ -18,12 +18,11 @@ constexpr std::size_t kLongest = 2047;  // characters kept of a token
 constexpr bool is_punctuation(char c) { return std::string_view("=,;()*:{}").find(c) != std::string_view::npos; }
 
 /// The runs that tokens are made of.
-enum CharacterRun : std::uint8_t { SPACE = 1, DIGITS = 2, WORD = 4, PLAIN_STRING = 8 };
+enum CharacterRun : std::uint8_t { SPACE = 1, WORD = 2, PLAIN_STRING = 4 };
 
 constexpr std::uint8_t runs_of(char c) {
   unsigned runs = 0;
   if (kel_is(c, KEL_SPACE)) runs |= SPACE;
-  if (kel_is(c, KEL_DIGIT)) runs |= DIGITS;
   if (kel_is(c, KEL_IDENTIFIER) || c == '.') runs |= WORD;
   if (c != '\'' && c != '\\' && c != '\0') runs |= PLAIN_STRING;
   return static_cast<std::uint8_t>(runs);

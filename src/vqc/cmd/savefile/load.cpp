@@ -80,8 +80,9 @@ class Reader {
   bool misplaced();
   std::string current_text() const { return std::string(source_.text(lexer_.range())); }
   bool at_end() const { return lexer_.is(SaveFileToken::end_of_input); }
+  template <class What>
+  bool next_is(What what) const;
   bool next_is_name() const;
-  bool next_is(char character) const;
   bool at_item() const;
   bool at_field() const;
   bool block_is_unclosed() const;
@@ -186,17 +187,14 @@ bool Reader::misplaced() {
   return false;
 }
 
-bool Reader::next_is_name() const {
+template <class What>
+bool Reader::next_is(What what) const {
   Lexer ahead = lexer_;
   ahead.next_token();
-  return ahead.is(SaveFileToken::string) || ahead.is(SaveFileToken::identifier);
+  return ahead.is(what);
 }
 
-bool Reader::next_is(char character) const {
-  Lexer ahead = lexer_;
-  ahead.next_token();
-  return ahead.is(character);
-}
+bool Reader::next_is_name() const { return next_is(SaveFileToken::string) || next_is(SaveFileToken::identifier); }
 
 /// Whether an item begins here. In a block the same words are followed by "=".
 bool Reader::at_item() const {
@@ -217,7 +215,7 @@ bool Reader::block_is_unclosed() const {
   return at_end() || at_item() || (lexer_.is(Kw::enumentry) && block_.of == Kw::enumentry && next_is_name());
 }
 
-/// Each of these goes on after an error where that is wanted; false where what is being read is over.
+// Each of these goes on after an error where that is wanted; false where what is being read is over.
 
 bool Reader::go_on_in_header() {
   if (!goes_on_) return false;
@@ -240,11 +238,9 @@ bool Reader::go_on_in_block() {
 bool Reader::go_on_in_resources(bool& another) {
   another = false;
   if (!goes_on_) return false;
-  for (; !at_end() && !lexer_.is('}') && !lexer_.is(';') && !at_field() && !at_item(); lexer_.next_token()) {
+  for (; !block_is_unclosed() && !lexer_.is('}') && !lexer_.is(';') && !at_field(); lexer_.next_token()) {
     past_visible_ = past_visible_ || lexer_.is(SaveFileToken::identifier);
-    Lexer ahead = lexer_;
-    ahead.next_token();
-    another = past_visible_ && lexer_.is(',') && ahead.is(SaveFileToken::string);
+    another = past_visible_ && lexer_.is(',') && next_is(SaveFileToken::string);
     if (another) break;
   }
   if (another) lexer_.next_token();

@@ -132,9 +132,8 @@ void write_family_init(Sink& out, const Family& family) {
       write_value(out, "\t", field.word, family.**text);
       continue;
     }
-    charout_1s(out, "\t%s=", keyword_text(field.word));
-    boolout(out, family.*std::get<bool FamilyInit::*>(field.member));
-    out.write("\n");
+    const bool flag = family.*std::get<bool FamilyInit::*>(field.member);
+    boolout_bc(out, flag, keyword_text(field.word), !flag);  // whatever it is
   }
 }
 

@@ -29,7 +29,7 @@ struct Name : Text {
 };
 
 /// Tells all kinds of lists that an element goes.
-void forget_everywhere(const void* element);
+inline void forget_everywhere(const void* element);
 
 struct EditedDocument : Document {
   EditedDocument() { on_removal = forget_everywhere; }

@@ -96,7 +96,8 @@ std::string undistorted(Widget w, const std::string& shown) {
 
 std::string gettextf(Widget w, Text* field) {
   std::string text = w ? undistorted(w, characters_in(w)) : std::string();
-  if (field) *field = non_empty(edited_document.keep(Name(text)));
+  const Text value = non_empty(Name(text));
+  if (field && !(*field == value)) *field = edited_document.keep(value);
   return text;
 }
 

@@ -15,7 +15,6 @@
 #include "vqc/cmd/application/batch.h"
 #include "vqc/cmd/editors/aliaslist.h"
 #include "vqc/cmd/editors/convlist.h"
-#include "vqc/cmd/editors/document_files.h"
 #include "vqc/cmd/editors/enumlist.h"
 #include "vqc/cmd/editors/error.h"
 #include "vqc/cmd/editors/familydlg.h"
