@@ -25,18 +25,15 @@ Input::Input(const std::uint8_t* data, std::size_t size) {
   choice = data[size - 1];
 }
 
-Reading read_into(Document& document, std::string_view text, AfterError after_error, Places* places) {
-  Reading reading{.result = {}, .size = text.size()};
+Reading read_into(Document& document, std::string_view text, AfterError after_error) {
   const auto source = Source::from_text(text);
+  Reading reading{.result = {}, .source = source, .places = Places(*source)};
+  Places* places = after_error == AfterError::go_on ? &reading.places : nullptr;
   reading.result = load(source, document, reading.diagnostics, after_error, places);
   for (const Finding& finding : reading.diagnostics.findings()) {
     require(is_inside(finding.range, text.size()), "something is found outside the text");
     require(!words_of(finding).empty(), "a finding has no words");
     require(source->place(finding.range.begin).line >= 1, "a finding has no place");
-  }
-  if (!places) return reading;
-  for (const Places::Entry& entry : places->entries()) {
-    require(is_inside(entry.range, text.size()), "a part stands outside the text");
   }
   return reading;
 }

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -29,13 +30,13 @@ struct Input {
 /// What came of reading a text.
 struct Reading {
   LoadResult result;
+  std::shared_ptr<const Source> source;
+  Places places;
   Diagnostics diagnostics = {};
-  std::size_t size;  // of the text
 };
 
 /// Adds a text to a document. Everything that is found must stand in it, and have words.
-Reading read_into(Document& document, std::string_view text, AfterError after_error = AfterError::stop,
-                  Places* places = nullptr);
+Reading read_into(Document& document, std::string_view text, AfterError after_error = AfterError::stop);
 
 /// A document as it is written.
 std::string saved(const Document& document);

@@ -20,29 +20,27 @@ class Actions {
 
   Document& document() { return document_; }
 
-  /// The element of that name in a list, made if there is none. Null where no element can have the name.
-  template <class List>
-  typename List::Element* define(List& list, const Value& name) {
-    auto* element = document_.ensure(list, name.text);
-    note(element, name.range);
-    return element;
+  /// A text that lives as long as the document, of one that does not.
+  Text keep(std::string_view text, Range range) {
+    const Text kept = document_.keep(Text(text));
+    if (places_) places_->note(kept, range);
+    return kept;
+  }
+  /// The record or family of that name in a pool, made if there is none. Null where none can have the name.
+  template <class Pool>
+  typename Pool::Element* define(Pool& pool, const Value& name) {
+    auto* record = document_.ensure(pool, name.text);
+    if (places_ && record) places_->note(record, name.range);
+    return record;
   }
   /// Lets a family use the record of that name in a pool.
   template <class References, class Pool>
   void refer(References& references, Pool& pool, const Value& name) {
-    note(document_.ensure(references, pool, name.text), name.range);
-  }
-  template <class Member>
-  void set(Member& member, const Member& value, Range range) {
-    member = value;
-    note(&member, range);
+    const void* reference = document_.ensure(references, pool, name.text);
+    if (places_) places_->note(reference, name.range);
   }
 
  private:
-  void note(const void* part, Range range) {
-    if (places_ && part) places_->note(part, range);
-  }
-
   Document& document_;
   Places* places_;
 };

@@ -267,8 +267,9 @@ bool Reader::try_take(char character) {
 
 /// The text of the current token, kept for the document, and a step to the next.
 Value Reader::taken() {
-  const Text text(lexer_.text());
-  const Value value{lexer_.text_is_in_source() ? text : into().keep(text), lexer_.range()};
+  const Range range = lexer_.range();
+  const bool is_view = lexer_.text_is_in_source();
+  const Value value{is_view ? Text(lexer_.text()) : actions_.keep(lexer_.text(), range), range};
   lexer_.next_token();
   return value;
 }
@@ -285,7 +286,7 @@ bool Reader::assigned(Value& name) { return expect('=') && take_name(name); }
 bool Reader::assigned(Text& member) {
   Value value;
   if (!assigned(value)) return false;
-  actions_.set(member, value.text, value.range);
+  member = value.text;
   return true;
 }
 
@@ -300,7 +301,7 @@ bool Reader::assigned_optional(Text& member) {
 bool Reader::assigned(bool& member) {
   if (!expect('=')) return false;
   if (!at_name()) return error(FindingId::expected_boolean);
-  actions_.set(member, !same_word(lexer_.text(), "False"), lexer_.range());
+  member = !same_word(lexer_.text(), "False");
   lexer_.next_token();
   return true;
 }
@@ -461,7 +462,7 @@ bool Reader::enumentry(EnumDef& owner) {
   lexer_.next_token();
   Value name;
   if (!take_name(name)) return false;
-  EnumEntry* entry = actions_.define(owner.entries, name);
+  EnumEntry* entry = into().ensure(owner.entries, name.text);
   return block(Kw::enumentry, [&] { return field(enum_entry_fields, *entry); });
 }
 
@@ -577,19 +578,20 @@ bool Reader::resource_tail(ResourceDef& resource, bool& another) {
 }
 
 /// The resource that the current string names, made if there is none.
-ResourceDef* Reader::named_resource(WidgetDef& widget) { return actions_.define(widget.resource_definitions, taken()); }
+ResourceDef* Reader::named_resource(WidgetDef& widget) {
+  return into().ensure(widget.resource_definitions, taken().text);
+}
 
 void Reader::take_optional_string(Text& member) {
   if (!lexer_.is(SaveFileToken::string)) return;
-  const Value value = taken();
-  actions_.set(member, non_empty(value.text), value.range);
+  member = non_empty(taken().text);
 }
 
 /// Other than anywhere else, only "True" is true here.
 bool Reader::visible(bool& flag) {
   if (!lexer_.is(SaveFileToken::identifier)) return error(FindingId::expected_boolean);
   past_visible_ = true;
-  actions_.set(flag, same_word(lexer_.text(), "True"), lexer_.range());
+  flag = same_word(lexer_.text(), "True");
   lexer_.next_token();
   return true;
 }
@@ -600,7 +602,7 @@ bool Reader::free_mode(FreeMode& mode, const char* stated) {
   if (!word || found == std::end(free_mode_words)) {
     return error(FindingId::expected_free_mode, word ? stated : "se_boolean", lexer_.range());
   }
-  actions_.set(mode, static_cast<FreeMode>(found - free_mode_words), lexer_.range());
+  mode = static_cast<FreeMode>(found - free_mode_words);
   lexer_.next_token();
   return true;
 }
@@ -610,7 +612,7 @@ bool Reader::access(ResourceDef& resource) {
   if (!lexer_.is(Kw::access)) return true;
   lexer_.next_token();
   if (!lexer_.is(SaveFileToken::integer)) return error(FindingId::expected_integer);
-  actions_.set(resource.access, lexer_.integer(), lexer_.range());
+  resource.access = lexer_.integer();
   lexer_.next_token();
   return true;
 }
