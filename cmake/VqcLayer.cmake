@@ -32,7 +32,4 @@ function(vqc_layer name)
   target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}/src FILES ${LAYER_HEADERS})
   set_target_properties(${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
   target_link_libraries(${name} PUBLIC ${LAYER_BUILDS_ON} ${LAYER_USES} PRIVATE vqc_compile_options)
-  # Abseil's tables include <iostream> without need, and each file that does has the program set up streams and locales
-  # when it starts. No layer writes to streams: with its guard defined, the header is empty.
-  target_compile_definitions(${name} PRIVATE _GLIBCXX_IOSTREAM)
 endfunction()

@@ -1,7 +1,6 @@
 #include "vqc/cmd/application/start_up.h"
 
 #include <fcntl.h>
-#include <malloc.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -21,13 +20,6 @@ void open_standard_streams() {
   if (descriptor > STDERR_FILENO) close(descriptor);
 }
 
-/// Has large tables given back to the system when they have grown into larger ones. By default the allocator would keep
-/// pieces as large as the last that it has given back.
-void give_large_memory_back() {
-  constexpr int kLarge = 128 * 1024;
-  mallopt(M_MMAP_THRESHOLD, kLarge);
-}
-
 /// Ends a batch run that is short of memory: going on would lose a part of the document without a word.
 [[noreturn]] void give_up_for_memory() {
   std::fputs("vqconfig: out of memory. Exiting...\n", stderr);
@@ -38,7 +30,6 @@ void give_large_memory_back() {
 
 void prepare_process() {
   open_standard_streams();
-  give_large_memory_back();
   std::set_new_handler(give_up_for_memory);
 }
 
