@@ -14,6 +14,8 @@ namespace vqc {
 
 inline std::size_t hash_of(std::string_view text) { return absl::HashOf(absl::string_view(text.data(), text.size())); }
 
+inline std::size_t hash_of_address(const void* address) { return absl::HashOf(address); }
+
 /// A hash table that is as it was when an insertion finds no memory. (The library's own is broken by then: it must not
 /// grow in place.)
 template <class Element, class Hash, class Equal = std::equal_to<Element>>

@@ -1,7 +1,7 @@
 #ifndef VQC_CMD_GENERATE_WALK_H
 #define VQC_CMD_GENERATE_WALK_H
 
-#include <functional>
+#include <cstddef>
 #include <span>
 
 #include "vqc/cmd/generate/emit.h"
@@ -32,7 +32,10 @@ class Done {
   void add(const void* record) { records_.insert(record); }
 
  private:
-  HashSet<const void*, std::hash<const void*>> records_;
+  struct Hash {
+    std::size_t operator()(const void* record) const { return hash_of_address(record); }
+  };
+  HashSet<const void*, Hash> records_;
 };
 
 inline void write_banner(const Run& run, const Family& family) {

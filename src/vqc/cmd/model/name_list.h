@@ -148,7 +148,7 @@ class NameList {
   }
 
  private:
-  static constexpr unsigned kSearched = 16;  // up to here a search is as quick as an index
+  static constexpr unsigned kSearched = 32;  // up to here a search is as quick as an index, which takes memory
 
   /// Makes two elements neighbours; null stands for what is before the first and after the last.
   void join(Element* left, Element* right) const {
