@@ -8,25 +8,21 @@ namespace vqc {
 
 namespace {
 
-struct Kind {
-  const char* name;
-  Severity severity;
-  const char* words;
-};
+constexpr bool on = true;
+[[maybe_unused]] constexpr bool off = false;
 
-constexpr Kind kinds[] = {
-#define FINDING(id, severity, words) {#id, Severity::severity, words},
+constexpr FindingKind kinds[] = {
+#define FINDING(id, severity, shown, words, explanation, example, cure) \
+  {#id, Severity::severity, shown, words, explanation, example, cure},
 #include "libkel/findings.def"
 #undef FINDING
 };
 
-const Kind& kind_of(FindingId id) { return kinds[static_cast<std::size_t>(id)]; }
-
 }  // namespace
 
-Severity severity_of(FindingId id) { return kind_of(id).severity; }
+const FindingKind& kind_of(FindingId id) { return kinds[static_cast<std::size_t>(id)]; }
 
-const char* name_of(FindingId id) { return kind_of(id).name; }
+std::span<const FindingKind> finding_kinds() { return kinds; }
 
 std::string words_of(const Finding& finding) {
   std::string words;

@@ -2,6 +2,8 @@
 #define LIBKEL_DIAGNOSTICS_H
 
 #include <cstdint>
+#include <optional>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,9 +17,17 @@ enum class Severity : std::uint8_t { error, warning, note };
 
 /// The kinds of findings, as findings.def lists them.
 enum class FindingId : std::uint8_t {
-#define FINDING(id, severity, words) id,
+#define FINDING(id, severity, shown, words, explanation, example, cure) id,
 #include "libkel/findings.def"
 #undef FINDING
+};
+
+/// What belongs to a finding: words, and where they point if anywhere.
+struct Note {
+  std::optional<Range> range;
+  std::string words;
+
+  bool operator==(const Note&) const = default;
 };
 
 /// Something that has been found in a Source.
@@ -25,6 +35,8 @@ struct Finding {
   FindingId id;
   Range range;
   std::vector<std::string> arguments = {};
+  std::vector<Note> notes = {};
+  std::string suggestion = {};  // what was perhaps meant; empty for nothing
 
   bool operator==(const Finding&) const = default;
 };
@@ -40,9 +52,19 @@ class Diagnostics {
   std::vector<Finding> findings_;
 };
 
-Severity severity_of(FindingId id);
-/// The name of a kind, as findings.def has it.
-const char* name_of(FindingId id);
+/// What is known about a kind of finding, as findings.def has it.
+struct FindingKind {
+  const char* name;  // its id
+  Severity severity;
+  bool shown;         // even where nobody asks for it
+  const char* words;  // with %0 and so on for the arguments
+  const char* explanation;
+  const char* example;  // a document of which this is the only finding
+  const char* cure;     // the same document, mended
+};
+
+const FindingKind& kind_of(FindingId id);
+std::span<const FindingKind> finding_kinds();
 /// What a finding says, its arguments filled in.
 std::string words_of(const Finding& finding);
 

@@ -18,13 +18,13 @@ TEST(Diagnostics, KeepTheOrderOfWhatIsFound) {
 
 TEST(Findings, HaveWordsWithTheirArguments) {
   EXPECT_EQ("expected '='", words_of({FindingId::expected_character, {}, {"="}}));
-  EXPECT_EQ("'%1' cannot stand here", words_of({FindingId::misplaced_keyword, {}, {"%1"}}));
+  EXPECT_EQ("'%1' cannot stand here", words_of({FindingId::misplaced_word, {}, {"%1"}}));
   EXPECT_EQ("this block is not closed", words_of({FindingId::unclosed_block, {}}));
 }
 
 TEST(Findings, HaveNamesAndSeverities) {
-  EXPECT_STREQ("unclosed_block", name_of(FindingId::unclosed_block));
-  EXPECT_EQ(Severity::error, severity_of(FindingId::unclosed_block));
+  EXPECT_STREQ("unclosed_block", kind_of(FindingId::unclosed_block).name);
+  EXPECT_EQ(Severity::error, kind_of(FindingId::unclosed_block).severity);
 }
 
 }  // namespace

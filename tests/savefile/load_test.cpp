@@ -146,7 +146,7 @@ class ReadHeader : public DocumentTest {
     ASSERT_TRUE(result.first_error);
     EXPECT_EQ("se_unexpected_keyword", result.first_error->message);
     EXPECT_EQ(line, result.first_error->line);
-    EXPECT_EQ((Findings{{misplaced_keyword, text.ranges.front(), {key}}}), diagnostics.findings());
+    EXPECT_EQ((Findings{{misplaced_word, text.ranges.front(), {key}}}), diagnostics.findings());
   }
 };
 

@@ -64,14 +64,14 @@ constexpr std::string_view kGood = "alias 'good' {\n\tto_name='T'\n}\n";
 
 TEST_F(Recovery, AfterAWrongFieldTheBlockGoesOn) {
   expect_items("widget 'W' {\n\trealise='r'\n\t<dialog>='D'\n\tabstract='a'\n}\nalias 'good' { to_name='T' }",
-               {{misplaced_keyword, {"dialog"}}},
+               {{misplaced_word, {"dialog"}}},
                "widget 'W' {\n\trealise='r'\n\tabstract='a'\n}\n" + std::string(kGood));
 }
 
 TEST_F(Recovery, AfterAWordThatIsNoKeywordTheBlockGoesOn) {
-  expect_items("alias 'good' { <nonsense> = 'x' to_name='T' }", {{misplaced_keyword, {"nonsense"}}}, kGood);
-  expect_items("alias 'good' { <'nonsense'> to_name='T' }", {{misplaced_keyword, {"'nonsense'"}}}, kGood);
-  expect_items("alias 'good' { <12> to_name='T' }", {{misplaced_keyword, {"12"}}}, kGood);
+  expect_items("alias 'good' { <nonsense> = 'x' to_name='T' }", {{misplaced_word, {"nonsense"}}}, kGood);
+  expect_items("alias 'good' { <'nonsense'> to_name='T' }", {{misplaced_word, {"'nonsense'"}}}, kGood);
+  expect_items("alias 'good' { <12> to_name='T' }", {{misplaced_word, {"12"}}}, kGood);
 }
 
 TEST_F(Recovery, AfterACharacterOutOfPlaceTheBlockGoesOn) {
@@ -104,7 +104,7 @@ TEST_F(Recovery, AfterAWrongBooleanTheBlockGoesOn) {
 TEST_F(Recovery, BlocksInPlaceOfValuesAreSkipped) {
   expect_items("alias 'A' { <{> to_name='x' { dialog='y' } } to_name='U' }\nalias 'good' { to_name='T' }",
                {{expected_character, {"}"}}}, "alias 'A' {\n\tto_name='U'\n}\n" + std::string(kGood));
-  expect_items("widget 'W' { <popup> = { realise='x' } abstract='a' }", {{misplaced_keyword, {"popup"}}},
+  expect_items("widget 'W' { <popup> = { realise='x' } abstract='a' }", {{misplaced_word, {"popup"}}},
                "widget 'W' {\n\tabstract='a'\n}\n");
 }
 
@@ -128,7 +128,7 @@ TEST_F(Recovery, AFaultInAFamilyLeavesWhatItUses) {
   load(Source::from_text("VQconfig alias 'a' {} family 'F' { alias='a' header='h' } family 'G' {}"), expected, none);
   EXPECT_TRUE(none.empty());
   expect_items("alias 'a' {} family 'F' { alias='a' <realise>='r' header='h' } family 'G' {}",
-               {{misplaced_keyword, {"realise"}}}, saved(expected).substr(9));
+               {{misplaced_word, {"realise"}}}, saved(expected).substr(9));
 }
 
 TEST_F(Recovery, AConverterOfTheOlderFormWithAFaultMakesItsPopup) {
@@ -276,7 +276,7 @@ TEST_F(Recovery, AMissingOpeningBraceLeavesTheBlock) {
 
 TEST_F(Recovery, AfterAWrongItemTheNextOneIsRead) {
   expect_items("<nonsense> 'x' { to_name='y' }\nalias 'good' { to_name='T' }", {{unknown_item}}, kGood);
-  expect_items("<to_name>='y'\nalias 'good' { to_name='T' }", {{misplaced_keyword, {"to_name"}}}, kGood);
+  expect_items("<to_name>='y'\nalias 'good' { to_name='T' }", {{misplaced_word, {"to_name"}}}, kGood);
 }
 
 TEST_F(Recovery, AStrayBraceIsOneFault) {
@@ -307,7 +307,7 @@ TEST_F(Recovery, WhatFollowsAFamilyWithAnEmptyNameIsStatedNowhereEither) {
 
 TEST_F(Recovery, AHeaderKeyOutOfOrderIsOneFault) {
   expect("VQconfig\nconfig_name='c'\n<code_name>='d'\nalias 'good' { to_name='T' }",
-         {{misplaced_keyword, {"code_name"}}}, "config_name='c'\n" + std::string(kGood));
+         {{misplaced_word, {"code_name"}}}, "config_name='c'\n" + std::string(kGood));
 }
 
 TEST_F(Recovery, AfterAFaultInTheHeaderTheHeaderGoesOn) {
@@ -328,7 +328,7 @@ TEST_F(Recovery, EachFaultIsFoundOnce) {
   expect_items(
       "widget 'W' {\n\trealise=<5>\n\tabstract='a'\n\t<dialog>='D'\n\tcan_add_child='c'\n}\n"
       "alias 'good' { to_name='T' <;> }",
-      {{expected_name}, {misplaced_keyword, {"dialog"}}, {expected_character, {"}"}}},
+      {{expected_name}, {misplaced_word, {"dialog"}}, {expected_character, {"}"}}},
       "widget 'W' {\n\tabstract='a'\n\tcan_add_child='c'\n}\n" + std::string(kGood));
   expect_items(
       "alias 'A' <{> to_name='U'\npage 'p' <nonsense> { }\nenumeration 'E' { enumentry 'a' { code_symbol=<;> } }\n"

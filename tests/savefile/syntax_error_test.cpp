@@ -52,7 +52,7 @@ struct Fault {
 std::vector<std::string> arguments_of(const Fault& fault, const MarkedText& document) {
   if (fault.id == expected_character) return {std::string(1, fault.message[1])};
   const Range range = document.ranges.front();
-  if (fault.id == misplaced_keyword) return {document.text.substr(range.begin, range.end - range.begin)};
+  if (fault.id == misplaced_word) return {document.text.substr(range.begin, range.end - range.begin)};
   return {};
 }
 
@@ -76,8 +76,8 @@ TEST_F(FaultyDocument, HasFaultsInTheHeader) {
       {"code_name = <page>", 2, "se_string", expected_name},
       {"generate_alias_string = <;>", 2, "se_string", expected_name},
       {"stop_list = <>", 2, "se_string", expected_name},
-      {"stop_list='x'\n<code_name>='y'", 3, "se_unexpected_keyword", misplaced_keyword},
-      {"config_name='x'\n<code_name>='y'", 3, "se_unexpected_keyword", misplaced_keyword},
+      {"stop_list='x'\n<code_name>='y'", 3, "se_unexpected_keyword", misplaced_word},
+      {"config_name='x'\n<code_name>='y'", 3, "se_unexpected_keyword", misplaced_word},
   });
 }
 
@@ -93,8 +93,8 @@ TEST_F(FaultyDocument, HasFaultsWhereAnItemMustBegin) {
       {"/<\f>", 2, "se_reserved", unknown_item},
       {"<\xc3>\xa9", 2, "se_reserved", unknown_item},
       {"alias 'a' {}\n<}>", 3, "se_reserved", unknown_item},
-      {"<to_name>", 2, "se_unexpected_keyword", misplaced_keyword},
-      {"<VQconfig>", 2, "se_unexpected_keyword", misplaced_keyword},
+      {"<to_name>", 2, "se_unexpected_keyword", misplaced_word},
+      {"<VQconfig>", 2, "se_unexpected_keyword", misplaced_word},
   });
 }
 
@@ -308,7 +308,7 @@ TEST_P(BlockOf, TakesItsOwnKeywordsOnly) {
       EXPECT_TRUE(shown == error(3, "'='") || shown == error(3, "se_string")) << row.word << ": " << shown;
     } else {
       EXPECT_EQ(error(3, "se_unexpected_keyword"), shown) << row.word;
-      expect_finding(misplaced_keyword, opening, row.word, {row.word});
+      expect_finding(misplaced_word, opening, row.word, {row.word});
     }
   }
 }
@@ -318,7 +318,7 @@ TEST_P(BlockOf, TakesNoOtherTokens) {
   const std::string opening = std::string("VQconfig\n") + GetParam().opening + "\n";
   for (const char* token : {"word", "'string'", "5", "-5"}) {
     EXPECT_EQ(error(3, top ? "se_reserved" : "se_unexpected_keyword"), error_in(opening + token)) << token;
-    top ? expect_finding(unknown_item, opening, token) : expect_finding(misplaced_keyword, opening, token, {token});
+    top ? expect_finding(unknown_item, opening, token) : expect_finding(misplaced_word, opening, token, {token});
   }
   for (const char* token : {";", ",", "{", "=", "#", "-", "\t", "\r", "\xe9"}) {
     const bool is_space = token[0] == '\t' || token[0] == '\r';

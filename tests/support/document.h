@@ -30,7 +30,7 @@ namespace vqc {
 inline void PrintTo(const Range& range, std::ostream* out) { *out << range.begin << " to " << range.end; }
 
 inline void PrintTo(const Finding& finding, std::ostream* out) {
-  *out << name_of(finding.id) << " from " << finding.range.begin << " to " << finding.range.end;
+  *out << kind_of(finding.id).name << " from " << finding.range.begin << " to " << finding.range.end;
   for (const std::string& argument : finding.arguments) *out << ", " << argument;
 }
 

@@ -181,7 +181,7 @@ bool Reader::misplaced() {
     return swallowed ? error(FindingId::expected_character, stated, swallowed_, {";"})
                      : error(FindingId::unclosed_block, stated, block_.open);
   }
-  const FindingId id = word ? FindingId::misplaced_keyword : FindingId::expected_character;
+  const FindingId id = word ? FindingId::misplaced_word : FindingId::expected_character;
   error(id, stated, lexer_.range(), {word ? current_text() : "}"});
   if (goes_on_ && !lexer_.is('{')) lexer_.next_token();
   return false;
@@ -399,7 +399,7 @@ bool Reader::item() {
     return (this->*each.read)();
   }
   if (!lexer_.is(SaveFileToken::keyword)) return error(FindingId::unknown_item);
-  return error(FindingId::misplaced_keyword, "se_unexpected_keyword", lexer_.range(), {current_text()});
+  return error(FindingId::misplaced_word, "se_unexpected_keyword", lexer_.range(), {current_text()});
 }
 
 /// The record of the pool that the current NAME names, made if there is none. Null when there is no name.
