@@ -38,7 +38,11 @@ void Sink::note(bool success) {
 
 std::unique_ptr<FileSink> FileSink::open(const char* path) {
   const int descriptor = ::open(path, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, kReadWriteAll);
-  return descriptor == kNotOpen ? nullptr : std::unique_ptr<FileSink>(new FileSink(descriptor));
+  return descriptor == kNotOpen ? nullptr : std::unique_ptr<FileSink>(new FileSink(descriptor, true));
+}
+
+std::unique_ptr<FileSink> FileSink::to_descriptor(int descriptor) {
+  return std::unique_ptr<FileSink>(new FileSink(descriptor, false));
 }
 
 FileSink::~FileSink() { end(); }
@@ -54,7 +58,7 @@ bool FileSink::take(std::string_view text) {
 
 bool FileSink::end() {
   const int descriptor = std::exchange(descriptor_, kNotOpen);
-  return descriptor == kNotOpen || close(descriptor) == 0;
+  return descriptor == kNotOpen || !closes_ || close(descriptor) == 0;
 }
 
 bool StringSink::take(std::string_view text) {

@@ -47,15 +47,18 @@ class FileSink : public Sink {
  public:
   /// Null when the file cannot be opened; errno says why.
   static std::unique_ptr<FileSink> open(const char* path);
-  /// Closes the file. What is still in the buffer is lost without finish().
+  /// A file that is open and stays so.
+  static std::unique_ptr<FileSink> to_descriptor(int descriptor);
+  /// Closes the file unless it was open before. What is still in the buffer is lost without finish().
   ~FileSink() override;
 
  private:
-  explicit FileSink(int descriptor) : descriptor_(descriptor) {}
+  FileSink(int descriptor, bool closes) : descriptor_(descriptor), closes_(closes) {}
   bool take(std::string_view text) override;
   bool end() override;
 
   int descriptor_;
+  bool closes_;
 };
 
 /// A text in memory.

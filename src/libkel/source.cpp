@@ -64,13 +64,17 @@ bool read_all(int descriptor, Growing& read) {
 std::shared_ptr<const Source> Source::read(const char* path) {
   const int descriptor = open(path, O_RDONLY | O_CLOEXEC);
   if (descriptor < 0) return nullptr;
-  Growing read(size_of(descriptor) + kLeast);
-  const bool whole = read_all(descriptor, read);
+  auto source = read(descriptor, path);
   const int error = errno;
   close(descriptor);
   errno = error;
-  if (!whole) return nullptr;
-  return std::shared_ptr<const Source>(new Source(path, std::move(read.bytes), read.size));
+  return source;
+}
+
+std::shared_ptr<const Source> Source::read(int descriptor, std::string name) {
+  Growing read(size_of(descriptor) + kLeast);
+  if (!read_all(descriptor, read)) return nullptr;
+  return std::shared_ptr<const Source>(new Source(std::move(name), std::move(read.bytes), read.size));
 }
 
 std::shared_ptr<const Source> Source::from_text(std::string_view text, std::string name) {
@@ -103,10 +107,13 @@ Place Source::place(std::size_t offset) const {
   return place;
 }
 
-std::string_view Source::line(std::size_t number) const {
+std::size_t Source::offset_of_line(std::size_t number) const {
   const auto& starts = line_starts();
-  if (number == 0 || number > starts.size()) return {};
-  const std::string_view rest = text().substr(starts[number - 1]);
+  return number == 0 || number > starts.size() ? size_ : starts[number - 1];
+}
+
+std::string_view Source::line(std::size_t number) const {
+  const std::string_view rest = text().substr(offset_of_line(number));
   return rest.substr(0, rest.find('\n'));
 }
 

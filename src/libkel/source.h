@@ -49,6 +49,8 @@ class Source {
  public:
   /// The file at `path`. Null when it cannot be read; errno says why.
   static std::shared_ptr<const Source> read(const char* path);
+  /// What an open file gives up to its end. It stays open.
+  static std::shared_ptr<const Source> read(int descriptor, std::string name);
   /// A text that is in memory already.
   static std::shared_ptr<const Source> from_text(std::string_view text, std::string name = {});
 
@@ -60,6 +62,8 @@ class Source {
 
   /// Where the byte at `offset` stands; the end of the text is a place too.
   Place place(std::size_t offset) const;
+  /// Where the line of that number begins; the end of the text when there is none.
+  std::size_t offset_of_line(std::size_t number) const;
   /// The line of that number without its line feed; empty when there is none.
   std::string_view line(std::size_t number) const;
 

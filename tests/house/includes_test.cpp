@@ -71,6 +71,9 @@ TEST(Include, MayNotLookToTheRight) {
       {"help/client/help.cpp", "\"vqc/cmd/model/document.h\""},
       {"help/viewer/vqhelp.cpp", "\"help/client/help.h\""},
       {"help/protocol.cpp", "\"help/viewer/client.h\""},
+      {"vqc/cmd/check/check.cpp", "\"vqc/cmd/generate/generate.h\""},
+      {"vqc/tool/check.cpp", "\"vqc/cmd/application/batch.h\""},
+      {"vqc/cmd/application/batch.cpp", "\"vqc/tool/commands.h\""},
       {"vqc/cmd/application/batch.cpp", "\"help/viewer/page.h\""},
       {"vqc/cmd/application/VQconfig.cpp", "\"vqc/cmd/editors/program/session.h\""},
       {"vqc/cmd/application/VQconfig.cpp", "\"desktop/search_path.h\""},
@@ -94,7 +97,7 @@ TEST(Include, OfMotifIsForThoseWhoShowSomething) {
   }
   for (const char* path :
        {"libkel/text.h", "help/client/help.cpp", "vqc/cmd/model/document.h", "vqc/cmd/savefile/save.cpp",
-        "vqc/cmd/generate/generate.cpp", "vqc/cmd/application/VQconfig.cpp"}) {
+        "vqc/cmd/generate/generate.cpp", "vqc/cmd/application/VQconfig.cpp", "vqc/tool/vqc.cpp"}) {
     EXPECT_NE("", wrong_include(path, "<Xm/Xm.h>")) << path;
     EXPECT_NE("", wrong_include(path, "\"Xm/Xm.h\"")) << path;
   }
@@ -106,7 +109,7 @@ TEST(Include, OfXIsForThemAndTheHelpClient) {
     EXPECT_EQ("", wrong_include(path, "<X11/Intrinsic.h>"));
   }
   for (const char* path : {"libkel/text.cpp", "vqc/cmd/model/document.h", "vqc/cmd/savefile/save.cpp",
-                           "vqc/cmd/generate/generate.cpp", "vqc/cmd/application/VQconfig.cpp"}) {
+                           "vqc/cmd/generate/generate.cpp", "vqc/cmd/application/VQconfig.cpp", "vqc/tool/vqc.cpp"}) {
     EXPECT_NE("", wrong_include(path, "<X11/Intrinsic.h>")) << path;
     EXPECT_NE("", wrong_include(path, "\"X11/Xlib.h\"")) << path;
   }

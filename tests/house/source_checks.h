@@ -28,6 +28,8 @@ inline const std::vector<Layer>& layers() {
       {"vqc/cmd/model/", {"libkel/"}},
       {"vqc/cmd/savefile/", {"libkel/", "vqc/cmd/model/"}},
       {"vqc/cmd/generate/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/"}},
+      {"vqc/cmd/check/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/"}},
+      {"vqc/tool/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/generate/", "vqc/cmd/check/"}},
       {"vqc/cmd/application/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/generate/"}},
       {"vqc/cmd/editors/kit/", {"libkel/", "vqc/cmd/model/"}},
       {"vqc/cmd/editors/program/",

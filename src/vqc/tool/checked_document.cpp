@@ -1,0 +1,40 @@
+// Reads a document and checks it.
+
+#include "vqc/tool/checked_document.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <utility>
+
+#include "vqc/cmd/savefile/load.h"
+
+namespace vqc {
+
+bool CheckedDocument::has_errors() const {
+  return std::ranges::any_of(findings,
+                             [](const Finding& each) { return kind_of(each.id).severity == Severity::error; });
+}
+
+std::string display_name(const std::string& file) { return file == "-" ? "<stdin>" : file; }
+
+std::unique_ptr<CheckedDocument> check_file(const std::string& file,
+                                            const std::vector<std::string>& /*include_folders*/) {
+  auto checked = std::make_unique<CheckedDocument>();
+  checked->source = file == "-" ? Source::read(STDIN_FILENO, display_name(file)) : Source::read(file.c_str());
+  if (!checked->source) {
+    std::fprintf(stderr, "vqc: %s: %s\n", display_name(file).c_str(), std::strerror(errno));
+    return nullptr;
+  }
+  Diagnostics findings;
+  Places places(*checked->source);
+  load(checked->source, checked->document, findings, AfterError::go_on, &places);
+  checked->findings = findings.findings();
+  std::ranges::stable_sort(checked->findings, {}, [](const Finding& each) { return each.range.begin; });
+  return checked;
+}
+
+}  // namespace vqc

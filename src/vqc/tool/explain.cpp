@@ -1,0 +1,77 @@
+// vqc explain: what a finding means.
+
+#include <cstdio>
+#include <memory>
+#include <string>
+
+#include "vqc/tool/commands.h"
+#include "vqc/tool/finding_names.h"
+#include "vqc/tool/findings_writer.h"
+
+namespace vqc {
+
+namespace {
+
+/// A text whose lines begin further in.
+std::string indented(std::string_view text) {
+  std::string result;
+  bool at_start = true;
+  for (char c : text) {
+    if (at_start && c != '\n') result += "    ";
+    result += c;
+    at_start = c == '\n';
+  }
+  return result;
+}
+
+void explain(const FindingKind& kind) {
+  std::printf("%s: %s%s\n\n%s\n\n%s\n\nFor example:\n\n%s\nMended:\n\n%s", kind.name, severity_name(kind.severity),
+              kind.shown ? "" : ", shown only with --with", kind.words, kind.explanation,
+              indented(kind.example).c_str(), indented(kind.cure).c_str());
+}
+
+void list_kinds() {
+  for (const FindingKind& kind : finding_kinds()) {
+    std::printf("%-26s %-8s %s\n", kind.name, severity_name(kind.severity), kind.words);
+  }
+}
+
+ExitStatus explain_named(const std::string& name) {
+  if (name.empty()) {
+    list_kinds();
+    return STATUS_GOOD;
+  }
+  const FindingKind* kind = find_kind(name);
+  if (!kind) {
+    std::fprintf(stderr, "vqc: %s\n", no_such_kind(name).c_str());
+    return STATUS_FAILED;
+  }
+  explain(*kind);
+  return STATUS_GOOD;
+}
+
+ExitStatus help(const CLI::App& vqc, const std::string& name) try {
+  std::fputs((name.empty() ? vqc : *vqc.get_subcommand(name)).help().c_str(), stdout);
+  return STATUS_GOOD;
+} catch (const CLI::OptionNotFound&) {
+  std::fprintf(stderr, "vqc: there is no command '%s'\n", name.c_str());
+  return STATUS_FAILED;
+}
+
+}  // namespace
+
+void add_explain(CLI::App& vqc, ExitStatus& status) {
+  auto name = std::make_shared<std::string>();
+  CLI::App* command = vqc.add_subcommand("explain", "Says what a finding means; without an ID, lists all findings.");
+  command->add_option("ID", *name, "the name in brackets behind a finding");
+  command->callback([name, &status] { status = explain_named(*name); });
+}
+
+void add_help(CLI::App& vqc, ExitStatus& status) {
+  auto name = std::make_shared<std::string>();
+  CLI::App* command = vqc.add_subcommand("help", "Shows how vqc or one of its commands is used.");
+  command->add_option("COMMAND", *name, "a command");
+  command->callback([name, &vqc, &status] { status = help(vqc, *name); });
+}
+
+}  // namespace vqc
