@@ -9,7 +9,7 @@ namespace vqc {
 namespace {
 
 constexpr bool on = true;
-[[maybe_unused]] constexpr bool off = false;
+constexpr bool off = false;
 
 constexpr FindingKind kinds[] = {
 #define FINDING(id, severity, shown, words, explanation, example, cure) \

@@ -27,7 +27,7 @@ TEST(Tree, HasNoCircleOfIncludes) {
   const Sources sources = all_sources();
   const Modules modules = modules_of(sources);
   EXPECT_LT(200U, sources.size()) << "where are the others?";
-  EXPECT_TRUE(modules.at("src/vqc/cmd/savefile/load").contains("src/vqc/cmd/savefile/lexer"));
+  EXPECT_TRUE(modules.at("src/vqc/cmd/savefile/reader").contains("src/vqc/cmd/savefile/lexer"));
   EXPECT_TRUE(modules.at("tests/house/circles_test").contains("tests/house/include_circles"));
   EXPECT_EQ(Circle{}, circle_in(modules));
 }

@@ -108,9 +108,9 @@ inline constexpr std::array motif_users = {std::string_view("desktop/"), std::st
                                            std::string_view("help/viewer/")};
 inline constexpr std::array x_users = {std::string_view("desktop/"), std::string_view("vqc/cmd/editors/"),
                                        std::string_view("help/")};
-inline constexpr std::array exit_callers = {std::string_view("vqc/cmd/application/"),
-                                            std::string_view("vqc/cmd/editors/program/"),
-                                            std::string_view("help/viewer/")};
+inline constexpr std::array exit_callers = {
+    std::string_view("vqc/cmd/application/"), std::string_view("vqc/tool/vqc.cpp"),
+    std::string_view("vqc/cmd/editors/program/"), std::string_view("help/viewer/")};
 
 /// Why the file at `path` may not include `header`, or "".
 inline std::string wrong_include(const std::string& path, const std::string& header) {

@@ -64,30 +64,29 @@ constexpr std::string_view kGood = "alias 'good' {\n\tto_name='T'\n}\n";
 
 TEST_F(Recovery, AfterAWrongFieldTheBlockGoesOn) {
   expect_items("widget 'W' {\n\trealise='r'\n\t<dialog>='D'\n\tabstract='a'\n}\nalias 'good' { to_name='T' }",
-               {{misplaced_word, {"dialog"}}},
-               "widget 'W' {\n\trealise='r'\n\tabstract='a'\n}\n" + std::string(kGood));
+               {{misplaced_word, {"dialog"}}}, "widget 'W' {\n\trealise='r'\n\tabstract='a'\n}\n" + std::string(kGood));
 }
 
 TEST_F(Recovery, AfterAWordThatIsNoKeywordTheBlockGoesOn) {
   expect_items("alias 'good' { <nonsense> = 'x' to_name='T' }", {{misplaced_word, {"nonsense"}}}, kGood);
-  expect_items("alias 'good' { <'nonsense'> to_name='T' }", {{misplaced_word, {"'nonsense'"}}}, kGood);
+  expect_items("alias 'good' { <'nonsense'> to_name='T' }", {{misplaced_word, {"nonsense"}}}, kGood);
   expect_items("alias 'good' { <12> to_name='T' }", {{misplaced_word, {"12"}}}, kGood);
 }
 
 TEST_F(Recovery, AfterACharacterOutOfPlaceTheBlockGoesOn) {
-  expect_items("alias 'good' { <;> to_name='T' }", {{expected_character, {"}"}}}, kGood);
-  expect_items("alias 'good' { to_name='T' <,> }", {{expected_character, {"}"}}}, kGood);
+  expect_items("alias 'good' { <;> to_name='T' }", {{misplaced_word, {";"}}}, kGood);
+  expect_items("alias 'good' { to_name='T' <,> }", {{misplaced_word, {","}}}, kGood);
 }
 
 TEST_F(Recovery, AfterAMissingEqualsSignTheBlockGoesOn) {
-  expect_items("popup 'P' { dialog_init <'i'> dialog_update='u' } alias 'good' { to_name='T' }",
+  expect_items("popup 'P' { dialog_init<> 'i' dialog_update='u' } alias 'good' { to_name='T' }",
                {{expected_character, {"="}}}, std::string(kGood) + "popup 'P' {\n\tdialog_update='u'\n}\n");
 }
 
 TEST_F(Recovery, AfterAMissingValueTheBlockGoesOn) {
-  expect_items("popup 'P' { dialog_init= <dialog_update>='u' } alias 'good' { to_name='T' }", {{expected_name}},
+  expect_items("popup 'P' { dialog_init=<> dialog_update='u' } alias 'good' { to_name='T' }", {{expected_name}},
                std::string(kGood) + "popup 'P' {\n\tdialog_update='u'\n}\n");
-  expect_items("popup 'P' { dialog_update='u' dialog_init= <}> alias 'good' { to_name='T' }", {{expected_name}},
+  expect_items("popup 'P' { dialog_update='u' dialog_init=<> } alias 'good' { to_name='T' }", {{expected_name}},
                std::string(kGood) + "popup 'P' {\n\tdialog_update='u'\n}\n");
 }
 
@@ -103,7 +102,7 @@ TEST_F(Recovery, AfterAWrongBooleanTheBlockGoesOn) {
 
 TEST_F(Recovery, BlocksInPlaceOfValuesAreSkipped) {
   expect_items("alias 'A' { <{> to_name='x' { dialog='y' } } to_name='U' }\nalias 'good' { to_name='T' }",
-               {{expected_character, {"}"}}}, "alias 'A' {\n\tto_name='U'\n}\n" + std::string(kGood));
+               {{misplaced_word, {"{"}}}, "alias 'A' {\n\tto_name='U'\n}\n" + std::string(kGood));
   expect_items("widget 'W' { <popup> = { realise='x' } abstract='a' }", {{misplaced_word, {"popup"}}},
                "widget 'W' {\n\tabstract='a'\n}\n");
 }
@@ -118,7 +117,7 @@ TEST_F(Recovery, AFaultInAnEntryLeavesTheEntriesAfterIt) {
 }
 
 TEST_F(Recovery, AnEntryWithoutANameLeavesTheEntriesAfterIt) {
-  expect_items("enumeration 'E' { enumentry <{> code_symbol='A' } enumentry 'b' {} } alias 'good' { to_name='T' }",
+  expect_items("enumeration 'E' { enumentry<> { code_symbol='A' } enumentry 'b' {} } alias 'good' { to_name='T' }",
                {{expected_name}}, "enumeration 'E' {\n\tenumentry 'b'{\n\t}\n}\n" + std::string(kGood));
 }
 
@@ -132,7 +131,7 @@ TEST_F(Recovery, AFaultInAFamilyLeavesWhatItUses) {
 }
 
 TEST_F(Recovery, AConverterOfTheOlderFormWithAFaultMakesItsPopup) {
-  expect_items("converter 'C' { dialog_create='D' add_in_vq=<;> dialog_init='i' }", {{expected_boolean}},
+  expect_items("converter 'C' { dialog_create='D' add_in_vq=<>; dialog_init='i' }", {{expected_boolean}},
                "converter 'C' {\n\tdialog='D'\n}\npopup 'D' {\n\tdialog_init='i'\n}\n");
 }
 
@@ -175,11 +174,11 @@ TEST_F(ResourceRecovery, AWrongFreeModeLeavesTheResourcesAfterIt) {
 
 TEST_F(ResourceRecovery, AMissingCommaLeavesTheResourcesAfterIt) {
   expect_resources(
-      "'a', , , True, 'b', , 'misc' <True>, VQC_FREE, VQC_FREE, 'c', , , True;", {expected_character, {","}},
+      "'a', , , True, 'b', , 'misc'<> True, VQC_FREE, VQC_FREE, 'c', , , True;", {expected_character, {","}},
       resources({"a"}) + ",\n'b', , 'misc', True, VQC_FREE_DEFAULT, VQC_FREE_DEFAULT,\n" + resources({"c"}) + ";");
-  expect_resources("'a' <'P'>, 'misc', True, VQC_FREE, VQC_FREE,\n'b', , , True;", {expected_character, {","}},
+  expect_resources("'a'<> 'P', 'misc', True, VQC_FREE, VQC_FREE,\n'b', , , True;", {expected_character, {","}},
                    resources({"a", "b"}) + ";");
-  expect_resources("'a', , , True, VQC_FREE <VQC_FREE>, 'b', , , True;", {expected_character, {","}},
+  expect_resources("'a', , , True, VQC_FREE<> VQC_FREE, 'b', , , True;", {expected_character, {","}},
                    "'a', , , True, VQC_FREE, VQC_FREE_DEFAULT,\n" + resources({"b"}) + ";");
 }
 
@@ -197,10 +196,10 @@ TEST_F(ResourceRecovery, WhatIsNotVisibleNorNotLeavesTheResourcesAfterIt) {
 }
 
 TEST_F(ResourceRecovery, AListWithoutAnEndIsMissingItsSemicolon) {
-  expect_items("widget 'W' { resource_definitions='a', , , True <}>\nalias 'good' { to_name='T' }",
+  expect_items("widget 'W' { resource_definitions='a', , , True<> }\nalias 'good' { to_name='T' }",
                {{expected_character, {";"}}},
                "widget 'W' {\n\tresource_definitions=" + resources({"a"}) + ";\n}\n" + std::string(kGood));
-  expect_items("widget 'W' { resource_definitions='a', , , True <}>", {{expected_character, {";"}}},
+  expect_items("widget 'W' { resource_definitions='a', , , True<> }", {{expected_character, {";"}}},
                "widget 'W' {\n\tresource_definitions=" + resources({"a"}) + ";\n}\n");
 }
 
@@ -268,7 +267,7 @@ TEST_F(Recovery, AnEntryWithoutAnEndIsFoundWhereItBegins) {
 }
 
 TEST_F(Recovery, AMissingOpeningBraceLeavesTheBlock) {
-  expect_items("alias 'A' <to_name>='U' }\nalias 'good' { to_name='T' }", {{expected_character, {"{"}}},
+  expect_items("alias 'A'<> to_name='U' }\nalias 'good' { to_name='T' }", {{expected_character, {"{"}}},
                "alias 'A' {\n\tto_name='U'\n}\n" + std::string(kGood));
 }
 
@@ -285,12 +284,12 @@ TEST_F(Recovery, AStrayBraceIsOneFault) {
 }
 
 TEST_F(Recovery, AnItemWithoutANameIsSkippedWithItsBlock) {
-  expect_items("alias <{> to_name='x' }\nalias 'good' { to_name='T' }", {{expected_name}}, kGood);
+  expect_items("alias<> { to_name='x' }\nalias 'good' { to_name='T' }", {{expected_name}}, kGood);
   expect_items("header <5>\nalias 'good' { to_name='T' }", {{expected_name}}, kGood);
 }
 
 TEST_F(Recovery, AnItemWhoseNameIsMissingDoesNotTakeTheNextOne) {
-  expect_items("page <alias> 'good' { to_name='T' }", {{expected_name}}, kGood);
+  expect_items("page<> alias 'good' { to_name='T' }", {{expected_name}}, kGood);
 }
 
 TEST_F(Recovery, AFamilyWithAnEmptyNameIsSkipped) {
@@ -298,7 +297,7 @@ TEST_F(Recovery, AFamilyWithAnEmptyNameIsSkipped) {
 }
 
 TEST_F(Recovery, WhatFollowsAFamilyWithAnEmptyNameIsStatedNowhereEither) {
-  expect_items("family <''> { }\nalias 'good' { to_name='T' <;> }", {{nameless_family}, {expected_character, {"}"}}},
+  expect_items("family <''> { }\nalias 'good' { to_name='T' <;> }", {{nameless_family}, {misplaced_word, {";"}}},
                kGood);
   EXPECT_FALSE(result.first_error);
 }
@@ -306,14 +305,14 @@ TEST_F(Recovery, WhatFollowsAFamilyWithAnEmptyNameIsStatedNowhereEither) {
 // The header.
 
 TEST_F(Recovery, AHeaderKeyOutOfOrderIsOneFault) {
-  expect("VQconfig\nconfig_name='c'\n<code_name>='d'\nalias 'good' { to_name='T' }",
-         {{misplaced_word, {"code_name"}}}, "config_name='c'\n" + std::string(kGood));
+  expect("VQconfig\nconfig_name='c'\n<code_name>='d'\nalias 'good' { to_name='T' }", {{misplaced_word, {"code_name"}}},
+         "config_name='c'\n" + std::string(kGood));
 }
 
 TEST_F(Recovery, AfterAFaultInTheHeaderTheHeaderGoesOn) {
   expect("VQconfig\ncode_name=<5>\nconfig_name='c'\nalias 'good' { to_name='T' }", {{expected_name}},
          "config_name='c'\n" + std::string(kGood));
-  expect("VQconfig\ncode_name <'x'>\nstop_list='XmFrame'\nalias 'good' { to_name='T' }", {{expected_character, {"="}}},
+  expect("VQconfig\ncode_name<> 'x'\nstop_list='XmFrame'\nalias 'good' { to_name='T' }", {{expected_character, {"="}}},
          "stop_list = 'XmFrame'\n" + std::string(kGood));
 }
 
@@ -328,10 +327,10 @@ TEST_F(Recovery, EachFaultIsFoundOnce) {
   expect_items(
       "widget 'W' {\n\trealise=<5>\n\tabstract='a'\n\t<dialog>='D'\n\tcan_add_child='c'\n}\n"
       "alias 'good' { to_name='T' <;> }",
-      {{expected_name}, {misplaced_word, {"dialog"}}, {expected_character, {"}"}}},
+      {{expected_name}, {misplaced_word, {"dialog"}}, {misplaced_word, {";"}}},
       "widget 'W' {\n\tabstract='a'\n\tcan_add_child='c'\n}\n" + std::string(kGood));
   expect_items(
-      "alias 'A' <{> to_name='U'\npage 'p' <nonsense> { }\nenumeration 'E' { enumentry 'a' { code_symbol=<;> } }\n"
+      "alias 'A' <{> to_name='U'\npage 'p' <nonsense> { }\nenumeration 'E' { enumentry 'a' { code_symbol=<>; } }\n"
       "alias 'good' { to_name='T' }",
       {{unclosed_block}, {unknown_item}, {expected_name}},
       "enumeration 'E' {\n\tenumentry 'a'{\n\t}\n}\nalias 'A' {\n\tto_name='U'\n}\n" + std::string(kGood) +
@@ -341,13 +340,13 @@ TEST_F(Recovery, EachFaultIsFoundOnce) {
 TEST_F(Recovery, EachResourceMayHaveAFault) {
   expect_items(
       "widget 'W' { resource_definitions='a', , , True, <FREE>, VQC_FREE,\n'b', , , True,\n'c', , , <'no'>;\n"
-      "can_create=<;> }",
+      "can_create=<>; }",
       {{expected_free_mode}, {expected_boolean}, {expected_boolean}},
       "widget 'W' {\n\tresource_definitions=" + resources({"a", "b", "c"}) + ";\n}\n");
 }
 
 TEST_F(Recovery, AFaultBeforeAndInTheItems) {
-  expect("VQconfig\nstubs_name=<;>\npage 'p'\nalias <5>\nalias 'good' { to_name='T' }\n<}>",
+  expect("VQconfig\nstubs_name=<>;\npage 'p'\nalias <5>\nalias 'good' { to_name='T' }\n<}>",
          {{expected_name}, {expected_name}, {unknown_item}}, std::string(kGood) + "page 'p'\n");
 }
 

@@ -46,6 +46,7 @@ struct Fault {
   int line;
   const char* message;
   FindingId id;
+  const char* suggestion = "";
 };
 
 /// The character or the word that words about a finding name.
@@ -62,7 +63,8 @@ class FaultyDocument : public SyntaxError {
     for (const Fault& fault : faults) {
       const MarkedText marked(std::string("VQconfig\n") + fault.marked_items);
       EXPECT_EQ(error(fault.line, fault.message), error_in(marked.text)) << fault.marked_items;
-      EXPECT_EQ((Findings{{fault.id, marked.ranges.front(), arguments_of(fault, marked)}}), diagnostics.findings())
+      EXPECT_EQ((Findings{{fault.id, marked.ranges.front(), arguments_of(fault, marked), {}, fault.suggestion}}),
+                diagnostics.findings())
           << fault.marked_items;
     }
   }
@@ -70,12 +72,12 @@ class FaultyDocument : public SyntaxError {
 
 TEST_F(FaultyDocument, HasFaultsInTheHeader) {
   expect({
-      {"code_name <'x'>", 2, "'='", expected_character},
-      {"code_name\n<5>", 3, "'='", expected_character},
+      {"code_name<> 'x'", 2, "'='", expected_character},
+      {"code_name<>\n5", 3, "'='", expected_character},
       {"code_name = <5>", 2, "se_string", expected_name},
       {"code_name = <page>", 2, "se_string", expected_name},
-      {"generate_alias_string = <;>", 2, "se_string", expected_name},
-      {"stop_list = <>", 2, "se_string", expected_name},
+      {"generate_alias_string =<> ;", 2, "se_string", expected_name},
+      {"stop_list =<> ", 2, "se_string", expected_name},
       {"stop_list='x'\n<code_name>='y'", 3, "se_unexpected_keyword", misplaced_word},
       {"config_name='x'\n<code_name>='y'", 3, "se_unexpected_keyword", misplaced_word},
   });
@@ -90,7 +92,7 @@ TEST_F(FaultyDocument, HasFaultsWhereAnItemMustBegin) {
       {"<#>", 2, "se_reserved", unknown_item},
       {"<->", 2, "se_reserved", unknown_item},
       {"<\x0f>", 2, "se_reserved", unknown_item},
-      {"/<\f>", 2, "se_reserved", unknown_item},
+      {"</>\f", 2, "se_reserved", unknown_item},
       {"<\xc3>\xa9", 2, "se_reserved", unknown_item},
       {"alias 'a' {}\n<}>", 3, "se_reserved", unknown_item},
       {"<to_name>", 2, "se_unexpected_keyword", misplaced_word},
@@ -102,52 +104,52 @@ TEST_F(FaultyDocument, HasFaultsWhereANameIsExpected) {
   expect({
       {"header <5>", 2, "se_string", expected_name},
       {"cheader <page>", 2, "se_string", expected_name},
-      {"family_header <;>", 2, "se_string", expected_name},
-      {"page <{>", 2, "se_string", expected_name},
-      {"alias <{>", 2, "se_string", expected_name},
+      {"family_header<> ;", 2, "se_string", expected_name},
+      {"page<> {", 2, "se_string", expected_name},
+      {"alias<> {", 2, "se_string", expected_name},
       {"popup <5>", 2, "se_string", expected_name},
       {"converter <=>", 2, "se_string", expected_name},
       {"enumeration <widget>", 2, "se_string", expected_name},
       {"widget <5>", 2, "se_string", expected_name},
       {"family <->", 2, "se_string", expected_name},
       {"alias<>", 2, "se_string", expected_name},
-      {"alias\n<>", 3, "se_string", expected_name},
-      {"enumeration 'e' {\nenumentry <{>", 3, "se_string", expected_name},
+      {"alias<>\n", 3, "se_string", expected_name},
+      {"enumeration 'e' {\nenumentry<> {", 3, "se_string", expected_name},
   });
 }
 
 TEST_F(FaultyDocument, HasFaultsInBlocks) {
   expect({
-      {"alias 'a'\n<to_name>", 3, "'{'", expected_character},
+      {"alias 'a'<>\nto_name", 3, "'{'", expected_character},
       {"popup 'a' <;>", 2, "'{'", expected_character},
-      {"converter 'a' <'b'>", 2, "'{'", expected_character},
+      {"converter 'a'<> 'b'", 2, "'{'", expected_character},
       {"enumeration 'a'<>", 2, "'{'", expected_character},
-      {"widget 'a' <}>", 2, "'{'", expected_character},
-      {"family 'a' <5>", 2, "'{'", expected_character},
-      {"enumeration 'a' { enumentry 'b' <}>", 2, "'{'", expected_character},
-      {"alias 'a' { to_name <'x'>", 2, "'='", expected_character},
+      {"widget 'a'<> }", 2, "'{'", expected_character},
+      {"family 'a'<> 5", 2, "'{'", expected_character},
+      {"enumeration 'a' { enumentry 'b'<> }", 2, "'{'", expected_character},
+      {"alias 'a' { to_name<> 'x'", 2, "'='", expected_character},
       {"alias 'a' {\nto_name = <5>", 3, "se_string", expected_name},
-      {"alias 'a' { to_name = <}>", 2, "se_string", expected_name},
+      {"alias 'a' { to_name =<> }", 2, "se_string", expected_name},
       {"alias 'a' { to_name = <alias> }", 2, "se_string", expected_name},
-      {"popup 'a' { dialog_init <}>", 2, "'='", expected_character},
-      {"converter 'a' { dialog_create <}>", 2, "'='", expected_character},
+      {"popup 'a' { dialog_init<> }", 2, "'='", expected_character},
+      {"converter 'a' { dialog_create<> }", 2, "'='", expected_character},
       {"converter 'a' { dialog_create = <5>", 2, "se_string", expected_name},
       {"converter 'a' { add_in_vq = <5>", 2, "se_boolean", expected_boolean},
-      {"enumeration 'a' { typename <}>", 2, "'='", expected_character},
-      {"enumeration 'a' { enumentry 'b' {\ncode_symbol <}>", 3, "'='", expected_character},
+      {"enumeration 'a' { typename<> }", 2, "'='", expected_character},
+      {"enumeration 'a' { enumentry 'b' {\ncode_symbol<> }", 3, "'='", expected_character},
       {"enumeration 'a' { enumentry 'b' { code_symbol = <5>", 2, "se_string", expected_name},
       {"enumeration 'a' <{> enumentry 'b' {}\n", 3, "'}'", unclosed_block},
-      {"widget 'a' { realise <}>", 2, "'='", expected_character},
+      {"widget 'a' { realise<> }", 2, "'='", expected_character},
       {"widget 'a' { realise = <5> }", 2, "se_string", expected_name},
-      {"widget 'a' { can_manage <}>", 2, "'='", expected_character},
+      {"widget 'a' { can_manage<> }", 2, "'='", expected_character},
       {"widget 'a' {\ncan_manage =\n<5> }", 4, "se_boolean", expected_boolean},
       {"widget 'a' { can_manage = <page> }", 2, "se_boolean", expected_boolean},
-      {"widget 'a' { can_manage = <;> }", 2, "se_boolean", expected_boolean},
-      {"widget 'a' { can_manage = <>", 2, "se_boolean", expected_boolean},
-      {"family 'a' { widget <'W'> }", 2, "'='", expected_character},
+      {"widget 'a' { can_manage =<> ; }", 2, "se_boolean", expected_boolean},
+      {"widget 'a' { can_manage =<> ", 2, "se_boolean", expected_boolean},
+      {"family 'a' { widget<> 'W' }", 2, "'='", expected_character},
       {"family 'a' { popup = <5> }", 2, "se_string", expected_name},
       {"family 'a' { page = <page> }", 2, "se_string", expected_name},
-      {"family 'a' { family_init <}>", 2, "'='", expected_character},
+      {"family 'a' { family_init<> }", 2, "'='", expected_character},
       {"family 'a' { family_init = <5> }", 2, "se_string", expected_name},
       {"family 'a' { generate_family_init_vq = <5> }", 2, "se_boolean", expected_boolean},
   });
@@ -155,19 +157,19 @@ TEST_F(FaultyDocument, HasFaultsInBlocks) {
 
 TEST_F(FaultyDocument, HasFaultsInResources) {
   expect({
-      {"widget w { resource_definitions <'r'>", 2, "'='", expected_character},
-      {"widget w { resource_definitions = 'r' <;>", 2, "','", expected_character},
-      {"widget w { resource_definitions = 'r', 'P' <;>", 2, "','", expected_character},
-      {"widget w { resource_definitions = 'r', , 'misc' <True>", 2, "','", expected_character},
-      {"widget w { resource_definitions = 'r', <P>", 2, "','", expected_character},
+      {"widget w { resource_definitions<> 'r'", 2, "'='", expected_character},
+      {"widget w { resource_definitions = 'r'<> ;", 2, "','", expected_character},
+      {"widget w { resource_definitions = 'r', 'P'<> ;", 2, "','", expected_character},
+      {"widget w { resource_definitions = 'r', , 'misc'<> True", 2, "','", expected_character},
+      {"widget w { resource_definitions = 'r', <P>", 2, "','", expected_text},
       {"widget w { resource_definitions =\n'r', , ,\n<5>", 4, "se_boolean", expected_boolean},
       {"widget w { resource_definitions = 'r', , , <'True'>", 2, "se_boolean", expected_boolean},
       {"widget w { resource_definitions = 'r', , , <page>", 2, "se_boolean", expected_boolean},
       {"widget w { resource_definitions = 'r', , , True, <5>", 2, "se_boolean", expected_free_mode},
-      {"widget w { resource_definitions = 'r', , , True, <;>", 2, "se_boolean", expected_free_mode},
+      {"widget w { resource_definitions = 'r', , , True,<> ;", 2, "se_boolean", expected_free_mode},
       {"widget w { resource_definitions = 'r', , , True, <FREE>", 2, "se_free_get", expected_free_mode},
       {"widget w { resource_definitions = 'r', , , True, <vqc_free>", 2, "se_free_get", expected_free_mode},
-      {"widget w { resource_definitions = 'r', , , True, VQC_FREE <;>", 2, "','", expected_character},
+      {"widget w { resource_definitions = 'r', , , True, VQC_FREE<> ;", 2, "','", expected_character},
       {"widget w { resource_definitions = 'r', , , True, VQC_FREE,\n<FREE>", 3, "se_free_set", expected_free_mode},
       {"widget w { resource_definitions = 'r', , , True, VQC_FREE, <VQC_Free>", 2, "se_free_set", expected_free_mode},
       {"widget w { resource_definitions = 'r', , , True, VQC_FREE, <'VQC_FREE'>", 2, "se_boolean", expected_free_mode},
@@ -176,28 +178,28 @@ TEST_F(FaultyDocument, HasFaultsInResources) {
        expected_integer},
       {"widget w { resource_definitions = 'r', , , True, VQC_FREE, VQC_FREE access <'7'>", 2, "se_integer",
        expected_integer},
-      {"widget w { resource_definitions = 'r', , , True, VQC_FREE, VQC_FREE access <;>", 2, "se_integer",
+      {"widget w { resource_definitions = 'r', , , True, VQC_FREE, VQC_FREE access<> ;", 2, "se_integer",
        expected_integer},
       {"widget w { resource_definitions = 'r', , , True, VQC_FREE, VQC_FREE counter <n>", 2, "se_string",
        expected_text},
       {"widget w { resource_definitions = 'r', , , True, VQC_FREE, VQC_FREE counter <5>", 2, "se_string",
        expected_text},
       {"widget w { resource_definitions = 'r', , , True, VQC_FREE_DEFAULT, <VQC_FREE_DEFAULTS>", 2, "se_free_set",
-       expected_free_mode},
+       expected_free_mode, "VQC_FREE_DEFAULT"},
       {"widget w { resource_definitions = 'r', , , True, VQC_FREE_DEFAULT, VQC_FREE_DEFAULT\naccess <x>", 3,
        "se_integer", expected_integer},
       {"widget w { resource_definitions = 'r', , , True, VQC_FREE_DEFAULT, VQC_FREE_DEFAULT counter <x>", 2,
        "se_string", expected_text},
-      {"widget w { resource_definitions = 'r', , <True>, VQC_FREE_DEFAULT, VQC_FREE_DEFAULT", 2, "','",
+      {"widget w { resource_definitions = 'r', ,<> True, VQC_FREE_DEFAULT, VQC_FREE_DEFAULT", 2, "','",
        expected_character},
-      {"widget w { resource_popups <'r'>", 2, "'='", expected_character},
+      {"widget w { resource_popups<> 'r'", 2, "'='", expected_character},
       {"widget w { resource_popups = <r>", 2, "se_string", expected_text},
       {"widget w { resource_popups = <5>", 2, "se_string", expected_text},
   });
 }
 
 TEST_F(FaultyDocument, LacksTheEndOfItsResources) {
-  const MarkedText marked("VQconfig\nwidget w { resource_definitions = 'r', , , True <}>\n");
+  const MarkedText marked("VQconfig\nwidget w { resource_definitions = 'r', , , True<> }\n");
   EXPECT_EQ(error(3, "'}'"), error_in(marked.text));
   EXPECT_EQ((Findings{{expected_character, marked.ranges.front(), {";"}}}), diagnostics.findings());
 }
@@ -206,8 +208,8 @@ TEST_F(FaultyDocument, HasFaultsOnTheLineWhereTheTokenEnds) {
   expect({
       {"<5>\n\n\n", 2, "se_reserved", unknown_item},
       {"<word>\n", 2, "se_reserved", unknown_item},
-      {"<'a\nb'>\n", 3, "se_reserved", unknown_item},
-      {"<'a\nb>", 3, "se_reserved", unknown_item},
+      {"<'>a\nb'\n", 3, "se_reserved", unclosed_text},
+      {"<'>a\nb", 3, "se_reserved", unclosed_text},
       {"! c\n/*\n\n*/ <5>", 5, "se_reserved", unknown_item},
       {"page 'a\n\nb'\npage\n<5>", 6, "se_string", expected_name},
       {"alias 'a' <{>\n\n", 4, "'}'", unclosed_block},
@@ -318,13 +320,13 @@ TEST_P(BlockOf, TakesNoOtherTokens) {
   const std::string opening = std::string("VQconfig\n") + GetParam().opening + "\n";
   for (const char* token : {"word", "'string'", "5", "-5"}) {
     EXPECT_EQ(error(3, top ? "se_reserved" : "se_unexpected_keyword"), error_in(opening + token)) << token;
-    top ? expect_finding(unknown_item, opening, token) : expect_finding(misplaced_word, opening, token, {token});
+    const std::string shown = token[0] == '\'' ? "string" : token;
+    top ? expect_finding(unknown_item, opening, token) : expect_finding(misplaced_word, opening, token, {shown});
   }
-  for (const char* token : {";", ",", "{", "=", "#", "-", "\t", "\r", "\xe9"}) {
-    const bool is_space = token[0] == '\t' || token[0] == '\r';
-    const std::string before = opening + (is_space ? "/" : "");
-    EXPECT_EQ(error(3, top ? "se_reserved" : "'}'"), error_in(before + token)) << token;
-    top ? expect_finding(unknown_item, before, token) : expect_finding(expected_character, before, token, {"}"});
+  for (const char* text : {";", ",", "{", "=", "#", "-", "/\t", "/\r", "\xe9"}) {
+    const std::string token(text, 1);  // a slash is skipped, and found all the same
+    EXPECT_EQ(error(3, top ? "se_reserved" : "'}'"), error_in(opening + text)) << text;
+    top ? expect_finding(unknown_item, opening, token) : expect_finding(misplaced_word, opening, token, {token});
   }
 }
 

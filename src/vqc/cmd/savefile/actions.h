@@ -1,6 +1,9 @@
 #ifndef VQC_CMD_SAVEFILE_ACTIONS_H
 #define VQC_CMD_SAVEFILE_ACTIONS_H
 
+#include <optional>
+#include <string_view>
+
 #include "vqc/cmd/model/document.h"
 #include "vqc/cmd/savefile/places.h"
 
@@ -33,11 +36,19 @@ class Actions {
     if (places_ && record) places_->note(record, name.range);
     return record;
   }
-  /// Lets a family use the record of that name in a pool.
+  /// Where a pool's record of that name was defined before, if places are noted.
+  template <class Pool>
+  std::optional<Range> place_of(const Pool& pool, const Value& name) const {
+    return places_ ? places_->of(static_cast<const void*>(pool.find(name.text))) : std::nullopt;
+  }
+  /// Lets a family use the record of that name in a pool. Tells where it was named before, if places are noted.
   template <class References, class Pool>
-  void refer(References& references, Pool& pool, const Value& name) {
+  std::optional<Range> refer(References& references, Pool& pool, const Value& name) {
     const void* reference = document_.ensure(references, pool, name.text);
-    if (places_) places_->note(reference, name.range);
+    if (!places_) return std::nullopt;
+    const std::optional<Range> before = places_->of(reference);
+    if (!before) places_->note(reference, name.range);
+    return before;
   }
 
  private:

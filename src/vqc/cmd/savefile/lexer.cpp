@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <limits>
 
 #include "libkel/keltype.h"
 
@@ -58,11 +59,6 @@ constexpr char escaped(char c) {
   }
 }
 
-/// As much of a token's text as is kept.
-std::string_view kept(const char* from, const char* to) {
-  return {from, std::min(static_cast<std::size_t>(to - from), kLongest)};
-}
-
 }  // namespace
 
 Lexer::Lexer(const Source& source)
@@ -74,8 +70,16 @@ int Lexer::next_ch() {
   return 1;
 }
 
+/// As much of a token's text as is kept.
+std::string_view Lexer::kept(const char* from, const char* to) {
+  const auto size = static_cast<std::size_t>(to - from);
+  if (size > kLongest) oddities_ |= IS_CUT;
+  return {from, std::min(size, kLongest)};
+}
+
 int Lexer::next_token() {
   text_ = {};
+  oddities_ = 0;
   for (;;) {
     token_ = next_ = end_of_run(next_, SPACE);
     const char c = *next_;
@@ -98,8 +102,18 @@ bool Lexer::skip_comment() {
     return false;
   }
   const std::size_t close = is_line ? rest.find('\n') : rest.find("*/", 2);
+  const char* begin = next_;
   next_ = close == std::string_view::npos ? end_ : next_ + close + (is_line ? 0 : 2);
+  note_comment({begin, next_}, is_line, close == std::string_view::npos);
   return true;
+}
+
+void Lexer::note_comment(std::string_view comment, bool is_line, bool is_open) {
+  const Range range{offset(comment.data()), offset(next_)};
+  if (comments_.count++ == 0) comments_.first = range;
+  if (is_line) return;
+  if (is_open) comments_.open = range;
+  if (comment.find("/*", 2) != std::string_view::npos) comments_.nested = range;
 }
 
 int Lexer::read_string() {
@@ -119,12 +133,16 @@ int Lexer::read_escaped_string() {
   unescaped_.clear();
   while (!at_end() && *next_ != '\'') {
     const char c = *next_++;
-    if (c == '\\' && at_end()) break;
+    if (c == '\\' && at_end()) {
+      oddities_ |= HAS_CUT_ESCAPE;
+      break;
+    }
     unescaped_ += c == '\\' ? read_escape() : c;
   }
-  next_ch();
-  unescaped_.resize(std::min(unescaped_.size(), kLongest));
-  text_ = std::string_view(unescaped_).substr(0, unescaped_.find('\0'));
+  if (!next_ch()) oddities_ |= IS_OPEN;
+  text_ = kept(unescaped_.data(), unescaped_.data() + unescaped_.size());
+  if (text_.find('\0') != std::string_view::npos) oddities_ |= HAS_NUL;
+  text_ = text_.substr(0, text_.find('\0'));
   return 1;
 }
 
@@ -132,7 +150,10 @@ int Lexer::read_escaped_string() {
 char Lexer::read_escape() {
   if (!kel_is(*next_, KEL_DIGIT)) return escaped(*next_++);
   unsigned code = 0;
-  for (; kel_is(*next_, KEL_DIGIT); ++next_) code = code * 10 + static_cast<unsigned>(*next_ - '0');
+  for (; kel_is(*next_, KEL_DIGIT); ++next_) {
+    code = code * 10 + static_cast<unsigned>(*next_ - '0');
+    if (code > 0xFF) oddities_ |= HAS_CUT_ESCAPE;
+  }
   return static_cast<char>(code);
 }
 
@@ -148,7 +169,12 @@ int Lexer::read_word() {
 int Lexer::read_number(bool negative) {
   kind_ = SaveFileToken::integer;
   unsigned value = 0;  // wraps to 32 bits
-  for (; kel_is(*next_, KEL_DIGIT); ++next_) value = value * 10 + static_cast<unsigned>(*next_ - '0');
+  constexpr unsigned kMost = std::numeric_limits<int>::max();
+  for (; kel_is(*next_, KEL_DIGIT); ++next_) {
+    const auto digit = static_cast<unsigned>(*next_ - '0');
+    if (value > (kMost - digit) / 10) oddities_ |= WRAPS;
+    value = value * 10 + digit;
+  }
   integer_ = static_cast<int>(negative ? 0 - value : value);
   return 1;
 }

@@ -2,6 +2,7 @@
 #define VQC_CMD_SAVEFILE_LEXER_H
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -18,6 +19,23 @@ enum class SaveFileToken {
   identifier = 15,
   end_of_input = 65535,
   character = -1
+};
+
+/// What may be wrong with a token although it is read: bits.
+enum TokenOddity : unsigned {
+  IS_CUT = 1,          // longer than is kept
+  HAS_NUL = 2,         // its text ends before its characters do
+  HAS_CUT_ESCAPE = 4,  // a number in it is no character's, or a backslash ends the document
+  WRAPS = 8,           // an integer beyond 32 bits
+  IS_OPEN = 16,        // a string that the end of the document ends
+};
+
+/// What a lexer has stepped over.
+struct Comments {
+  std::size_t count = 0;
+  Range first = {};
+  std::optional<Range> open = {};    // the last that the end of the document ends
+  std::optional<Range> nested = {};  // the last that another seems to begin in
 };
 
 /// Turns the characters of a Source into tokens. A copy goes on from the same place by itself.
@@ -47,6 +65,9 @@ class Lexer {
   std::string_view text() const { return text_; }
   /// Whether text() stands in the source as it is, and so lives as long as that.
   bool text_is_in_source() const { return text_.data() != unescaped_.data(); }
+  /// What may be wrong with the token.
+  unsigned oddities() const { return oddities_; }
+  const Comments& comments() const { return comments_; }
   /// Where the token stands.
   Range range() const { return {offset(token_), offset(next_)}; }
 
@@ -54,6 +75,8 @@ class Lexer {
   std::size_t offset(const char* place) const { return static_cast<std::size_t>(place - begin_); }
   bool at_end() const { return next_ == end_; }
   bool skip_comment();
+  void note_comment(std::string_view comment, bool is_line, bool is_open);
+  std::string_view kept(const char* from, const char* to);
   int read_string();
   int read_escaped_string();
   char read_escape();
@@ -72,6 +95,8 @@ class Lexer {
   int integer_ = 0;
   std::string_view text_;
   std::string unescaped_;
+  unsigned oddities_ = 0;
+  Comments comments_;
 };
 
 }  // namespace vqc
