@@ -1,5 +1,6 @@
 #include "libkel/utf8.h"
 
+#include <algorithm>
 #include <array>
 
 namespace vqc {
@@ -31,14 +32,7 @@ Decoded decoded_as(const Form& form, std::string_view text) {
   return code >= form.least && is_character(code) ? Decoded{code, form.size} : Decoded{};
 }
 
-bool is_utf8(std::string_view text) {
-  while (!text.empty()) {
-    const Decoded next = first_character(text);
-    if (!next.valid()) return false;
-    text.remove_prefix(next.size);
-  }
-  return true;
-}
+bool is_ascii(char c) { return static_cast<unsigned char>(c) < 0x80; }
 
 }  // namespace
 
@@ -57,6 +51,16 @@ std::string utf8(char32_t character) {
   for (std::size_t i = size - 1; i > 0; --i, character >>= 6) bytes[i] = static_cast<char>(0x80 | (character & 0x3F));
   bytes[0] = static_cast<char>(forms[size - 1].lead | character);
   return bytes;
+}
+
+std::size_t end_of_utf8(std::string_view text) {
+  for (std::size_t i = 0;;) {
+    i = static_cast<std::size_t>(std::find_if_not(text.begin() + static_cast<std::ptrdiff_t>(i), text.end(), is_ascii) -
+                                 text.begin());
+    const Decoded next = i < text.size() ? first_character(text.substr(i)) : Decoded{};
+    if (!next.valid()) return i;
+    i += next.size;
+  }
 }
 
 std::string as_utf8(std::string_view bytes) {

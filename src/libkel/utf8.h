@@ -25,6 +25,10 @@ Decoded first_character(std::string_view text);
 /// The character in UTF-8; what is none gives REPLACEMENT.
 std::string utf8(char32_t character);
 
+/// Where the first byte stands that is no UTF-8; the size of the text if there is none.
+std::size_t end_of_utf8(std::string_view text);
+inline bool is_utf8(std::string_view text) { return end_of_utf8(text) == text.size(); }
+
 /// What a file holds, as UTF-8: bytes that are no UTF-8 as a whole are taken for Latin-1.
 std::string as_utf8(std::string_view bytes);
 

@@ -43,4 +43,14 @@ TEST(AsUtf8, TakesEverythingElseForLatin1) {
                                        "e"));
 }
 
+TEST(Utf8, EndsWhereTheFirstOtherByteStands) {
+  EXPECT_EQ(0U, end_of_utf8(""));
+  EXPECT_EQ(3U, end_of_utf8("abc"));
+  EXPECT_EQ(4U, end_of_utf8("a\xC3\xB6z"));
+  EXPECT_EQ(3U, end_of_utf8("a\xC3\xB6\xF6z"));
+  EXPECT_EQ(1U, end_of_utf8("a\xC3"));
+  EXPECT_TRUE(is_utf8("\xE2\x82\xAC"));
+  EXPECT_FALSE(is_utf8("\xE2\x82"));
+}
+
 }  // namespace

@@ -123,6 +123,7 @@ TEST_F(PlacesTest, OfWhatFollowsAFaultAreKnownToo) {
 TEST_F(PlacesTest, OfAConverterOfTheOlderFormNameItsDialog) {
   read("VQconfig converter 'C' { dialog_create='D' dialog_init='i' }");
   EXPECT_EQ("D", at(document.converters.find("C")->dialog));
+  EXPECT_EQ("'D'", at(document.popups.find("D")));
   EXPECT_EQ("D", at(document.popups.find("D")->name));
   EXPECT_EQ("i", at(document.popups.find("D")->dialog_init));
 }

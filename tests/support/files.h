@@ -53,4 +53,18 @@ class TemporaryFolder {
   std::string path_;
 };
 
+/// Works in a folder for a while.
+class WorkingFolder {
+ public:
+  explicit WorkingFolder(const std::string& path) : before_(std::filesystem::current_path()) {
+    std::filesystem::current_path(path);
+  }
+  WorkingFolder(const WorkingFolder&) = delete;
+  WorkingFolder& operator=(const WorkingFolder&) = delete;
+  ~WorkingFolder() { std::filesystem::current_path(before_); }
+
+ private:
+  std::filesystem::path before_;
+};
+
 #endif

@@ -8,11 +8,20 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <utility>
 
+#include "vqc/cmd/check/check.h"
 #include "vqc/cmd/savefile/load.h"
 
 namespace vqc {
+
+namespace {
+
+/// Where headers beside a document lie.
+std::string folder_of(const std::string& file) { return std::filesystem::path(file).parent_path(); }
+
+}  // namespace
 
 bool CheckedDocument::has_errors() const {
   return std::ranges::any_of(findings,
@@ -21,8 +30,7 @@ bool CheckedDocument::has_errors() const {
 
 std::string display_name(const std::string& file) { return file == "-" ? "<stdin>" : file; }
 
-std::unique_ptr<CheckedDocument> check_file(const std::string& file,
-                                            const std::vector<std::string>& /*include_folders*/) {
+std::unique_ptr<CheckedDocument> check_file(const std::string& file, const std::vector<std::string>& include_folders) {
   auto checked = std::make_unique<CheckedDocument>();
   checked->source = file == "-" ? Source::read(STDIN_FILENO, display_name(file)) : Source::read(file.c_str());
   if (!checked->source) {
@@ -33,6 +41,10 @@ std::unique_ptr<CheckedDocument> check_file(const std::string& file,
   Places places(*checked->source);
   load(checked->source, checked->document, findings, AfterError::go_on, &places);
   checked->findings = findings.findings();
+  if (!checked->has_errors()) {
+    check(checked->document, *checked->source, places, {include_folders, folder_of(file)}, findings);
+    checked->findings = findings.findings();
+  }
   std::ranges::stable_sort(checked->findings, {}, [](const Finding& each) { return each.range.begin; });
   return checked;
 }

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "libkel/keltype.h"
 #include "vqc/cmd/generate/config_file.h"
+#include "vqc/cmd/model/c_names.h"
 
 namespace vqc {
 
@@ -56,18 +56,6 @@ constexpr Template table_row =
 constexpr Template table_end =
     "\t{ (char *) 0, (XWidgetClass_p *) 0, (XFamilyHeader_p) 0, (char *) 0, (void (*)()) 0, False, False, False, False }\n"
     "} ;\n\n";
-
-bool is_kept(char c) { return kel_is(c, KEL_LETTER | KEL_UNDERSCORE); }
-
-/// What the identifiers of a family begin with: its name if that is letters and underscores only, else what comes
-/// before the first other character (a digit too) and the family's number among those that take part.
-std::string identifier_base(const Family& family, std::size_t index) {
-  const std::string_view name = family.name.view();
-  std::size_t size = 0;
-  while (size < name.size() && is_kept(name[size])) ++size;
-  std::string base(name.substr(0, size));
-  return size == name.size() ? base : base + "_" + std::to_string(index);
-}
 
 void write_headers_block(Run& run, const Family& family, std::string_view base) {
   emit<headers_head>(run.out, bind<"FAMILY">(printed(family.name)), bind<"BASE">(ours(base)));

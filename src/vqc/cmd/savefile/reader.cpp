@@ -254,21 +254,22 @@ bool Reader::plain_record() {
 // converter := "converter" NAME "{" { field | older } "}"
 // older     := ("dialog_create" | "dialog_init" | "dialog_update") "=" NAME
 bool Reader::converter() {
-  PopupDef described;  // by the older fields
+  PopupDef described;  // by the older fields, and
+  Value name;          // under this name
   const bool whole = record<&Document::converters, converter_fields>(Kw::converter, [&](ConverterDef& converter) {
     if (find_field(popup_fields)) return field(popup_fields, described);
     if (!lexer_.is(Kw::dialog_create)) return field(converter_fields, converter);
     step();
-    if (!assigned_optional(converter.dialog)) return false;
-    described.name = converter.dialog;
+    if (!assigned(name)) return false;
+    name.text = converter.dialog = non_empty(name.text);
     return true;
   });
-  if (whole) rewrite_popup(described);
+  if (whole) rewrite_popup(name, described);
   return whole;
 }
 
-void Reader::rewrite_popup(const PopupDef& described) {
-  PopupDef* popup = into().ensure(into().popups, described.name);
+void Reader::rewrite_popup(const Value& name, const PopupDef& described) {
+  PopupDef* popup = actions_.define(into().popups, name);
   if (!popup) return;
   popup->dialog_init = described.dialog_init;
   popup->dialog_update = described.dialog_update;

@@ -133,7 +133,7 @@ class Reader {
   template <Kw word, auto pool, auto& fields>
   bool plain_record();
   bool converter();
-  void rewrite_popup(const PopupDef& described);
+  void rewrite_popup(const Value& name, const PopupDef& described);
   bool enumeration();
   bool enumentry(EnumDef& owner);
   bool widget();
