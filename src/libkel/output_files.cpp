@@ -75,6 +75,7 @@ bool replaceable(const fs::path& path, const std::string& name) {
 /// `name` is the path as the user says it.
 Target target_of(const std::string& name) {
   constexpr int kMostLinks = 40;  // as the system follows
+  if (name.empty()) fail(name, ENOENT);
   fs::path path = name;
   for (int links = 0; is_link(path); ++links) {
     if (links == kMostLinks) fail(name, ELOOP);

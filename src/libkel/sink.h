@@ -65,7 +65,8 @@ class FileSink : public Sink {
 class StringSink : public Sink {
  public:
   /// What has been written, whole after finish().
-  const std::string& text() const { return text_; }
+  const std::string& text() const& { return text_; }
+  std::string text() && { return std::move(text_); }
 
  private:
   bool take(std::string_view text) override;
