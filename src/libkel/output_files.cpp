@@ -77,15 +77,14 @@ Target target_of(const std::string& name) {
   constexpr int kMostLinks = 40;  // as the system follows
   if (name.empty()) fail(name, ENOENT);
   fs::path path = name;
-  for (int links = 0; is_link(path); ++links) {
+  for (int links = 0; is_link(path) && !leads_to_open_file(path); ++links) {
     if (links == kMostLinks) fail(name, ELOOP);
-    if (leads_to_open_file(path)) return {path, false};
     path = folder_of(path) / fs::read_symlink(path);
   }
   std::error_code error;
   const fs::path folder = fs::canonical(folder_of(path), error);
   if (error) fail(name, error.value());
-  return {folder / path.filename(), replaceable(path, name)};
+  return {folder / path.filename(), !is_link(path) && replaceable(path, name)};
 }
 
 /// Whether an open file is the one at a path.
@@ -245,9 +244,10 @@ bool would_change(const OutputFile& file) { return Output(file).would_change(); 
 bool same_file(const std::string& a, const std::string& b) {
   const Target target_a = target_of(a);
   const Target target_b = target_of(b);
+  if (target_a.path == target_b.path) return true;
   const auto status_a = status_of(target_a.path);
   const auto status_b = status_of(target_b.path);
-  return target_a.path == target_b.path || (status_a && status_b && same(*status_a, *status_b));
+  return status_a && status_b && S_ISREG(status_a->st_mode) && same(*status_a, *status_b);
 }
 
 }  // namespace vqc

@@ -28,7 +28,8 @@ std::vector<bool> put_in_place(std::span<const OutputFile> files);
 /// Whether putting a file in place would write it. Throws as put_in_place().
 bool would_change(const OutputFile& file);
 
-/// Whether two paths lead to one file, be it there or not. Throws as put_in_place().
+/// Whether two paths lead to one file, be it there or not. Names of one pipe or terminal are different ways to it.
+/// Throws as put_in_place().
 bool same_file(const std::string& a, const std::string& b);
 
 }  // namespace vqc

@@ -341,8 +341,17 @@ TEST_F(OutputFilesTest, AreTheSameByWhateverPath) {
   EXPECT_TRUE(same_file(a, folder / "here/./a.c"));
   EXPECT_TRUE(same_file(folder / "none.c", folder / "here/none.c"));
   EXPECT_TRUE(same_file("/dev/null", "/dev/./null"));
+  EXPECT_TRUE(same_file("/dev/stdin", "/dev/fd/0"));
   EXPECT_FALSE(same_file(a, folder / "none.c"));
   EXPECT_FALSE(same_file(folder / "none.c", folder / "nothing.c"));
+}
+
+TEST_F(OutputFilesTest, MayBothGoToOnePipe) {
+  int ends[2];
+  ASSERT_EQ(0, pipe(ends));
+  const int other_end = dup(ends[1]);
+  EXPECT_FALSE(same_file("/dev/fd/" + std::to_string(ends[1]), "/dev/fd/" + std::to_string(other_end)));
+  for (const int end : {ends[0], ends[1], other_end}) close(end);
 }
 
 TEST_F(OutputFilesTest, TakeAwayWhatAKilledRunHasLeft) {
@@ -385,7 +394,7 @@ pid_t in_process(const std::function<void()>& what) {
 }
 
 TEST_F(OutputFilesTest, OfTwoRunsAtOnceAreThoseOfOne) {
-  for (int round = 0; round < 100; ++round) {
+  for (int round = 0; round < 20; ++round) {
     std::vector<pid_t> runs;
     for (const std::string text : {"x", "y", "z"}) {
       // Each names them in an order of its own.

@@ -1,8 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <filesystem>
+#include <initializer_list>
+#include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "application/run_program.h"
@@ -89,24 +93,82 @@ std::vector<std::string> all_documents() {
   return documents;
 }
 
-TEST_F(Generate, MakesTheBytesThatVqconfigMakes) {
+/// Tells whether vqc makes what vqconfig makes, be it of a broken document. Nothing is left behind.
+class AsVqconfig : public Generate {
+ protected:
+  /// False when neither makes anything of it.
+  bool expect_same_bytes(const std::string& path) {
+    const bool readable = vqconfig({"-C", "1", "-c", "2", "-s", "3", path}).status == 0;
+    EXPECT_NE(2, generate({"--force", "--config=a", "--code=b", "--stubs=c", path}).status) << path;
+    EXPECT_EQ(readable, exists("a") && exists("b") && exists("c")) << path;
+    for (const auto& [ours, theirs] : {std::pair("a", "1"), std::pair("b", "2"), std::pair("c", "3")}) {
+      EXPECT_TRUE(!readable || text(ours) == text(theirs)) << path;
+      fs::remove(folder / ours);
+      fs::remove(folder / theirs);
+    }
+    return readable;
+  }
+};
+
+TEST_F(AsVqconfig, FromAllDocumentsThatThereAre) {
   const auto documents = all_documents();
   EXPECT_LT(100U, documents.size()) << "where are the others?";
-  int compared = 0;
   for (const char* header : {"present.h", "presentP.h", "50%%P.h"}) folder.with(header, "");
-  for (const std::string& each : documents) {
-    const bool readable = vqconfig({"-C", "1", "-c", "2", "-s", "3", each}).status == 0;
-    const Outcome outcome = generate({"--force", "--config=a", "--code=b", "--stubs=c", each});
-    EXPECT_NE(2, outcome.status) << each;
-    ASSERT_EQ(readable, exists("a") && exists("b") && exists("c")) << each;
-    if (!readable) continue;
-    EXPECT_TRUE(text("1") == text("a")) << each;
-    EXPECT_TRUE(text("2") == text("b")) << each;
-    EXPECT_TRUE(text("3") == text("c")) << each;
-    for (const char* name : {"1", "2", "3", "a", "b", "c"}) fs::remove(folder / name);
-    ++compared;
+  EXPECT_LT(50, std::ranges::count_if(documents, [this](const auto& each) { return expect_same_bytes(each); }));
+}
+
+/// Documents of a few records that are referred to at random.
+class RandomDocument {
+ public:
+  explicit RandomDocument(unsigned seed) : random_(seed) {}
+
+  std::string text() {
+    std::string text = "VQconfig\n";
+    for (char name = 'A'; name < 'E'; ++name) {
+      text += "widget '" + std::string(1, name) + "' { " +
+              some({"realise='make'", "abstract='edit'", "can_manage=False", "include_filename='w.h'",
+                    "defined_name='named'"}) +
+              "}\n";
+      text += "enumeration '" + std::string(1, name) + "' { " +
+              some({"enumentry 'one' { code_symbol=ONE }", "enumentry 'two' { }"}) + "}\n";
+    }
+    for (char name = 'F'; name < 'I'; ++name) {
+      text += "family '" + std::string(1, name) + "' { " +
+              some({"widget='A'", "widget='B'", "widget='C'", "enumeration='A'", "enumeration='D'", "header='here.h'",
+                    "header='there.h'", "cheader='here.h'", "page='p'", "popup='q'", "family_init='begin'"}) +
+              "}\n";
+    }
+    return text;
   }
-  EXPECT_LT(50, compared) << "were they all unreadable?";
+
+  /// The same without a part of it.
+  std::string broken_text() {
+    std::string whole = text();
+    return whole.erase(random_() % whole.size(), random_() % 20);
+  }
+
+ private:
+  /// Some of the parts.
+  std::string some(std::initializer_list<const char*> parts) {
+    std::string text;
+    for (const char* part : parts) {
+      if (random_() % 2 == 0) text.append(part).append(" ");
+    }
+    return text;
+  }
+
+  std::minstd_rand random_;
+};
+
+TEST_F(AsVqconfig, FromRandomDocuments) {
+  folder.with("here.h", "");
+  for (unsigned seed = 1; seed <= 10; ++seed) {
+    RandomDocument random(seed);
+    expect_same_bytes(folder.with("sound.vqc", random.text()));
+    EXPECT_EQ(0, generate({"-n", "sound.vqc"}).status);
+    expect_same_bytes(folder.with("broken.vqc", random.broken_text()));
+    if (HasFailure()) FAIL() << text("sound.vqc") << text("broken.vqc");
+  }
 }
 
 // Names.
@@ -334,6 +396,17 @@ TEST_F(Generate, WritesThroughPipesAndDevices) {
   EXPECT_EQ(text("w_config.c"), text("got"));
   EXPECT_EQ(text("w_code.c"), outcome.out);
   EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
+}
+
+TEST_F(Generate, OfTwoRunsAtOnceLeavesTheFilesOfOne) {
+  folder.with("w.vqc", "VQconfig widget 'W' { } family 'F' { widget='W' } family 'G' { }");
+  for (int round = 0; round < 10; ++round) {
+    const Outcome outcome = shell(
+        "for family in F G F G; do $vqc generate --no-stubs --families $family w.vqc || echo failed & done 2>log; wait");
+    EXPECT_EQ("", outcome.out);
+    EXPECT_EQ(has_text("w_config.c", "xw_W"), has_text("w_code.c", "xw_W"));
+    ASSERT_EQ((Files{"log", "w.vqc", "w_code.c", "w_config.c"}), files());
+  }
 }
 
 TEST_F(Generate, TellsWhenFindingsCannotBeShown) {
