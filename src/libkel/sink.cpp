@@ -3,19 +3,11 @@
 #include "libkel/sink.h"
 
 #include <fcntl.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <utility>
 
 namespace vqc {
-
-namespace {
-
-constexpr int kNotOpen = -1;
-constexpr mode_t kReadWriteAll = 0666;  // less what the user's umask takes
-
-}  // namespace
 
 Sink::Sink() : buffer_(new char[kSize]) {}
 
@@ -37,28 +29,12 @@ void Sink::note(bool success) {
 }
 
 std::unique_ptr<FileSink> FileSink::open(const char* path) {
-  const int descriptor = ::open(path, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, kReadWriteAll);
-  return descriptor == kNotOpen ? nullptr : std::unique_ptr<FileSink>(new FileSink(descriptor, true));
+  Descriptor file(::open(path, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, kReadWriteAll));
+  return file ? std::unique_ptr<FileSink>(new FileSink(std::move(file))) : nullptr;
 }
 
 std::unique_ptr<FileSink> FileSink::to_descriptor(int descriptor) {
-  return std::unique_ptr<FileSink>(new FileSink(descriptor, false));
-}
-
-FileSink::~FileSink() { end(); }
-
-bool FileSink::take(std::string_view text) {
-  while (!text.empty()) {
-    const ssize_t written = ::write(descriptor_, text.data(), text.size());
-    if (written < 0 && errno != EINTR) return false;
-    if (written > 0) text.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return true;
-}
-
-bool FileSink::end() {
-  const int descriptor = std::exchange(descriptor_, kNotOpen);
-  return descriptor == kNotOpen || !closes_ || close(descriptor) == 0;
+  return std::unique_ptr<FileSink>(new FileSink(Descriptor(fcntl(descriptor, F_DUPFD_CLOEXEC, 0))));
 }
 
 bool StringSink::take(std::string_view text) {

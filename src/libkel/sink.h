@@ -5,6 +5,9 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
+
+#include "libkel/descriptor.h"
 
 namespace vqc {
 
@@ -49,23 +52,21 @@ class FileSink : public Sink {
   static std::unique_ptr<FileSink> open(const char* path);
   /// A file that is open and stays so.
   static std::unique_ptr<FileSink> to_descriptor(int descriptor);
-  /// Closes the file unless it was open before. What is still in the buffer is lost without finish().
-  ~FileSink() override;
 
  private:
-  FileSink(int descriptor, bool closes) : descriptor_(descriptor), closes_(closes) {}
-  bool take(std::string_view text) override;
-  bool end() override;
+  explicit FileSink(Descriptor file) : file_(std::move(file)) {}
+  bool take(std::string_view text) override { return file_.write(text); }
+  bool end() override { return file_.close(); }
 
-  int descriptor_;
-  bool closes_;
+  Descriptor file_;  // what is still in the buffer is lost without finish()
 };
 
 /// A text in memory.
 class StringSink : public Sink {
  public:
   /// What has been written, whole after finish().
-  const std::string& text() const { return text_; }
+  const std::string& text() const& { return text_; }
+  std::string text() && { return std::move(text_); }
 
  private:
   bool take(std::string_view text) override;

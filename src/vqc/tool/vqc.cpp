@@ -22,6 +22,7 @@ int run(int argc, char** argv) {
   program.require_subcommand(1);
   ExitStatus status = STATUS_GOOD;
   add_check(program, status);
+  add_generate(program, status);
   add_explain(program, status);
   add_help(program, status);
   try {

@@ -4,6 +4,7 @@
 
 #include <unistd.h>
 
+#include <set>
 #include <string>
 
 namespace vqc {
@@ -75,5 +76,19 @@ void write_includes(Run& run, HeaderReferences Family::*headers) {
 void write_config_includes(Run& run) { write_includes(run, &Family::config_headers); }
 
 void write_code_includes(Run& run) { write_includes(run, &Family::code_headers); }
+
+std::vector<std::string> found_headers(std::span<const Family* const> families) {
+  std::vector<std::string> found;
+  std::set<std::string_view> known;
+  for (const Family* family : families) {
+    for (const HeaderReferences* headers : {&family->config_headers, &family->code_headers}) {
+      for (const auto& reference : *headers) {
+        const Text name = reference.record->name;
+        if (known.insert(name.view()).second && is_file(name)) found.emplace_back(name.view());
+      }
+    }
+  }
+  return found;
+}
 
 }  // namespace vqc

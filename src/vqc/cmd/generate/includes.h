@@ -1,6 +1,10 @@
 #ifndef VQC_CMD_GENERATE_INCLUDES_H
 #define VQC_CMD_GENERATE_INCLUDES_H
 
+#include <span>
+#include <string>
+#include <vector>
+
 #include "vqc/cmd/generate/walk.h"
 
 namespace vqc {
@@ -14,6 +18,10 @@ inline constexpr Template include_line = "#include <@FILE@>\n";
 
 void write_config_includes(Run& run);
 void write_code_includes(Run& run);
+
+/// The headers of the families that are files for the current directory, each once. The others stand before them in
+/// the generated files.
+std::vector<std::string> found_headers(std::span<const Family* const> families);
 
 }  // namespace vqc
 
