@@ -2,6 +2,7 @@
 
 #include "vqc/cmd/check/header_files.h"
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -13,6 +14,9 @@
 namespace vqc {
 
 namespace {
+
+/// What a header asks with whether it has been included.
+constexpr std::string_view guards[] = {"#ifndef", "#pragma once", "#if !defined"};
 
 /// The name as the generated files have it.
 std::string printed_name(Text name) {
@@ -42,10 +46,8 @@ bool has_guard(const CheckOptions& options, Text name) {
   const std::optional<std::filesystem::path> path = find_header(options, name);
   const std::shared_ptr<const Source> file = path ? Source::read(path->c_str()) : nullptr;
   if (!file) return !name.view().ends_with(".xbm");
-  for (const std::string_view guard : {"#ifndef", "#pragma once", "#if !defined"}) {
-    if (file->text().find(guard) != std::string_view::npos) return true;
-  }
-  return false;
+  return std::ranges::any_of(
+      guards, [&](std::string_view guard) { return file->text().find(guard) != std::string_view::npos; });
 }
 
 }  // namespace vqc
