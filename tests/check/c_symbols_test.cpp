@@ -23,7 +23,7 @@ TEST(NamesOfC, MayBeUsedInOneRoleManyTimes) {
 
 TEST(NamesOfC, AreFoundInASecondRoleWithANoteOnTheFirst) {
   const MarkedText text(
-      "VQconfig widget W { abstract='<p>' } widget A { realise='<p>' } family F { widget=W widget=A }");
+      "VQconfig widget W { abstract=<'p'> } widget A { realise=<'p'> } family F { widget=W widget=A }");
   const Checked checked(text.text);
   const std::string first = "the procedure that says which children can be edited";
   ASSERT_EQ((Sayings{twice("p", "the procedure that creates a widget", first)}), checked.said());
@@ -37,9 +37,9 @@ TEST(NamesOfC, HaveOneRoleAmongWidgetsPopupsConvertersAndFamilies) {
                 twice("u", "the procedure that adds the converter", "the procedure that brings it up to date"),
                 twice("W", "the procedure that initialises the family", "a widget class"),
             }),
-            said_at_marks("VQconfig widget W {} popup P { dialog_init='<P>' dialog_update=u } "
-                          "converter C { proc_name='<u>' add_in_vq=True } "
-                          "family F { widget=W popup=P converter=C family_init='<W>' }"));
+            said_at_marks("VQconfig widget W {} popup P { dialog_init=<'P'> dialog_update=u } "
+                          "converter C { proc_name=<'u'> add_in_vq=True } "
+                          "family F { widget=W popup=P converter=C family_init=<'W'> }"));
 }
 
 TEST(NamesOfC, OfWhatIsNotGeneratedAreNoMatter) {
@@ -50,7 +50,7 @@ TEST(NamesOfC, OfWhatIsNotGeneratedAreNoMatter) {
 
 TEST(TablesOfC, HaveNamesOfTheirOwn) {
   EXPECT_EQ((Sayings{twice("t", "the table of aliases", "the table of popups")}),
-            said_at_marks("VQconfig generate_popup_string=t generate_alias_string='<t>'"));
+            said_at_marks("VQconfig generate_popup_string=t generate_alias_string=<'t'>"));
 }
 
 TEST(TablesOfC, DoNotHaveTheUsualNamesOfOthers) {
@@ -79,7 +79,7 @@ TEST(TablesOfC, AreNotCalledLikeWhatIsMadeOfNames) {
 
 TEST(TablesOfC, AreNotCalledLikeProcedures) {
   EXPECT_EQ((Sayings{twice("popups", "the procedure that creates a widget", "the table of popups")}),
-            said_at_marks("VQconfig widget W { realise='<popups>' } family F { widget=W }"));
+            said_at_marks("VQconfig widget W { realise=<'popups'> } family F { widget=W }"));
 }
 
 }  // namespace

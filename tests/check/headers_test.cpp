@@ -11,8 +11,8 @@ namespace {
 // The rules on headers, which look for files.
 
 const char* const kHeaders =
-    "VQconfig widget W { include_filename='<w.h>' largeicon='i' largeiconheader='<i.xbm>' } "
-    "family F { widget=W header='<h.h>' cheader='<c.h>' family_header='f.h' header='w.h' }";
+    "VQconfig widget W { include_filename=<'w.h'> largeicon='i' largeiconheader=<'i.xbm'> } "
+    "family F { widget=W header=<'h.h'> cheader=<'c.h'> family_header='f.h' header='w.h' }";
 
 TEST(Headers, AreNotLookedForWithoutFolders) {
   const MarkedText text(kHeaders);

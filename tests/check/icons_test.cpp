@@ -18,9 +18,9 @@ Sayings said_of_widgets(const std::string& w, const std::string& x, const CheckO
 TEST(Icons, NeedTheirHeaders) {
   EXPECT_EQ(
       (Sayings{"icon_without_header: the icon 'l' has no header", "icon_without_header: the icon 's' has no header"}),
-      said_of_widgets("largeicon='<l>' smallicon='<s>'", ""));
+      said_of_widgets("largeicon=<'l'> smallicon=<'s'>", ""));
   EXPECT_EQ((Sayings{"icon_without_header: the icon 's' has no header"}),
-            said_of_widgets("largeicon='l' largeiconheader='l.xbm' smallicon='<s>'", ""));
+            said_of_widgets("largeicon='l' largeiconheader='l.xbm' smallicon=<'s'>", ""));
 }
 
 TEST(Icons, MayBothBeInOneHeaderThatIsNoBitmap) {
@@ -37,7 +37,7 @@ TEST(Icons, MayComeWithTheHeadersOfAFamily) {
 
 TEST(IconHeaders, OfBitmapsAreFoundWhereTheyAreIncludedForTheSecondTime) {
   const MarkedText text(
-      "VQconfig widget W { largeicon='i' largeiconheader='<i.xbm>' smalliconheader='<i.xbm>' } "
+      "VQconfig widget W { largeicon='i' largeiconheader=<'i.xbm'> smalliconheader=<'i.xbm'> } "
       "widget X { largeicon='i' largeiconheader='i.xbm' }" +
       kFamily);
   const Checked checked(text.text);
@@ -61,7 +61,7 @@ TEST(IconHeaders, MayBeIncludedTwiceIfTheyHaveAGuard) {
   const CheckOptions beside{{}, folder.path()};
   EXPECT_EQ(Sayings{}, said_of_widgets(icon + "'guarded.xbm'", icon + "'guarded.xbm'", beside));
   EXPECT_EQ((Sayings{"icon_header_twice: 'plain.h' is included twice"}),
-            said_of_widgets(icon + "'plain.h'", icon + "'<plain.h>'", beside));
+            said_of_widgets(icon + "'plain.h'", icon + "<'plain.h'>", beside));
 }
 
 }  // namespace

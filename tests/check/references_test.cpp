@@ -56,7 +56,7 @@ TEST(References, WithoutANameNameNothing) {
 
 TEST(Dialogs, ThatAreNoPopupsAreFound) {
   EXPECT_EQ((Sayings{"dialog_is_no_popup: 'P' is no popup"}),
-            said_at_marks("VQconfig converter C { dialog='<P>' } family F { converter=C }"));
+            said_at_marks("VQconfig converter C { dialog=<'P'> } family F { converter=C }"));
 }
 
 TEST(Dialogs, ThatArePopupsAreGoodWhereverTheseStand) {
@@ -111,7 +111,7 @@ TEST(PagesOfResources, AreThoseOfTheFamiliesThatHaveTheWidget) {
 
 TEST(PagesOfResources, OfNoFamilyAreFoundOnceAWidget) {
   EXPECT_EQ((Sayings{"page_of_no_family: no family that has 'W' has the page 'p'"}),
-            said_at_marks(with_resource("'z', , '<p>', True, 'a', , 'p', True", "family F { widget=W }")));
+            said_at_marks(with_resource("'z', , <'p'>, True, 'a', , 'p', True", "family F { widget=W }")));
 }
 
 TEST(PagesOfResources, OfOtherFamiliesAreFound) {
@@ -136,7 +136,7 @@ TEST(PagesOfResources, OfAnUnusedWidgetOnlyHaveToBeInAFamily) {
 
 TEST(PopupsOfResources, OfNoFamilyAreFoundThereOnly) {
   EXPECT_EQ((Sayings{"popup_of_no_family: no family that has 'W' has the popup 'P'"}),
-            said_at_marks(with_resource("'r', '<P>', , True", "popup P {} family F { widget=W }")));
+            said_at_marks(with_resource("'r', <'P'>, , True", "popup P {} family F { widget=W }")));
 }
 
 TEST(PopupsOfResources, ArePredefinedOrOfTheFamilyOrOfItsConverters) {
@@ -147,7 +147,7 @@ TEST(PopupsOfResources, ArePredefinedOrOfTheFamilyOrOfItsConverters) {
 
 TEST(PopupsOfResources, InTheOlderListAreFoundToo) {
   EXPECT_EQ((Sayings{"popup_of_no_family: no family that has 'W' has the popup 'P'"}),
-            said_at_marks("VQconfig widget W { resource_popups='r', '<P>' } family F { widget=W }"));
+            said_at_marks("VQconfig widget W { resource_popups='r', <'P'> } family F { widget=W }"));
 }
 
 TEST(Pages, BeforeThePredefinedOnesAreFound) {

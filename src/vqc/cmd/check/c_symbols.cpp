@@ -51,7 +51,7 @@ class Symbols {
   void add_procedures(const Field<Record> (&fields)[n], const Record& record) {
     for (const Field<Record>& field : fields) {
       const bool procedure = field.kind >= ValueKind::name_procedure;
-      if (procedure) add(record.**field.text(), field.about, inspection_.places.of(record.**field.text()));
+      if (procedure) add(record.**field.text(), field.about, inspection_.place_of(record.**field.text()));
     }
   }
 
@@ -60,14 +60,14 @@ class Symbols {
       const auto* option = std::get_if<NameOption NameOptions::*>(&key.member);
       if (!option) continue;
       const NameOption& name = inspection_.document.names.**option;
-      add(name.value(), key.about, inspection_.places.of(name.document));
+      add(name.value(), key.about, inspection_.place_of(name.document));
     }
   }
 
   void add_widgets() {
     for (const WidgetDef& widget : inspection_.document.widgets) {
       if (!is_in_family(inspection_, widget)) continue;
-      add(widget.name, "a widget class", inspection_.places.of(widget.name));
+      add(widget.name, "a widget class", inspection_.place_of(widget.name));
       add_procedures(widget_fields, widget);
     }
   }
@@ -75,7 +75,7 @@ class Symbols {
   void add_popups() {
     for (const PopupDef& popup : inspection_.document.popups) {
       if (!is_in_family(inspection_, popup)) continue;
-      add(popup.name, "the procedure that creates a dialog", inspection_.places.of(popup.name));
+      add(popup.name, "the procedure that creates a dialog", inspection_.place_of(popup.name));
       add_procedures(popup_fields, popup);
     }
   }

@@ -13,7 +13,7 @@ namespace {
 void tell(Inspection& inspection, FindingId id, const Given& given, std::vector<std::string> more = {}) {
   std::vector<std::string> arguments{string_of(given.text)};
   for (std::string& each : more) arguments.push_back(std::move(each));
-  inspection.add(id, place_of(inspection.places, given), std::move(arguments));
+  inspection.add(id, place_of(inspection, given), std::move(arguments));
 }
 
 void check_keyword(Inspection& inspection, const Given& given) {
@@ -47,7 +47,7 @@ std::string_view unquotable_in(std::string_view text) {
 void check_quotable(Inspection& inspection, const Given& given) {
   const std::string_view unquotable = unquotable_in(given.text.view());
   if (unquotable.empty()) return;
-  inspection.add(FindingId::unquotable_text, place_of(inspection.places, given), {std::string(unquotable)});
+  inspection.add(FindingId::unquotable_text, place_of(inspection, given), {std::string(unquotable)});
 }
 
 void check_family_name(Inspection& inspection, const Given& given) {
@@ -101,7 +101,7 @@ void entries_without_code_symbol(Inspection& inspection) {
   for (const EnumDef& enumeration : inspection.document.enumerations) {
     for (const EnumEntry& entry : enumeration.entries) {
       if (entry.code_symbol) continue;
-      inspection.add(FindingId::missing_code_symbol, inspection.places.of(entry.name), {string_of(entry.name)});
+      inspection.add(FindingId::missing_code_symbol, inspection.place_of(entry.name), {string_of(entry.name)});
     }
   }
 }

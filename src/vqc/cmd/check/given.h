@@ -3,8 +3,8 @@
 
 #include <optional>
 
+#include "vqc/cmd/check/rules.h"
 #include "vqc/cmd/savefile/fields.h"
-#include "vqc/cmd/savefile/places.h"
 
 namespace vqc {
 
@@ -17,8 +17,8 @@ struct Given {
 };
 
 /// Where it stands. Of records that are defined nowhere only the names of pages and headers do.
-inline std::optional<Range> place_of(const Places& places, const Given& given) {
-  return given.record ? places.of(given.record) : places.of(given.text);
+inline std::optional<Range> place_of(const Inspection& inspection, const Given& given) {
+  return given.record ? inspection.places.of(given.record) : inspection.place_of(given.text);
 }
 
 /// The text values of a record.

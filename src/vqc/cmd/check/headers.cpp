@@ -19,7 +19,7 @@ void headers_not_found(Inspection& inspection) {
     if (given.kind != ValueKind::header || given.text.empty()) return;
     if (!looked_for.insert(given.text.view()).second) return;
     if (find_header(inspection.options, given.text)) return;
-    inspection.add(FindingId::header_not_found, place_of(inspection.places, given), {string_of(given.text)});
+    inspection.add(FindingId::header_not_found, place_of(inspection, given), {string_of(given.text)});
   });
 }
 
@@ -30,7 +30,7 @@ void headers_in_working_folder(Inspection& inspection) {
     for (const HeaderEntry& header : *pool) {
       const std::string name = string_of(header.name);
       if (access(name.c_str(), F_OK) != 0) continue;
-      inspection.add(FindingId::header_in_working_folder, inspection.places.of(header.name), {name});
+      inspection.add(FindingId::header_in_working_folder, inspection.place_of(header.name), {name});
     }
   }
 }

@@ -63,7 +63,7 @@ std::vector<Include> included_headers(const Inspection& inspection) {
     if (!is_in_family(inspection, widget)) continue;
     for (const Icon& icon : icons) {
       const Text header = widget.*icon.header;
-      if (header) includes.push_back({header.view(), inspection.places.of(header)});
+      if (header) includes.push_back({header.view(), inspection.place_of(header)});
     }
   }
   std::ranges::sort(includes, {},
@@ -79,7 +79,7 @@ void icons_without_header(Inspection& inspection) {
     for (const Icon& icon : icons) {
       const Text name = widget.*icon.name;
       if (!name || has_header(widget, icon) || known.contains(name.view())) continue;
-      inspection.add(FindingId::icon_without_header, inspection.places.of(name), {string_of(name)});
+      inspection.add(FindingId::icon_without_header, inspection.place_of(name), {string_of(name)});
     }
   }
 }

@@ -60,8 +60,7 @@ void each_stated_reference(const Inspection& inspection, Visit visit) {
 /// A converter of the older form makes its popup itself: that stands where the converter names it.
 bool makes_popup(const Inspection& inspection, const ConverterDef& converter, const PopupDef& popup) {
   const std::optional<Range> made = inspection.places.of(&popup);
-  const std::optional<Range> named = inspection.places.of(converter.dialog);
-  return made && named && made->begin <= named->begin && named->end <= made->end;
+  return made && made == inspection.place_of(converter.dialog);
 }
 
 /// The popups that converters bring along, beside those in families.
@@ -143,7 +142,7 @@ class OfNoFamily {
       if (!name || name == available) continue;
       if (!missing.contains(name.view()) && is_available(name, families)) {
         available = name;
-      } else if (const auto place = inspection_.places.of(name)) {
+      } else if (const auto place = inspection_.place_of(name)) {
         const auto [entry, is_new] = missing.emplace(name.view(), *place);
         if (place->begin < entry->second.begin) entry->second = *place;
       }
@@ -206,7 +205,7 @@ void dialogs_that_are_no_popups(Inspection& inspection) {
     const PopupDef* popup = inspection.document.popups.find(dialog);
     if (!dialog || is_predefined_popup(dialog)) continue;
     if (popup && (inspection.places.of(popup) || inspection.told.contains(popup))) continue;
-    inspection.add(FindingId::dialog_is_no_popup, inspection.places.of(dialog), {string_of(dialog)}, {},
+    inspection.add(FindingId::dialog_is_no_popup, inspection.place_of(dialog), {string_of(dialog)}, {},
                    nearest_name(inspection, dialog.view(), inspection.document.popups));
   }
 }
@@ -240,7 +239,7 @@ void pages_before_predefined(Inspection& inspection) {
     if (place++ == std::size(predefined_pages)) return;
     if (is_predefined_page(page.name) || !is_in_family(inspection, page)) continue;
     const std::optional<Range> defined = inspection.places.of(&page);
-    inspection.add(FindingId::page_before_predefined, defined ? defined : inspection.places.of(page.name),
+    inspection.add(FindingId::page_before_predefined, defined ? defined : inspection.place_of(page.name),
                    {string_of(page.name)});
   }
 }

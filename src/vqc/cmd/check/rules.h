@@ -45,6 +45,16 @@ struct Inspection {
   RecordSet in_families = {};  // the popups and pages that families have
   RecordSet told = {};         // what a finding on a use is about: none is needed where it is defined, or used again
 
+  /// Where a value stands, with its quotes if it has any.
+  std::optional<Range> place_of(Text text) const {
+    const std::string_view all = source.text();
+    const std::optional<Range> place = places.of(text);
+    if (!place || place->begin == 0 || place->end >= all.size()) return place;
+    const bool is_view = place->end - place->begin == text.view().size();
+    const bool in_quotes = all[place->begin - 1] == '\'' && all[place->end] == '\'';
+    return is_view && in_quotes ? Range{place->begin - 1, place->end + 1} : place;
+  }
+
   /// Adds a finding, unless it concerns what the source does not say.
   void add(FindingId id, std::optional<Range> place, std::vector<std::string> arguments = {},
            std::vector<Note> notes = {}, std::string suggestion = {}) {

@@ -24,7 +24,7 @@ std::string nearest_class(Inspection& inspection, std::string_view name) {
 /// Where a part of the stop list stands; with an escape in it, the list stands there as a whole.
 std::optional<Range> place_of_part(const Inspection& inspection, std::string_view part) {
   const std::optional<Range> place = inspection.places.of(Text(part));
-  return place ? place : inspection.places.of(inspection.document.excluded_classes);
+  return place ? place : inspection.place_of(inspection.document.excluded_classes);
 }
 
 }  // namespace
