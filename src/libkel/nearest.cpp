@@ -27,7 +27,7 @@ std::size_t distance(std::string_view a, std::string_view b) {
       const bool swapped = i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1];
       if (swapped) row[j] = std::min(row[j], before_last[j - 2] + 1);
     }
-    std::ranges::rotate(rows, rows.begin() + 1);
+    std::rotate(rows.begin(), rows.begin() + 1, rows.end());
   }
   return rows[1].back();
 }
