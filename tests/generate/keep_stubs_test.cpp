@@ -356,6 +356,23 @@ TEST_F(KeepStubs, StubThatIsUsedStaysAliveWithAWarning) {
   }
 }
 
+TEST_F(KeepStubs, HeadThatIsReplacedUsesNothing) {
+  describe_popups({}, "can_add_child='p'");
+  const std::string head = "void __attribute__((alias(a))) p(Widget w)\n";
+  EXPECT_EQ(mark("a") + retired("a", "void a(Widget w) { }\n") + mark("p") + "#if 0\n" + head + "#endif\n" +
+                test_head("p") + "{ mine(); }\n",
+            kept(mark("a") + "void a(Widget w) { }\n" + mark("p") + head + "{ mine(); }\n"));
+}
+
+TEST_F(KeepStubs, StubWhoseMacroIsUsedStaysAlive) {
+  describe_popups({"a", "b"});
+  const std::string old = written("a", "{\n#define MINE 1\n\tint x = MINE;\n}\n");
+  describe_popups({"b"});
+  EXPECT_EQ(old + "int y = MINE;\n", kept(old + "int y = MINE;\n"));
+  kept(old);
+  EXPECT_EQ(1, last.retired);
+}
+
 TEST_F(KeepStubs, StubIsNotUsedByItselfByADeclarationOrByWhatIsLeftOut) {
   describe_popups({"a", "b"});
   const std::string old =

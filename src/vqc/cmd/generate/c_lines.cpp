@@ -17,7 +17,7 @@ std::optional<std::size_t> line_begin(const Code& code, std::size_t token) {
     if (code.tokens[--token].kind != Kind::comment) return {};
   }
   std::size_t begin = code.tokens[token].begin;
-  while (begin > 0 && (code.text[begin - 1] != '\n' || is_continued(code.text, begin - 1))) --begin;
+  while (!begins_line(code.text, begin)) --begin;
   return begin;
 }
 
@@ -37,6 +37,10 @@ bool ends_line(const Code& code, std::size_t token) {
     if (code.tokens[++token].kind != Kind::comment) return false;
   }
   return true;
+}
+
+bool begins_line(std::string_view text, std::size_t place) {
+  return place == 0 || (text[place - 1] == '\n' && !is_continued(text, place - 1));
 }
 
 bool is_line(const Code& code, std::size_t token) {

@@ -16,6 +16,9 @@ std::size_t line_end(const Code& code, std::size_t token);
 /// Whether nothing but comments follows a token on its line.
 bool ends_line(const Code& code, std::size_t token);
 
+/// Whether what is put in at a place begins a line.
+bool begins_line(std::string_view text, std::size_t place);
+
 /// Whether a token is all that stands on its line.
 bool is_line(const Code& code, std::size_t token);
 

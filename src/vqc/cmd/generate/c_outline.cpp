@@ -41,7 +41,7 @@ struct Open {
   State before;
   State behind;
   bool has_behind = false;
-  bool has_code = false;  // in its present branch
+  std::size_t code_before = 0;  // its present branch
   bool dead_before = false;
   bool aside_before = false;
 };
@@ -66,9 +66,9 @@ class Outliner {
       } else if (border != sought_.borders.end() && *border == i) {
         ++border;
         if (is_outside()) begin_declaration();
-      } else if (!is_dead_ && code_.tokens[i].kind != Kind::comment && code_.tokens[i].kind != Kind::directive) {
-        if (!open_.empty()) open_.back().has_code = true;
-        read(i);
+      } else if (code_.tokens[i].kind != Kind::comment && code_.tokens[i].kind != Kind::directive) {
+        ++code_count_;
+        if (!is_dead_) read(i);
       }
     }
     if (state_.bracket != kNone) fail(brackets_[state_.bracket].token, "this bracket is never closed");
@@ -89,32 +89,33 @@ class Outliner {
   void read_branch(const Branch& branch) {
     if (branch.step == Step::begin) return begin_conditional(branch);
     Open& open = open_.back();
-    if (open.has_code && !open.has_behind) {
+    const bool was_dead = is_dead_ && !open.dead_before;
+    if (was_dead) found_.dead.back().last = branch.token;
+    if (!was_dead && !open.has_behind && code_count_ > open.code_before) {
       open.behind = state_;
       open.has_behind = true;
     }
-    if (is_dead_ && !open.dead_before) found_.dead.back().last = branch.token;
     is_dead_ = open.dead_before;
     state_ = open.before;
-    if (branch.step == Step::end) return end_conditional();
+    if (branch.step == Step::end) {
+      state_ = open.behind;
+      is_aside_ = open.aside_before;
+      return open_.pop_back();
+    }
     is_aside_ = open.aside_before || open.has_behind;
-    open.has_code = false;
+    open.code_before = code_count_;
   }
 
   void begin_conditional(const Branch& branch) {
-    open_.push_back({.before = state_, .behind = state_, .dead_before = is_dead_, .aside_before = is_aside_});
+    open_.push_back({.before = state_,
+                     .behind = state_,
+                     .code_before = code_count_,
+                     .dead_before = is_dead_,
+                     .aside_before = is_aside_});
     const bool never = conditionals_.all[branch.conditional].never;
     if (is_dead_ || !never || (sought_.is_awake && sought_.is_awake(branch.conditional))) return;
     is_dead_ = true;
     found_.dead.push_back({branch.token, branch.token});
-  }
-
-  void end_conditional() {
-    const Open open = open_.back();
-    open_.pop_back();
-    state_ = open.behind;
-    is_aside_ = open.aside_before;
-    if (!open_.empty()) open_.back().has_code = open_.back().has_code || open.has_behind;
   }
 
   // Tokens.
@@ -271,6 +272,7 @@ class Outliner {
     std::size_t operator()(std::string_view word) const { return hash_of(word); }
   };
   std::unordered_map<std::string_view, std::size_t, Hash> parameter_of_;  // the parentheses that a word stood in last
+  std::size_t code_count_ = 0;                                            // tokens so far, dead or not
   bool is_dead_ = false;                                                  // an "#if 0" leaves this out
   bool is_aside_ = false;  // another branch is the one that counts for what follows
 };

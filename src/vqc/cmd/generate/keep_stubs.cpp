@@ -146,6 +146,12 @@ class Keeper {
     return result;
   }
 
+  /// What has to follow a text before a line can begin.
+  std::string end_of_line(std::string_view text) const {
+    if (c::begins_line(text, text.size())) return "";
+    return c::is_continued(text, text.size()) ? line_feed_ + line_feed_ : line_feed_;
+  }
+
   // Procedures that the families name.
 
   void keep(std::string_view name, Procedure& procedure) {
@@ -238,8 +244,7 @@ class Keeper {
   }
 
   std::string left_out(std::string_view lines) const {
-    return in_lines(kLeaveOut) + std::string(lines) + (lines.ends_with('\n') ? "" : line_feed_) +
-           in_lines(kLeaveOutEnd);
+    return in_lines(kLeaveOut) + std::string(lines) + end_of_line(lines) + in_lines(kLeaveOutEnd);
   }
 
   /// Replaces a body that nobody has touched.
@@ -275,7 +280,7 @@ class Keeper {
                            ", which stays since it shares lines or conditionals with other code");
       }
     }
-    const std::set<std::string_view> used = used_functions(old_, leaving);
+    const std::set<std::string_view> used = used_functions(old_, leaving, edits_.replaced());
     for (const auto& [name, function] : leaving) {
       if (used.contains(name)) {
         warn(function, "the document no longer names " + quoted_name(name) +
@@ -298,8 +303,8 @@ class Keeper {
     ++kept_.retired;
     edits_.insert(lines.begin, in_lines(std::string(kLeaveOut) + retirement_reason(name) + "\n"),
                   TextEdits::Order::opening);
-    const bool ends_open = !old_.text().substr(0, lines.end).ends_with('\n');
-    edits_.insert(lines.end, in_lines(ends_open ? "\n#endif" : kLeaveOutEnd), TextEdits::Order::closing);
+    const std::string end = end_of_line(old_.text().substr(0, lines.end));
+    edits_.insert(lines.end, end.empty() ? in_lines(kLeaveOutEnd) : end + "#endif", TextEdits::Order::closing);
   }
 
   /// Takes away what retire() has put there.
@@ -321,8 +326,7 @@ class Keeper {
     const std::string lines = in_lines(missing_includes(document_, families_, old_));
     if (lines.empty()) return;
     const std::size_t place = place_for_includes(old_);
-    const bool ends_open = place > 0 && old_.text()[place - 1] != '\n';
-    edits_.insert(place, ends_open ? line_feed_ + lines : lines, TextEdits::Order::closing);
+    edits_.insert(place, end_of_line(old_.text().substr(0, place)) + lines, TextEdits::Order::closing);
   }
 
   /// Adds the stubs that the file has not, behind an empty line.

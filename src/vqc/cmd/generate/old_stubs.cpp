@@ -94,9 +94,7 @@ class Reader {
     for (std::size_t i = 0; i < old_.conditionals.all.size(); ++i) {
       const c::Conditional& conditional = old_.conditionals.all[i];
       const std::string_view name = retired_in(conditional);
-      if (name.empty()) continue;
-      retired_.push_back({name, i, conditional.tokens});
-      procedures_[std::string(name)].is_marked = true;
+      if (!name.empty()) retired_.push_back({name, i, conditional.tokens});
     }
   }
 

@@ -7,6 +7,15 @@
 
 namespace vqc {
 
+std::vector<Range> TextEdits::replaced() {
+  sort();
+  std::vector<Range> ranges;
+  for (const Edit& edit : edits_) {
+    if (edit.range.begin < edit.range.end) ranges.push_back(edit.range);
+  }
+  return ranges;
+}
+
 bool TextEdits::are_apart() {
   sort();
   const auto overlap = [](const Edit& a, const Edit& b) { return b.range.begin < a.range.end; };

@@ -20,6 +20,8 @@ class TextEdits {
   }
   void insert(std::size_t at, std::string text, Order order) { replace({at, at}, std::move(text), order); }
 
+  /// The ranges that something else takes the place of, in their order.
+  std::vector<Range> replaced();
   /// Whether each change can be made without another.
   bool are_apart();
   /// The text with the changes, which are apart.
