@@ -65,16 +65,14 @@ std::string_view take_piece(std::string_view& text) {
 
 /// Writes what follows the prelude, and notes the stubs.
 void carry_over(Run& run, const Source& old) {
-  const std::string ends[] = {vqc_stub_prelude_end(), vqc_stub_orvo_prelude_end()};
-  const std::string comments[] = {vqc_stub_comment({}), vqc_stub_orvo_comment({})};
   bool after_prelude = false;
   for (std::string_view rest = old.text(); !rest.empty();) {
     const std::string_view piece = take_piece(rest);
-    if (piece.starts_with(ends[0]) || piece.starts_with(ends[1])) {
+    if (vqc_is_prelude_end(piece)) {
       after_prelude = true;
       continue;
     }
-    for (const std::string& comment : comments) run.kept_stubs.add(Text(scan(piece, comment)));
+    run.kept_stubs.add(Text(vqc_marked_stub(piece)));
     if (after_prelude) run.out.write(piece);
   }
 }
@@ -94,6 +92,17 @@ std::string vqc_stub_comment(std::string_view name) { return comment_of(kProgram
 std::string vqc_stub_vq_comment(std::string_view name) { return vqc_stub_comment(name); }
 
 std::string vqc_stub_orvo_comment(std::string_view name) { return comment_of(kSiblingName, name); }
+
+bool vqc_is_prelude_end(std::string_view line) {
+  static const std::string ends[] = {vqc_stub_prelude_end(), vqc_stub_orvo_prelude_end()};
+  return line.starts_with(ends[0]) || line.starts_with(ends[1]);
+}
+
+std::string_view vqc_marked_stub(std::string_view line) {
+  static const std::string comments[] = {vqc_stub_comment({}), vqc_stub_orvo_comment({})};
+  const std::string_view name = scan(line, comments[0]);
+  return name.empty() ? scan(line, comments[1]) : name;
+}
 
 void vqc_init_stubs_file(Run& run, const Source* old, PreludeWriter prelude, PreludeWriter prelude_end) {
   run.kept_stubs = {};

@@ -20,6 +20,11 @@ std::string vqc_stub_comment(std::string_view name);
 std::string vqc_stub_vq_comment(std::string_view name);
 std::string vqc_stub_orvo_comment(std::string_view name);
 
+/// Whether a line ends a prelude.
+bool vqc_is_prelude_end(std::string_view line);
+/// The name in a line that marks a stub; empty for any other line.
+std::string_view vqc_marked_stub(std::string_view line);
+
 /// Whether an earlier stubs file has brought a stub of that name along.
 inline bool vqc_check_stub_space(const Run& run, Text name) { return run.kept_stubs.contains(name); }
 
