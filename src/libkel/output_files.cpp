@@ -17,8 +17,10 @@
 #include <cerrno>
 #include <csignal>
 #include <filesystem>
+#include <functional>
 #include <iterator>
 #include <optional>
+#include <string>
 #include <system_error>
 #include <utility>
 
@@ -37,7 +39,7 @@ using Status = struct stat;
   throw std::system_error(error, std::generic_category(), path);
 }
 
-/// What a path leads to, links followed. None where there is nothing.
+/// What a path leads to, links followed. None where there is nothing to see; errno says why.
 std::optional<Status> status_of(const fs::path& path) {
   Status status{};
   if (stat(path.c_str(), &status) != 0) return {};
@@ -68,6 +70,7 @@ struct Target {
 /// Whether what is at a path can be replaced by a file.
 bool replaceable(const fs::path& path, const std::string& name) {
   const auto status = status_of(path);
+  if (!status && errno != ENOENT) fail(name, errno);
   if (status && S_ISDIR(status->st_mode)) fail(name, EISDIR);
   return !status || S_ISREG(status->st_mode);
 }
@@ -85,6 +88,14 @@ Target target_of(const std::string& name) {
   const fs::path folder = fs::canonical(folder_of(path), error);
   if (error) fail(name, error.value());
   return {folder / path.filename(), !is_link(path) && replaceable(path, name)};
+}
+
+/// The temporary file beside a place. Every run gives it the same name, which is no longer than names may be.
+fs::path temporary_beside(const fs::path& place) {
+  constexpr std::size_t kLong = 200;
+  const std::string name = place.filename();
+  const std::string known = name.size() > kLong ? std::to_string(std::hash<std::string>{}(name)) : name;
+  return place.parent_path() / ("." + known + ".vqc-new");
 }
 
 /// Whether an open file is the one at a path.
@@ -140,9 +151,8 @@ class IgnorePipeSignal {
 /// An output on its way to its place.
 class Output {
  public:
-  explicit Output(const OutputFile& file) : file_(file), target_(target_of(file.path)), temporary_path_(target_.path) {
-    temporary_path_.replace_filename("." + target_.path.filename().string() + ".vqc-new");
-  }
+  explicit Output(const OutputFile& file)
+      : file_(file), target_(target_of(file.path)), temporary_path_(temporary_beside(target_.path)) {}
   Output(Output&&) = default;
   Output& operator=(Output&&) = delete;
   ~Output() {

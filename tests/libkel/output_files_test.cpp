@@ -104,6 +104,18 @@ TEST_F(OutputFilesTest, MayBeLargeAndOfAnyBytes) {
   EXPECT_TRUE(text == read_file(a));
 }
 
+TEST_F(OutputFilesTest, MayHaveTheLongestNamesThereAre) {
+  const std::string one(255, 'x');
+  const std::string other = std::string(254, 'x') + "y";
+  EXPECT_EQ((Written{true, true}), put({{folder / one, "1"}, {folder / other, "2"}}));
+  EXPECT_EQ((Written{false, true}), put({{folder / one, "1"}, {folder / other, "3"}}));
+  EXPECT_EQ("3", read_file(folder / other));
+  EXPECT_EQ((Names{one, other}), names());
+  EXPECT_EQ(folder / (one + "x") + ": File name too long",
+            complaint({{folder / (one + "x"), "4"}, {folder / one, "4"}}));
+  EXPECT_EQ("1", read_file(folder / one));
+}
+
 TEST_F(OutputFilesTest, ReplaceWhatIsThere) {
   write_file(a, "something longer");
   EXPECT_EQ(Written{true}, put({{a, "short"}}));
@@ -269,7 +281,9 @@ TEST_F(OutputFilesTest, AreLeftAloneWhenOneHasNoFolder) {
 TEST_F(OutputFilesTest, CannotBeFolders) {
   EXPECT_EQ(folder.path() + ": Is a directory", complaint({{a, "text"}, {folder.path(), "text"}}));
   EXPECT_EQ(Names{}, names());
-  EXPECT_NE("", complaint({{a + "/", "text"}}));
+  EXPECT_EQ(folder / "missing/: No such file or directory", complaint({{folder / "missing/", "text"}}));
+  write_file(a, "text");
+  EXPECT_EQ(a + "/: Not a directory", complaint({{a + "/", "text"}}));
 }
 
 /// Runs as a user to whom permissions apply.
