@@ -415,6 +415,44 @@ TEST_F(Generate, TellsWhenFindingsCannotBeShown) {
             shell("$vqc generate w.vqc >/dev/full"));
 }
 
+// The stubs file, which a person edits.
+
+TEST_F(Generate, KeepsWhatIsWrittenInStubs) {
+  EXPECT_EQ(0, generate({"w.vqc"}).status);
+  std::string stubs = text("w_stubs.c");
+  const std::string empty_body = "\t/* FIXME */\n";
+  stubs.replace(stubs.find(empty_body), empty_body.size(), "\tprepare() ;\n");
+  folder.with("w_stubs.c", stubs);
+  folder.with("w.vqc",
+              "VQconfig widget 'W' { realise='make' can_add_child='test' } family 'F' { widget='W' header='Dial.h' "
+              "cheader='Gauge.h' }");
+  EXPECT_EQ((Outcome{0, "", "3 files, 1 unchanged, 1 body kept, 1 new stub\n"}), generate({"w.vqc"}));
+  EXPECT_TRUE(has_text("w_stubs.c", "\tprepare() ;\n"));
+  EXPECT_TRUE(has_text("w_stubs.c", "** vqconfig generated stub: test\n"));
+}
+
+TEST_F(Generate, WarnsOfAStubThatHasChangedItsKind) {
+  EXPECT_EQ(0, generate({"w.vqc"}).status);
+  std::string stubs = text("w_stubs.c");
+  const std::string empty_body = "\t/* FIXME */\n";
+  stubs.replace(stubs.find(empty_body), empty_body.size(), "\tprepare() ;\n");
+  folder.with("w_stubs.c", stubs);
+  folder.with("w.vqc", "VQconfig widget 'W' { can_add_child='make' } family 'F' { widget='W' }");
+  const Outcome outcome = generate({"w.vqc"});
+  EXPECT_EQ(0, outcome.status);
+  EXPECT_TRUE(outcome.out.starts_with("w_stubs.c:")) << outcome.out;
+  EXPECT_NE(std::string::npos, outcome.out.find(": warning: ")) << outcome.out;
+  EXPECT_TRUE(has_text("w_stubs.c", "\tprepare() ;\n"));
+}
+
+TEST_F(Generate, WritesNothingWhenAStubCannotBePlaced) {
+  folder.with("w_stubs.c", "int f(void)\n{\n");
+  const Outcome outcome = generate({"w.vqc"});
+  EXPECT_EQ(1, outcome.status);
+  EXPECT_TRUE(outcome.out.starts_with("w_stubs.c:2: error: ")) << outcome.out;
+  EXPECT_EQ((Files{"w.vqc", "w_stubs.c"}), files());
+}
+
 // Without writing.
 
 TEST_F(Generate, VerifiesThatNothingWouldChange) {

@@ -51,6 +51,17 @@ void show(const CheckedDocument& checked) {
   write_summary(counts);
 }
 
+/// Shows what a person should know of a stubs file. False when nothing may be written.
+bool show_messages(const std::optional<std::string>& stubs_file, const KeptStubs& stubs) {
+  const auto out = FileSink::to_descriptor(STDOUT_FILENO);
+  for (const StubsMessage& message : stubs.messages) {
+    out->write(*stubs_file + ":" + std::to_string(message.line) + ": " + (message.blocks ? "error: " : "warning: "));
+    out->write(message.words + "\n");
+  }
+  finish(*out);
+  return std::ranges::none_of(stubs.messages, &StubsMessage::blocks);
+}
+
 /// Of each file, whether it was written or would be.
 using Changes = std::vector<bool>;
 
@@ -94,13 +105,15 @@ Changes carry_out(const GenerateCommand& command, const std::vector<OutputFile>&
 }
 
 /// Says what has become of the files; a depfile is none of them.
-void summarise(const GenerateCommand& command, const GeneratedFiles& made, Changes changes) {
+void summarise(const GenerateCommand& command, const KeptStubs& stubs, Changes changes) {
   if (command.request.depfile) changes.pop_back();
   std::string text = counted(changes.size(), "file");
-  const auto unchanged = static_cast<std::size_t>(std::ranges::count(changes, false));
+  const auto unchanged = std::ranges::count(changes, false);
   if (unchanged > 0) add_part(text, std::to_string(unchanged) + " unchanged");
-  if (made.kept_bodies > 0) add_part(text, counted(made.kept_bodies, "body", "bodies") + " kept");
-  if (made.new_stubs > 0) add_part(text, counted(made.new_stubs, "new stub"));
+  if (stubs.bodies_kept > 0) add_part(text, counted(stubs.bodies_kept, "body", "bodies") + " kept");
+  if (stubs.new_stubs > 0) add_part(text, counted(stubs.new_stubs, "new stub"));
+  if (stubs.retired > 0) add_part(text, counted(stubs.retired, "stub") + " retired");
+  if (stubs.revived > 0) add_part(text, counted(stubs.revived, "stub") + " revived");
   std::fprintf(stderr, "%s\n", text.c_str());
 }
 
@@ -125,8 +138,9 @@ ExitStatus generate(const GenerateCommand& command) {
   progress.show("generating ...");
   const GeneratedFiles made = generate_files(command.request, paths, has_errors ? broken : checked->document);
   progress.show("");
+  if (!show_messages(paths.stubs, made.stubs)) return STATUS_ERRORS;
   const Changes changes = carry_out(command, made.files, progress);
-  summarise(command, made, changes);
+  summarise(command, made.stubs, changes);
   const bool outdated = command.verify && std::ranges::find(changes, true) != changes.end();
   return has_errors || outdated ? STATUS_ERRORS : STATUS_GOOD;
 }

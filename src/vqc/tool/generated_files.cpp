@@ -6,7 +6,6 @@
 #include <cerrno>
 #include <filesystem>
 #include <functional>
-#include <memory>
 #include <stdexcept>
 #include <string_view>
 #include <system_error>
@@ -18,7 +17,6 @@
 #include "libkel/source.h"
 #include "vqc/cmd/generate/generate.h"
 #include "vqc/cmd/generate/includes.h"
-#include "vqc/cmd/generate/parse_stubs.h"
 
 namespace vqc {
 
@@ -80,32 +78,13 @@ std::string generated(const Document& document, const Families& families, FileKi
   return std::move(out).text();
 }
 
-/// A file that is there. Null when there is none, or no file of text but a device or a pipe.
-std::shared_ptr<const Source> earlier_file(const std::string& path) {
+/// What a file holds by now: nothing when there is none, or a device or a pipe.
+std::string earlier_text(const std::string& path) {
   std::error_code none;
-  if (!fs::is_regular_file(path, none)) return nullptr;
-  auto source = Source::read(path.c_str());
+  if (!fs::is_regular_file(path, none)) return "";
+  const auto source = Source::read(path.c_str());
   if (!source) throw std::system_error(errno, std::generic_category(), path);
-  return source;
-}
-
-/// How many stubs a new stubs file has.
-std::size_t stubs_in(std::string_view text) {
-  std::string mark = vqc_stub_comment("");
-  mark.resize(mark.find('%'));
-  std::size_t count = 0;
-  for (std::size_t at = text.find(mark); at != std::string_view::npos; at = text.find(mark, at + 1)) ++count;
-  return count;
-}
-
-/// Adds the stubs file. One that is there holds what its author has written, and stays.
-void add_stubs(GeneratedFiles& made, const std::string& path, std::string fresh) {
-  if (const auto earlier = earlier_file(path)) {
-    made.files.push_back({path, std::string(earlier->text())});
-  } else {
-    made.new_stubs = stubs_in(fresh);
-    made.files.push_back({path, std::move(fresh)});
-  }
+  return std::string(source->text());
 }
 
 std::string depfile_of(const GenerateRequest& request, const OutputPaths& paths, const Families& families) {
@@ -137,7 +116,10 @@ GeneratedFiles generate_files(const GenerateRequest& request, const OutputPaths&
   const auto text_of = [&](FileKind kind) { return generated(document, families, kind, request.switches); };
   GeneratedFiles made;
   made.files = {{paths.config, text_of(CONFIG_FILE)}, {paths.code, text_of(CODE_FILE)}};
-  if (paths.stubs) add_stubs(made, *paths.stubs, text_of(STUBS_FILE));
+  if (paths.stubs) {
+    made.stubs = keep_stubs(document, families, request.switches, earlier_text(*paths.stubs));
+    made.files.push_back({*paths.stubs, made.stubs.text.value_or("")});
+  }
   if (paths.depfile) made.files.push_back({*paths.depfile, depfile_of(request, paths, families)});
   return made;
 }

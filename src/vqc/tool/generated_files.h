@@ -1,12 +1,12 @@
 #ifndef VQC_TOOL_GENERATED_FILES_H
 #define VQC_TOOL_GENERATED_FILES_H
 
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "libkel/output_files.h"
+#include "vqc/cmd/generate/keep_stubs.h"
 #include "vqc/cmd/generate/switches.h"
 #include "vqc/cmd/model/document.h"
 
@@ -39,8 +39,7 @@ OutputPaths output_paths(const GenerateRequest& request);
 /// The files, which are not in their places yet.
 struct GeneratedFiles {
   std::vector<OutputFile> files;  // the depfile is the last one, if there is one
-  std::size_t kept_bodies = 0;
-  std::size_t new_stubs = 0;
+  KeptStubs stubs = {};           // nothing where no stubs file is made
 };
 
 /// Throws std::runtime_error when a family is wanted that the document does not have, or when the stubs file that is
