@@ -36,9 +36,18 @@ std::string document(std::string_view text) {
   return result;
 }
 
+/// A text with each sentence on a line of its own, as manual pages have it.
+std::string sentences(std::string_view text) {
+  std::string result;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    result += i > 0 && text[i] == ' ' && text[i - 1] == '.' ? '\n' : text[i];
+  }
+  return plain(result);
+}
+
 void write_kind(const FindingKind& kind) {
   std::printf(".It Sy %s Pq %s%s\n", kind.name, severity_name(kind.severity), kind.shown ? "" : ", only with --with");
-  std::printf("%s.\n.Pp\n%s\n", plain(kind.words).c_str(), plain(kind.explanation).c_str());
+  std::printf("%s.\n.Pp\n%s\n", plain(kind.words).c_str(), sentences(kind.explanation).c_str());
   std::printf(".Bd -literal -offset indent\n%s.Ed\n.Pp\nMended:\n.Bd -literal -offset indent\n%s.Ed\n",
               document(kind.example).c_str(), document(kind.cure).c_str());
 }

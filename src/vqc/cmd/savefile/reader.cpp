@@ -248,7 +248,7 @@ bool Reader::bare_record() {
 // popup := "popup" NAME "{" { field } "}"
 template <Kw word, auto pool, auto& fields>
 bool Reader::plain_record() {
-  return record<pool, fields>(word, [this](auto& each) { return field(fields, each); });
+  return record<pool, fields>(word, [this](auto& each) { return this->field(fields, each); });
 }
 
 // converter := "converter" NAME "{" { field | older } "}"
