@@ -150,11 +150,14 @@ class OfNoFamily {
     return missing;
   }
 
-  /// That a widget is in no family is another matter.
+  /// That a widget is in no family is another matter. What no family has is not looked for in each of many.
   bool is_available(Text name, const Families& families) const {
-    if (!families.empty()) {
-      return std::ranges::any_of(families, [&](const Family* each) { return (each->*references).find(name); });
-    }
+    const auto has_it = [&](const Family* family) { return (family->*references).find(name) != nullptr; };
+    if (!families.empty() && has_it(families.front())) return true;
+    return is_in_any_family(name) && (families.empty() || std::ranges::any_of(families, has_it));
+  }
+
+  bool is_in_any_family(Text name) const {
     const auto* record = (inspection_.document.*pool).find(name);
     return is_predefined(kind_, name) || (record && inspection_.in_families.contains(record));
   }
