@@ -441,6 +441,15 @@ TEST_F(KeepStubs, ProcedureThatIsDefinedTwiceBlocksWhenItHasToChange) {
   EXPECT_EQ(4U, block(old).find("is defined more than once") - 2) << block(old);
 }
 
+TEST_F(KeepStubs, ProcedureThatIsRetiredTwiceBlocksWhenItIsNamedAgain) {
+  const std::string stub = retired("a", "void a(Widget w) { }\n");
+  describe_popups({});
+  EXPECT_EQ(stub + stub, kept(stub + stub));
+  describe_popups({"a"});
+  EXPECT_EQ("5 'a' is named again, but has been retired more than once: remove all but one", block(stub + stub));
+  EXPECT_EQ(stub + stub + "void a(Widget w) { }\n", kept(stub + stub + "void a(Widget w) { }\n"));
+}
+
 TEST_F(KeepStubs, ProcedureWithoutMarkBlocksWhenItHasToChange) {
   describe_popups({}, "can_add_child='a'");
   EXPECT_EQ(

@@ -103,6 +103,7 @@ class Keeper {
       block(old_.fault->offset, std::string(old_.fault->words));
     } else {
       for (const RetiredStub& stub : old_.revived) revive(stub);
+      for (const RetiredStub& stub : old_.retired_again) check_retired(stub);
       for (auto& [name, procedure] : procedures_) keep(name, procedure);
       retire_unnamed();
       add_includes();
@@ -305,6 +306,13 @@ class Keeper {
                   TextEdits::Order::opening);
     const std::string end = end_of_line(old_.text().substr(0, lines.end));
     edits_.insert(lines.end, end.empty() ? in_lines(kLeaveOutEnd) : end + "#endif", TextEdits::Order::closing);
+  }
+
+  void check_retired(const RetiredStub& stub) {
+    const auto found = procedures_.find(stub.name);
+    if (found == procedures_.end() || !found->second.is_named || !found->second.functions.empty()) return;
+    block(old_.code.tokens[stub.tokens.first].begin,
+          quoted_name(stub.name) + " is named again, but has been retired more than once: remove all but one");
   }
 
   /// Takes away what retire() has put there.

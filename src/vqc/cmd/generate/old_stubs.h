@@ -45,6 +45,7 @@ struct OldStubs {
   c::Conditionals conditionals = {};
   c::Outline outline = {};
   std::vector<RetiredStub> revived = {};
+  std::vector<RetiredStub> retired_again = {};  // of names that another retired stub has
   std::optional<c::Fault> fault = {};  // for which it cannot be understood
 
   std::string_view text() const { return code.text; }
