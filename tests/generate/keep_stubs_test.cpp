@@ -321,6 +321,16 @@ TEST_F(KeepStubs, StubThatIsNoLongerNamedIsRetiredAlone) {
   EXPECT_EQ("", words(last));
 }
 
+TEST_F(KeepStubs, WhatBelongsToAHeadIsRetiredWithIt) {
+  describe_popups({});
+  for (const char* function : {"__attribute__((used))\nvoid a(Widget w) { }\n", "EXPORT(void)\na(Widget w) { }\n",
+                               "EXPORT\nvoid a(Widget w) NONNULL(1)\n{ }\n"}) {
+    EXPECT_EQ("int x;\n" + mark("a") + retired("a", function), kept("int x;\n" + mark("a") + function));
+  }
+  EXPECT_EQ(mark("a") + "MODULE(x)\n\n/* mine */\n" + retired("a", "void a(Widget w) { }\n"),
+            kept(mark("a") + "MODULE(x)\n\n/* mine */\nvoid a(Widget w) { }\n"));
+}
+
 TEST_F(KeepStubs, RetiredStubComesBackAsItWas) {
   describe_popups({"a", "b"});
   const std::string body = "{\n#ifdef X\n\tmine();\n#endif\n}\n";

@@ -214,7 +214,7 @@ class Keeper {
     };
     const auto head = with_conditionals(function.body - 1);
     const auto whole = with_conditionals(function.tokens.last);
-    if (!head || !whole || head->last >= function.body || head->first != whole->first) return {};
+    if (!function.is_apart || !head || !whole || head->last >= function.body || head->first != whole->first) return {};
     return c::line_begin(old_.code, head->first);
   }
 
@@ -299,7 +299,7 @@ class Keeper {
   /// The lines that a function has for itself.
   std::optional<Range> lines_of(const c::Function& function) const {
     const auto tokens = c::with_whole_conditionals(old_.code, old_.conditionals, function.tokens);
-    if (!tokens || !c::ends_line(old_.code, tokens->last)) return {};
+    if (!function.is_apart || !tokens || !c::ends_line(old_.code, tokens->last)) return {};
     const std::optional<std::size_t> begin = c::line_begin(old_.code, tokens->first);
     return begin ? std::optional(Range{*begin, c::line_end(old_.code, tokens->last)}) : std::nullopt;
   }

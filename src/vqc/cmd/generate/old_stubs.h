@@ -46,7 +46,7 @@ struct OldStubs {
   c::Outline outline = {};
   std::vector<RetiredStub> revived = {};
   std::vector<RetiredStub> retired_again = {};  // of names that another retired stub has
-  std::optional<c::Fault> fault = {};  // for which it cannot be understood
+  std::optional<c::Fault> fault = {};           // for which it cannot be understood
 
   std::string_view text() const { return code.text; }
   /// The types in the head of a function, and in a declaration.
