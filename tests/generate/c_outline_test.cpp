@@ -101,7 +101,9 @@ TEST(COutline, NameIsThatOfAProcedureWhereMacrosHaveParenthesesToo) {
 }
 
 TEST(COutline, MacroBeforeAFunctionIsNoPartOfIt) {
-  EXPECT_EQ(Texts{"Widget f(Widget w) { }"}, Found("MODULE(x)\nWidget f(Widget w) { }").functions());
+  EXPECT_EQ(Texts{"Widget f(Widget w) { }"}, Found("MODULE(x)\n\nWidget f(Widget w) { }").functions());
+  EXPECT_FALSE(Found("MODULE(x)\nWidget f(Widget w) { }").outline.functions.at(0).is_apart);
+  EXPECT_TRUE(Found("__attribute__((used))\nWidget f(Widget w) { }").outline.functions.at(0).is_apart);
   EXPECT_EQ(Texts{"Widget f(Widget w) { }"}, Found("MODULE\n\nWidget f(Widget w) { }").functions());
   EXPECT_EQ(Texts{"EXPORT(Widget)\nf(Widget w) { }"}, Found("EXPORT(Widget)\nf(Widget w) { }").functions());
   EXPECT_EQ(Texts{"EXPORT\nWidget f(Widget w) { }"}, Found("EXPORT\nWidget f(Widget w) { }").functions());

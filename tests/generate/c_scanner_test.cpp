@@ -38,6 +38,8 @@ TEST(CScanner, LineCommentGoesOnBehindABackslash) {
   EXPECT_EQ((Texts{"c // a\\ \r\n{\r", "w b"}), tokens_of("// a\\ \r\n{\r\nb"));
 }
 
+TEST(CScanner, BackslashAtTheEndIsNoToken) { EXPECT_EQ((Texts{"w a", "m }"}), tokens_of("a }\\ ")); }
+
 TEST(CScanner, DirectiveIsOneTokenToTheEndOfItsLastLine) {
   EXPECT_EQ((Texts{"d #define A { \\\n}", "w b"}), tokens_of("#define A { \\\n}  \nb"));
   EXPECT_EQ((Texts{"d #if 1 /* a\nb */ && 1", "w c"}), tokens_of("#if 1 /* a\nb */ && 1\r\nc"));

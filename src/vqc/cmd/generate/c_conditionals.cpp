@@ -72,8 +72,6 @@ class Finder {
   std::vector<std::size_t> open_;
 };
 
-bool is_code(const Token& token) { return token.kind != Kind::comment && token.kind != Kind::directive; }
-
 /// Whether there are only comments and directives of conditionals in a range.
 bool is_only_conditional(const Code& code, std::span<const Branch> branches, std::size_t first, std::size_t end) {
   for (std::size_t i = first; i < end; ++i) {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <unordered_map>
+#include <utility>
 
 #include "libkel/hash_set.h"
 
@@ -66,7 +67,7 @@ class Outliner {
       } else if (border != sought_.borders.end() && *border == i) {
         ++border;
         if (is_outside()) begin_declaration();
-      } else if (code_.tokens[i].kind != Kind::comment && code_.tokens[i].kind != Kind::directive) {
+      } else if (is_code(code_.tokens[i])) {
         ++code_count_;
         if (!is_dead_) read(i);
       }
@@ -158,11 +159,12 @@ class Outliner {
     go_past(i);
   }
 
-  /// Whether what stands before a word may be something else: a macro that needs no semicolon.
+  /// Whether what stands before a word is something else, as a macro that needs no semicolon.
   bool begins_anew(std::size_t i) const {
     if (state_.previous == kNone) return false;
     if (code_.is_mark(state_.previous, ';')) return true;
-    return code_.tokens[i].line_feeds > (code_.is_mark(state_.previous, ')') ? 0 : 1);
+    while (code_.tokens[i].line_feeds < 2 && i > state_.previous + 1 && !is_code(code_.tokens[i - 1])) --i;
+    return code_.tokens[i].line_feeds > 1;
   }
 
   bool is_parameter(std::string_view word) const {
@@ -202,9 +204,13 @@ class Outliner {
     if (is_outside()) go_past(i);
   }
 
+  bool is_no_name(std::size_t token) const {
+    return std::ranges::find(kNoNames, code_.of(token)) != std::end(kNoNames);
+  }
+
   bool may_be_name(std::size_t token) const {
     return token != kNone && !state_.has_value && code_.tokens[token].kind == Kind::word &&
-           is_identifier(code_.of(token)) && std::ranges::find(kNoNames, code_.of(token)) == std::end(kNoNames);
+           is_identifier(code_.of(token)) && !is_no_name(token);
   }
 
   /// The first word before parentheses is the name, unless a later one is that of a procedure.
@@ -254,11 +260,30 @@ class Outliner {
 
   /// Adds a function, or finds one more end of it, in another branch.
   void add_function(std::size_t last, std::size_t body) {
-    if (!found_.functions.empty() && found_.functions.back().body == body) {
-      found_.functions.back().tokens.last = last;
-    } else {
-      found_.functions.push_back({state_.name, body, {state_.first, last}});
+    std::vector<Function>& functions = found_.functions;
+    if (!functions.empty() && functions.back().body == body) {
+      functions.back().tokens.last = last;
+      return;
     }
+    Function found{state_.name, body, {state_.first, last}, true};
+    for (auto other = functions.rbegin(); other != functions.rend() && other->tokens.last >= state_.first; ++other) {
+      found.is_apart = false;
+      if (!std::exchange(other->is_apart, false)) break;  // those before it are known not to be apart
+    }
+    found.is_apart = found.is_apart && !may_have_macro_before();
+    functions.push_back(found);
+  }
+
+  /// Whether a line before the name ends with parentheses that are no attribute's: they may be all of a macro.
+  bool may_have_macro_before() const {
+    int depth = 0;
+    bool is_macro = false;
+    for (std::size_t i = state_.first; i + 1 < state_.name; ++i) {
+      if (code_.is_mark(i, '(') && depth++ == 0) is_macro = i == state_.first || !is_no_name(i - 1);
+      if (!code_.is_mark(i, ')') || --depth > 0) continue;
+      if (is_macro && code_.tokens[i + 1].line_feeds > 0) return true;
+    }
+    return false;
   }
 
   const Code& code_;

@@ -13,6 +13,7 @@ struct Function {
   std::size_t name;
   std::size_t body;   // its '{'
   TokenRange tokens;  // from the first of its head up to the '}'
+  bool is_apart;      // no other function has a part of it, and nothing before its head may be a macro of its own
 };
 
 /// A declaration of a name that is looked for, outside functions.

@@ -37,11 +37,12 @@ class Scanner {
  private:
   bool starts(std::string_view with) const { return text_.substr(at_).starts_with(with); }
 
-  /// The size of a backslash that continues the line and of the line's end, or 0.
+  /// The size of a backslash that continues the line, or would if there were another, and of the line's end; or 0.
   std::size_t continuation() const {
     if (text_[at_] != '\\') return 0;
     const std::size_t blanks = std::min(text_.find_first_not_of(" \t\v\f\r", at_ + 1), text_.size());
-    return blanks < text_.size() && text_[blanks] == '\n' ? blanks + 1 - at_ : 0;
+    if (blanks == text_.size()) return blanks - at_;
+    return text_[blanks] == '\n' ? blanks + 1 - at_ : 0;
   }
 
   /// Returns how many lines have ended.

@@ -25,6 +25,8 @@ struct Token {
   std::size_t line_feeds = 0;  // in the white space before it
 };
 
+inline bool is_code(const Token& token) { return token.kind != Kind::comment && token.kind != Kind::directive; }
+
 /// What keeps a text from being understood, and where.
 struct Fault {
   std::size_t offset;

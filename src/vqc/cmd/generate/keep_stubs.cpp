@@ -103,6 +103,7 @@ class Keeper {
       block(old_.fault->offset, std::string(old_.fault->words));
     } else {
       for (const RetiredStub& stub : old_.revived) revive(stub);
+      for (const RetiredStub& stub : old_.retired_again) check_retired(stub);
       for (auto& [name, procedure] : procedures_) keep(name, procedure);
       retire_unnamed();
       add_includes();
@@ -172,27 +173,23 @@ class Keeper {
     const std::string types = old_.types_of(function);
     if (is_wanted(procedure, types)) return false;
     if (are_of_a_kind(types)) return true;
-    warn(function, quoted_name(name) + " has types that no stub has, and keeps them; the document asks for " +
-                       types_of_kinds().at(procedure.kinds.front()));
+    warn(function,
+         quoted_name(name) + " has types that no stub has, and keeps them" + asked_for(*procedure.kinds.front()));
     return false;
   }
 
   void keep_one_of_several(std::string_view name, const Procedure& procedure, const c::Function& function) {
     if (!has_to_change(name, procedure, function)) return;
-    block(function, quoted_name(name) +
-                        " is defined more than once, and the document asks for other types: give each "
-                        "definition the types " +
-                        types_of_kinds().at(procedure.kinds.front()));
+    block(function, quoted_name(name) + " is defined more than once, and has to get other types" +
+                        asked_for(*procedure.kinds.front()));
   }
 
   void keep_function(std::string_view name, const Procedure& procedure, const c::Function& function) {
     if (!has_to_change(name, procedure, function)) return;
     const StubKind& kind = *procedure.kinds.front();
     if (!procedure.is_marked) {
-      block(function, quoted_name(name) +
-                          " has not the types that the document asks for, and no mark says that it was "
-                          "generated: give it the types " +
-                          types_of_kinds().at(&kind) + ", or put its mark above it again");
+      block(function, quoted_name(name) + " has to get other types, but has lost the mark of what was generated" +
+                          asked_for(kind));
     } else if (check_declarations(name, procedure)) {
       change_prototype(name, kind, function);
     }
@@ -205,8 +202,7 @@ class Keeper {
       if (agrees(old_.types_of(declaration), *procedure.kinds.front())) continue;
       agree = false;
       block(old_.code.tokens[declaration.name].begin,
-            quoted_name(name) + " is declared here, but the document asks for a function with the types " +
-                types_of_kinds().at(procedure.kinds.front()));
+            quoted_name(name) + " is declared here in another way" + asked_for(*procedure.kinds.front()));
     }
     return agree;
   }
@@ -218,29 +214,31 @@ class Keeper {
     };
     const auto head = with_conditionals(function.body - 1);
     const auto whole = with_conditionals(function.tokens.last);
-    if (!head || !whole || head->last >= function.body || head->first != whole->first) return {};
+    if (!function.is_apart || !head || !whole || head->last >= function.body || head->first != whole->first) return {};
     return c::line_begin(old_.code, head->first);
   }
 
   void change_prototype(std::string_view name, const StubKind& kind, const c::Function& function) {
-    const std::optional<std::size_t> begin = head_begin(function);
-    if (!begin) {
+    if (const std::optional<std::size_t> begin = head_begin(function)) {
+      replace_head(*begin, name, kind, function);
+      replace_body(name, kind, function);
+    } else {
       warn(function, quoted_name(name) +
-                         " keeps its types, since its head shares lines or conditionals with other "
-                         "code; the document asks for " +
-                         types_of_kinds().at(&kind));
-      return;
+                         " keeps its types, since its head shares lines or conditionals with other code" +
+                         asked_for(kind));
     }
+  }
+
+  /// Replaces a head up to the brace, or to the line of the brace. One that somebody has edited is left out instead,
+  /// with all of its lines.
+  void replace_head(std::size_t begin, std::string_view name, const StubKind& kind, const c::Function& function) {
     const std::size_t brace = old_.code.tokens[function.body].begin;
-    std::size_t end = brace;  // or where the line of the brace begins
-    while (end > *begin && (old_.text()[end - 1] == ' ' || old_.text()[end - 1] == '\t')) --end;
-    const bool shares_line = end > *begin && old_.text()[end - 1] != '\n';
-    if (shares_line) end = brace;
-    const std::size_t kept_end = shares_line ? c::line_end(old_.code, function.body) : end;
-    const std::string_view old_head = old_.text().substr(*begin, kept_end - *begin);
-    const bool is_edited = !is_untouched_head(old_head, name);
-    edits_.replace({*begin, end}, (is_edited ? left_out(old_head) : "") + in_lines(head_of(kind, name)));
-    replace_body(name, kind, function);
+    const std::size_t behind_text = old_.text().find_last_not_of(" \t", brace - 1) + 1;
+    const bool shares_line = old_.text()[behind_text - 1] != '\n';
+    const std::size_t end = shares_line ? brace : behind_text;
+    const std::size_t lines_end = shares_line ? c::line_end(old_.code, function.body) : end;
+    const std::string_view head = old_.text().substr(begin, lines_end - begin);
+    edits_.replace({begin, end}, (is_untouched_head(head, name) ? "" : left_out(head)) + in_lines(head_of(kind, name)));
   }
 
   std::string left_out(std::string_view lines) const {
@@ -259,42 +257,49 @@ class Keeper {
                        (is_untouched ? "" : "; its body is the old one, and may have to follow"));
   }
 
+  static std::string asked_for(const StubKind& kind) { return "; the document asks for " + types_of_kinds().at(&kind); }
+
   static std::string quoted_name(std::string_view name) { return "'" + std::string(name) + "'"; }
 
   // Procedures that no family names any more.
 
   void retire_unnamed() {
+    const FunctionsByName leaving = leaving_functions();
+    const std::set<std::string_view> used = used_functions(old_, leaving, edits_.replaced());
+    for (const auto& [name, function] : leaving) {
+      if (used.contains(name)) {
+        warn(function, no_longer_named(name) + "stays since other code of the file uses it");
+      } else {
+        retire(name, *lines_of(function));
+      }
+    }
+  }
+
+  /// The functions that can be retired, each with lines for itself.
+  FunctionsByName leaving_functions() {
     FunctionsByName leaving;
-    std::map<std::string_view, Range> lines;
     for (const auto& [name, procedure] : procedures_) {
       if (procedure.is_named || !procedure.is_marked || procedure.functions.empty()) continue;
       const c::Function& function = procedure.functions.front();
       if (procedure.functions.size() > 1) {
-        block(function, "the document no longer names " + quoted_name(name) +
-                            ", which is defined more than once: remove it, or its mark");
-      } else if (const std::optional<Range> range = lines_of(function)) {
+        block(function, no_longer_named(name) + "is defined more than once: remove it, or its mark");
+      } else if (!lines_of(function)) {
+        warn(function, no_longer_named(name) + "stays since it shares lines or conditionals with other code");
+      } else {
         leaving.emplace(name, function);
-        lines.emplace(name, *range);
-      } else {
-        warn(function, "the document no longer names " + quoted_name(name) +
-                           ", which stays since it shares lines or conditionals with other code");
       }
     }
-    const std::set<std::string_view> used = used_functions(old_, leaving, edits_.replaced());
-    for (const auto& [name, function] : leaving) {
-      if (used.contains(name)) {
-        warn(function, "the document no longer names " + quoted_name(name) +
-                           ", which stays since other code of the file uses it");
-      } else {
-        retire(name, lines.at(name));
-      }
-    }
+    return leaving;
+  }
+
+  static std::string no_longer_named(std::string_view name) {
+    return "the document no longer names " + quoted_name(name) + ", which ";
   }
 
   /// The lines that a function has for itself.
   std::optional<Range> lines_of(const c::Function& function) const {
     const auto tokens = c::with_whole_conditionals(old_.code, old_.conditionals, function.tokens);
-    if (!tokens || !c::ends_line(old_.code, tokens->last)) return {};
+    if (!function.is_apart || !tokens || !c::ends_line(old_.code, tokens->last)) return {};
     const std::optional<std::size_t> begin = c::line_begin(old_.code, tokens->first);
     return begin ? std::optional(Range{*begin, c::line_end(old_.code, tokens->last)}) : std::nullopt;
   }
@@ -305,6 +310,13 @@ class Keeper {
                   TextEdits::Order::opening);
     const std::string end = end_of_line(old_.text().substr(0, lines.end));
     edits_.insert(lines.end, end.empty() ? in_lines(kLeaveOutEnd) : end + "#endif", TextEdits::Order::closing);
+  }
+
+  void check_retired(const RetiredStub& stub) {
+    const auto found = procedures_.find(stub.name);
+    if (found == procedures_.end() || !found->second.is_named || !found->second.functions.empty()) return;
+    block(old_.code.tokens[stub.tokens.first].begin,
+          quoted_name(stub.name) + " is named again, but has been retired more than once: remove all but one");
   }
 
   /// Takes away what retire() has put there.

@@ -15,6 +15,7 @@ namespace vqc {
 
 namespace {
 
+constexpr std::size_t kMostDefinitions = 20;  // of a procedure that are looked at: they may share a long head
 constexpr std::string_view kReasonEnd = " */";
 
 std::string reason_start() { return std::string("/* ").append(kProgramName).append(": the document no longer names "); }
@@ -112,17 +113,23 @@ class Reader {
   /// Brings retired stubs back to life whose procedures are named again, and those that they use.
   void revive() {
     std::map<std::string_view, const RetiredStub*> asleep;
-    for (const RetiredStub& stub : retired_) asleep.emplace(stub.name, &stub);
+    for (const RetiredStub& stub : retired_) {
+      if (!asleep.emplace(stub.name, &stub).second) old_.retired_again.push_back(stub);
+    }
+    for (const RetiredStub& stub : old_.retired_again) asleep.erase(stub.name);
     for (const c::Function& function : old_.outline.functions) asleep.erase(old_.code.of(function.name));
+    std::vector<const RetiredStub*> waking;
     const auto wake = [&](std::string_view name) {
-      if (const auto stub = asleep.extract(name)) old_.revived.push_back(*stub.mapped());
+      if (const auto stub = asleep.extract(name)) waking.push_back(stub.mapped());
     };
     for (const auto& [name, procedure] : procedures_) {
       if (procedure.is_named) wake(name);
     }
-    for (std::size_t i = 0; i < old_.revived.size(); ++i) {
-      const c::TokenRange user = old_.revived[i].tokens;
-      for (std::size_t token = user.first; token <= user.last; ++token) wake(old_.code.of(token));
+    while (!waking.empty()) {
+      const RetiredStub& stub = *waking.back();
+      waking.pop_back();
+      old_.revived.push_back(stub);
+      for (std::size_t token = stub.tokens.first; token <= stub.tokens.last; ++token) wake(old_.code.of(token));
     }
     std::set<std::size_t> awake;
     for (const RetiredStub& stub : old_.revived) awake.insert(stub.conditional);
@@ -133,7 +140,8 @@ class Reader {
   void note_functions() {
     for (const c::Function& function : old_.outline.functions) {
       const auto found = procedures_.find(old_.code.of(function.name));
-      if (found != procedures_.end()) found->second.functions.push_back(function);
+      if (found == procedures_.end() || found->second.functions.size() == kMostDefinitions) continue;
+      found->second.functions.push_back(function);
     }
     for (const c::Declaration& declaration : old_.outline.declarations) {
       procedures_.find(old_.code.of(declaration.name))->second.declarations.push_back(declaration);

@@ -45,7 +45,8 @@ struct OldStubs {
   c::Conditionals conditionals = {};
   c::Outline outline = {};
   std::vector<RetiredStub> revived = {};
-  std::optional<c::Fault> fault = {};  // for which it cannot be understood
+  std::vector<RetiredStub> retired_again = {};  // of names that another retired stub has
+  std::optional<c::Fault> fault = {};           // for which it cannot be understood
 
   std::string_view text() const { return code.text; }
   /// The types in the head of a function, and in a declaration.
