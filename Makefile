@@ -46,7 +46,7 @@ check:
 bench:
 	@scripts/install-packages build run bench
 	@scripts/configure release -DBUILD_TESTING=OFF
-	@cmake --build $(RELEASE) --target vqconfig bench_tools
+	@cmake --build $(RELEASE) --target vqconfig vqc bench_tools
 	python3 bench/bench.py --vqconfig $(RELEASE)/vqconfig --tools $(RELEASE)/bench
 	xvfb-run -a python3 bench/bench_editor.py --tools $(RELEASE)
 

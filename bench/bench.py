@@ -41,6 +41,8 @@ MOST_MEMORY = 2.5  # bytes for each byte of input
 MOST_SMALL = 1.0  # times the quickest peer
 MOST_SMALL_BEFORE = 0.5  # times an earlier build
 MOST_READING_WHOLE = 1.5  # times plain reading
+MOST_CHECKING = 1.5  # times reading and generating
+MOST_CHECKING_MEMORY = 4.0  # bytes for each byte of input
 READING_ROUNDS = 15
 
 START_ROUNDS = 101
@@ -117,6 +119,7 @@ class Bench:
     def __init__(self, options, folder):
         self.tools = options.tools.resolve()
         self.vqconfig = str(options.vqconfig.resolve())
+        self.vqc = str(options.vqconfig.resolve().with_name("vqc"))
         self.folder = Path(folder)
         self.environment = {name: value for name, value in os.environ.items() if name != "DISPLAY"}
         self.empty = self.job("empty", Path(os.devnull), [str(options.empty.resolve())], START_ROUNDS)
@@ -330,6 +333,20 @@ def report_reading(bench, report, sizes):
         bench.discard([document])
 
 
+def report_checking(bench, report, sizes):
+    report.heading("Checking, beside reading and generating")
+    for size in sizes:
+        document = bench.make("make_document", f"{size}.vqc", plain(size))
+        generating = bench.tool_job("vqconfig", document, READING_ROUNDS)
+        checking = bench.job("vqc check", document, [bench.vqc, "check", "{input}"], READING_ROUNDS)
+        bench.take_turns([generating, checking])
+        report.wrong += bool(generating.status or checking.status)
+        report.figure(f"{size}: CPU time, times that of reading and generating", checking.seconds / generating.seconds,
+                      "at most", MOST_CHECKING)
+        report.figure(f"{size}: memory for each byte", bench.memory(checking), "at most", MOST_CHECKING_MEMORY)
+        bench.discard([document])
+
+
 def report_growth(bench, report, by_size):
     report.heading("Growth and memory of the plain documents, in every order of definitions")
     sizes = list(by_size)
@@ -398,6 +415,7 @@ def main():
         report_small(bench, report)
         by_size = report_sizes(bench, report, ("medium", "large") if options.quick else ("medium", "large", "huge"))
         report_reading(bench, report, ("medium", "large"))
+        report_checking(bench, report, ("medium", "large"))
         report_growth(bench, report, by_size)
         if "large" in by_size:
             report_shapes(bench, report, COUNTS[:2] if options.quick else COUNTS, by_size["large"])

@@ -38,9 +38,11 @@ std::string of_x(const std::string& list) {
   return found;
 }
 
-TEST_F(Libraries, OfXAreNotNeededByVqconfig) {
-  EXPECT_EQ("", of_x(loaded_with(VQCONFIG_PROGRAM)));
-  EXPECT_EQ("", of_x(named_by(VQCONFIG_PROGRAM)));
+TEST_F(Libraries, OfXAreNotNeededByVqconfigAndVqc) {
+  for (const char* tested : {VQCONFIG_PROGRAM, VQC_PROGRAM}) {
+    EXPECT_EQ("", of_x(loaded_with(tested))) << tested;
+    EXPECT_EQ("", of_x(named_by(tested))) << tested;
+  }
 }
 
 TEST_F(Libraries, OfXAreNotLinkedWithTheLayersBelowTheEditor) {

@@ -51,7 +51,8 @@ ExitStatus explain_named(const std::string& name) {
 }
 
 ExitStatus help(const CLI::App& vqc, const std::string& name) try {
-  std::fputs((name.empty() ? vqc : *vqc.get_subcommand(name)).help().c_str(), stdout);
+  const std::string text = name.empty() ? vqc.help() : vqc.get_subcommand(name)->help(vqc.get_name());
+  std::fputs(text.c_str(), stdout);
   return STATUS_GOOD;
 } catch (const CLI::OptionNotFound&) {
   std::fprintf(stderr, "vqc: there is no command '%s'\n", name.c_str());

@@ -30,7 +30,8 @@ struct Cell {
 
 Cell cell_of(const Decoded& decoded, std::string_view bytes) {
   if (decoded.character == '\t') return {" ", 1};
-  if (!decoded.valid() || decoded.character < ' ' || decoded.character == 0x7F) return {"?", 1};
+  const bool control = decoded.character < ' ' || (decoded.character >= 0x7F && decoded.character < 0xA0);
+  if (!decoded.valid() || control) return {"?", 1};
   const int width = wcwidth(static_cast<wchar_t>(decoded.character));
   return {std::string(bytes.substr(0, decoded.size)), width < 0 ? 1 : static_cast<std::size_t>(width)};
 }

@@ -1,7 +1,9 @@
 // vqc: tells the whole truth about a document, and generates from it in builds. It knows nothing of X.
 
 #include <clocale>
+#include <cstdio>
 #include <exception>
+#include <string>
 
 #include <CLI/CLI.hpp>
 
@@ -16,10 +18,15 @@ int end_parsing(const CLI::App& program, const CLI::ParseError& error) {
   return program.exit(error) == 0 ? STATUS_GOOD : STATUS_FAILED;
 }
 
+std::string usage_error(const CLI::App* /*program*/, const CLI::Error& error) {
+  return std::string("vqc: ") + error.what() + "\nTry 'vqc help'.\n";
+}
+
 int run(int argc, char** argv) {
   CLI::App program("Checks descriptions of widget sets, and generates C from them.", "vqc");
   program.set_version_flag("--version", "vqc " VQC_VERSION);
   program.require_subcommand(1);
+  program.failure_message(usage_error);
   ExitStatus status = STATUS_GOOD;
   add_check(program, status);
   add_generate(program, status);
