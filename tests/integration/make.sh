@@ -22,12 +22,13 @@ clean: vqconfig-clean
 	rm -f dial *.o */*.o
 END
 live
+file_is_lost
 
 # Options are heeded at once. Without stubs, none are made.
 rm "$source/dial_stubs.c"
-sed -i "s/^include/VQCFLAGS = --no-stubs\n&/; s/dial_stubs.o//" "$source/Makefile"
-sed -i "/create_dial/d; /refuse_child/d" "$source/dial.vqc"
+edit "s/^include/VQCFLAGS = --no-stubs\n&/; s/dial_stubs.o//" Makefile
+edit "/create_dial/d; /refuse_child/d" dial.vqc
 expect 'No stubs are wanted' '1: dial dial_code.c dial_code.o'
-sed -i "s/^VQCFLAGS = .*/& --comments/" "$source/Makefile"
+edit "s/^VQCFLAGS = .*/& --comments/" Makefile
 expect 'Options change' '1: dial dial_code.c dial_code.o dial_config.c dial_config.o'
 [ ! -e "$source/dial_stubs.c" ] || wrong "There are stubs, which were not wanted."
