@@ -13,7 +13,6 @@ cmake --install "$built_here" --component batch --prefix "$folder/usr" > "$folde
 cat > "$source/CMakeLists.txt" <<'END'
 cmake_minimum_required(VERSION 3.25)
 project(dial C)
-set(CMAKE_C_STANDARD 17)
 find_package(VQconfig 0.2 REQUIRED)
 file(GLOB sources widgets/*.c runtime/*.c)
 add_executable(dial ${sources})
