@@ -176,9 +176,28 @@ TEST_F(Installed, ComponentBatchIsWhatAMachineNeedsThatOnlyGenerates) {
     if (entry.is_regular_file()) found.push_back(fs::relative(entry.path(), place / "usr"));
   }
   std::sort(found.begin(), found.end());
-  EXPECT_EQ((Words{"bin/vqc", "bin/vqconfig", "share/bash-completion/completions/vqc",
-                   "share/fish/vendor_completions.d/vqc.fish", "share/man/man1/vqc.1", "share/man/man1/vqconfig.1",
-                   "share/man/man5/vqc.5", "share/man/man7/vqc-findings.7", "share/zsh/site-functions/_vqc"}),
+  EXPECT_EQ((Words{"bin/vqc",
+                   "bin/vqconfig",
+                   "include/vqconfig.mk",
+                   "include/vqconfig/xwidget.h",
+                   "share/bash-completion/completions/vqc",
+                   "share/cmake/VQconfig/VQconfigConfig.cmake",
+                   "share/cmake/VQconfig/VQconfigConfigVersion.cmake",
+                   "share/fish/vendor_completions.d/vqc.fish",
+                   "share/man/man1/vqc.1",
+                   "share/man/man1/vqconfig.1",
+                   "share/man/man5/vqc.5",
+                   "share/man/man7/vqc-findings.7",
+                   "share/pkgconfig/vqconfig.pc",
+                   "share/vqconfig/runtime/dialogs.c",
+                   "share/vqconfig/runtime/host.c",
+                   "share/vqconfig/runtime/host.h",
+                   "share/vqconfig/runtime/lookup.c",
+                   "share/vqconfig/runtime/report.c",
+                   "share/vqconfig/runtime/tables.c",
+                   "share/vqconfig/runtime/values.c",
+                   "share/vqconfig/runtime/widgets.c",
+                   "share/zsh/site-functions/_vqc"}),
             found);
   EXPECT_EQ(silence, run({"-cCs", folder.with("w.vqc", "VQconfig")}));
   EXPECT_EQ((Outcome{255, "",
