@@ -11,7 +11,7 @@ namespace {
 
 /// The range of a view of `text`; none when it views something else.
 std::optional<Range> range_in(std::string_view text, std::string_view view) {
-  const std::less_equal<const char*> not_after;
+  const std::less_equal<> not_after;
   const bool inside =
       not_after(text.data(), view.data()) && not_after(view.data() + view.size(), text.data() + text.size());
   if (!inside) return std::nullopt;
