@@ -4,8 +4,8 @@
 #   dial: dial.o dial_config.o dial_code.o dial_stubs.o
 #   clean: vqconfig-clean
 #
-# X_config.c, X_code.c and X_stubs.c come from each X.vqc: all or none, and none while the document has an error. What was
-# written by hand in X_stubs.c stays, also in vqconfig-clean. These can be set before, or on the command line:
+# X_config.c, X_code.c and X_stubs.c come from each X.vqc: all or none, and none while the document has an error. What
+# was written by hand in X_stubs.c stays, also in vqconfig-clean. These can be set before, or on the command line:
 #
 #   VQC                 the program
 #   VQCFLAGS            options for vqc generate, such as --families, -I or --no-stubs; none that names a file or folder
@@ -28,9 +28,10 @@ vqconfig-files = $(vqconfig-generated) $(if $(filter --no-stubs,$(VQCFLAGS)),,$(
 vqconfig-lacks = $(filter-out $(wildcard $(vqconfig-files)),$(vqconfig-files))
 vqconfig-differs = $(subst <$(vqconfig-circumstances)>,,<$(file <$(1).vqc-stamp)>)
 vqconfig-outdated = $(or $(vqconfig-lacks),$(vqconfig-differs))
+vqconfig-removable = $(vqconfig-generated) $(1).vqc-stamp
 
-# Files that would not change keep their time, and so are older than a document that was touched. The stamp tells when they
-# were last found right; the files have an empty recipe, after which make looks at their times again.
+# Files that would not change keep their time, and so are older than a document that was touched. The stamp tells when
+# they were last found right; the files have an empty recipe, after which make looks at their times again.
 define vqconfig-rules
 $(vqconfig-files): $(1).vqc-stamp ;
 
@@ -39,11 +40,12 @@ $(1).vqc-stamp: $(1).vqc $(if $(vqconfig-outdated),vqconfig-always)
 	@printf '%s\n' $$(call vqconfig-quoted,$$(vqconfig-circumstances)) > $$@
 endef
 
-$(foreach document,$(VQCONFIG_DOCUMENTS),$(eval $(call vqconfig-rules,$(document:.vqc=))))
+vqconfig-names := $(VQCONFIG_DOCUMENTS:.vqc=)
+$(foreach name,$(vqconfig-names),$(eval $(call vqconfig-rules,$(name))))
 
 # Removes what was generated. The stubs stay: they are written by hand.
 vqconfig-clean:
-	rm -f $(foreach document,$(VQCONFIG_DOCUMENTS),$(call vqconfig-generated,$(document:.vqc=)) $(document:.vqc=.vqc-stamp))
+	rm -f $(foreach name,$(vqconfig-names),$(call vqconfig-removable,$(name)))
 
 vqconfig-always:
 

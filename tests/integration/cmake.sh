@@ -20,8 +20,10 @@ target_include_directories(dial PRIVATE widgets runtime)
 target_link_libraries(dial Xaw Xt X11 m)
 vqconfig_generate(TARGET dial DOCUMENT dial.vqc STUBS dial_stubs.c FAMILIES Dials)
 END
-cmake -G "$generator" -S "$source" -B "$generated" "-DCMAKE_PREFIX_PATH=$folder/usr" "-DVQCONFIG_VQC=$traced" > "$folder/log"
+cmake -G "$generator" -S "$source" -B "$generated" "-DCMAKE_PREFIX_PATH=$folder/usr" "-DVQCONFIG_VQC=$traced" \
+  > "$folder/log" 2>&1 || wrong "The project cannot be configured."
 live
+stubs_are_lost
 [ "$generator" != Ninja ] || file_is_lost  # make does not know which files its rules leave beside the stamp
 
 # Without stubs, none are made.

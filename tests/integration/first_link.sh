@@ -1,6 +1,6 @@
 #!/bin/sh
-# Types what the guide says about the run-time to begin with, in a project beside an installation: a shell session, and a
-# CMakeLists.txt.
+# Types what the guide says about the run-time to begin with, in a project beside an installation: a shell session, and
+# a CMakeLists.txt.
 # Usage: first_link.sh CHECKOUT FOLDER BUILD_FOLDER
 set -eu
 checkout=$1 folder=$2 built_here=$3
@@ -22,8 +22,8 @@ grep '^All checks passed' "$folder/log"
 ! grep 'warning:' "$folder/log" || exit 1
 
 rm dial dial_*.c
-{ cmake -B ../build "-DCMAKE_PREFIX_PATH=$folder/usr" && cmake --build ../build && ../build/dial; } > "$folder/log" 2>&1 ||
-  { cat "$folder/log"; exit 1; }
+with_cmake() { cmake -B ../build "-DCMAKE_PREFIX_PATH=$folder/usr" && cmake --build ../build && ../build/dial; }
+with_cmake > "$folder/log" 2>&1 || { cat "$folder/log"; exit 1; }
 grep '^All checks passed' "$folder/log"
 
 # The include file for make is where the package says it is.

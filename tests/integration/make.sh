@@ -22,6 +22,7 @@ clean: vqconfig-clean
 	rm -f dial *.o */*.o
 END
 live
+stubs_are_lost
 file_is_lost
 
 # Options are heeded at once. Without stubs, none are made.
