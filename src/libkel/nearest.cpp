@@ -39,6 +39,8 @@ std::string_view nearest(std::string_view word, std::span<const std::string_view
   if (word.size() > kLongest) return best;
   std::size_t least = std::min<std::size_t>(3, word.size() / 3) + 1;
   for (std::string_view candidate : candidates) {
+    const auto [shorter, longer] = std::minmax({word.size(), candidate.size()});
+    if (longer - shorter >= least) continue;
     const std::size_t letters = distance(word, candidate);
     if (letters >= least) continue;
     least = letters;

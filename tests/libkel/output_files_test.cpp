@@ -432,9 +432,9 @@ TEST_F(OutputFilesTest, OfTwoRunsAtOnceAreThoseOfOne) {
   }
 }
 
-/// Runs something in a process of its own, which is killed when it is about to do its n-th call of the system. False
-/// when it had come to its end.
-bool killed_at_call(int n, const std::function<void()>& what) {
+/// Runs something in a process of its own, which is killed when it stops for the n-th time: before or after each call
+/// of the system. False when it had come to its end.
+bool killed_at_stop(int n, const std::function<void()>& what) {
   const pid_t process = in_process([&] {
     if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) throw std::runtime_error("cannot be traced");
     raise(SIGSTOP);
@@ -443,7 +443,7 @@ bool killed_at_call(int n, const std::function<void()>& what) {
   int status = 0;
   waitpid(process, &status, 0);
   EXPECT_TRUE(WIFSTOPPED(status)) << "the process cannot be traced";
-  for (int stops = 0; WIFSTOPPED(status) && stops < 2 * n; ++stops) {  // each call stops twice
+  for (int stops = 0; WIFSTOPPED(status) && stops < n; ++stops) {
     ptrace(PTRACE_SYSCALL, process, nullptr, nullptr);
     waitpid(process, &status, 0);
   }
@@ -460,16 +460,16 @@ TEST_F(OutputFilesTest, AreWholeWheneverARunIsKilledAndTheNextCompletesThem) {
     write_file(a, "old a");
     fs::remove(b);
     write_file(c, "same");
-    const bool killed = killed_at_call(n, [&] { put(files); });
+    const bool killed = killed_at_stop(n, [&] { put(files); });
     const std::string text_a = read_file(a);
     EXPECT_TRUE(text_a == "old a" || text_a == "new a") << text_a;
     EXPECT_TRUE(!fs::exists(b) || read_file(b) == "new b") << read_file(b);
     EXPECT_EQ("same", read_file(c));
-    if (text_a == "new a" && !fs::exists(b)) ++half_done;
+    if ((text_a == "new a") != fs::exists(b)) ++half_done;
     put(files);
     EXPECT_EQ("new a", read_file(a));
     EXPECT_EQ("new b", read_file(b));
-    ASSERT_EQ((Names{"a.c", "b.c", "c.c"}), names()) << "killed at call " << n;
+    ASSERT_EQ((Names{"a.c", "b.c", "c.c"}), names()) << "killed at stop " << n;
     if (!killed) break;
     ASSERT_GT(10000, n) << "does it ever end?";
   }
