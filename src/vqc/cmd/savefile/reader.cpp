@@ -311,24 +311,21 @@ bool Reader::family() {
   return family && block(Kw::family, [&] { return family_field(*family); });
 }
 
+const Reader::Use Reader::kUses[9] = {
+    {Kw::widget, &Reader::family_use<&Family::widgets, &Document::widgets>},
+    {Kw::enumeration, &Reader::family_use<&Family::enumerations, &Document::enumerations>},
+    {Kw::header, &Reader::family_use<&Family::code_headers, &Document::code_headers>},
+    {Kw::cheader, &Reader::family_use<&Family::config_headers, &Document::config_headers>},
+    {Kw::family_header, &Reader::family_use<&Family::family_headers, &Document::family_headers>},
+    {Kw::alias, &Reader::family_use<&Family::aliases, &Document::aliases>},
+    {Kw::converter, &Reader::family_converter},
+    {Kw::popup, &Reader::family_use<&Family::popups, &Document::popups>},
+    {Kw::page, &Reader::family_use<&Family::pages, &Document::pages>},
+};
+
 // family_field := ("family_init" | use) "=" NAME | flag "=" BOOL
 // use          := "widget" | "enumeration" | "header" | "cheader" | "family_header" | "alias" | "popup" | "page"
 bool Reader::family_field(Family& family) {
-  struct Use {
-    Kw word;
-    bool (Reader::*read)(Family& family);
-  };
-  static constexpr Use kUses[] = {
-      {Kw::widget, &Reader::family_use<&Family::widgets, &Document::widgets>},
-      {Kw::enumeration, &Reader::family_use<&Family::enumerations, &Document::enumerations>},
-      {Kw::header, &Reader::family_use<&Family::code_headers, &Document::code_headers>},
-      {Kw::cheader, &Reader::family_use<&Family::config_headers, &Document::config_headers>},
-      {Kw::family_header, &Reader::family_use<&Family::family_headers, &Document::family_headers>},
-      {Kw::alias, &Reader::family_use<&Family::aliases, &Document::aliases>},
-      {Kw::converter, &Reader::family_converter},
-      {Kw::popup, &Reader::family_use<&Family::popups, &Document::popups>},
-      {Kw::page, &Reader::family_use<&Family::pages, &Document::pages>},
-  };
   for (const Use& use : kUses) {
     if (lexer_.is(use.word)) return (this->*use.read)(family);
   }

@@ -34,6 +34,12 @@ class Reader {
     bool (Reader::*read)();
   };
   static const Item kItems[10];
+  /// What a family can use.
+  struct Use {
+    Kw word;
+    bool (Reader::*read)(Family& family);
+  };
+  static const Use kUses[9];
   /// A block in braces: what it belongs to, and where its "{" stands.
   struct Block {
     Kw of{};

@@ -33,7 +33,7 @@ void add_words(std::vector<std::string_view>& words, const Field<Record> (&field
   for (const Field<Record>& each : fields) words.push_back(keyword_text(each.word));
 }
 
-/// The words that can stand in a block.
+/// The words that can stand in a block, but for what a family uses.
 std::vector<std::string_view> words_in(Kw block) {
   std::vector<std::string_view> words;
   if (block == Kw::widget) {
@@ -51,7 +51,6 @@ std::vector<std::string_view> words_in(Kw block) {
   } else if (block == Kw::popup) {
     add_words(words, popup_fields);
   } else if (block == Kw::family) {
-    words = {"widget", "enumeration", "header", "cheader", "family_header", "alias", "converter", "popup", "page"};
     add_words(words, family_init_fields);
   }
   return words;
@@ -59,10 +58,10 @@ std::vector<std::string_view> words_in(Kw block) {
 
 /// The column of a word that begins its line; none for another.
 std::optional<std::size_t> indentation(std::string_view text, std::size_t word) {
-  const std::size_t line = text.substr(0, word).rfind('\n') + 1;  // 0 in the first
-  const std::string_view before = text.substr(line, word - line);
-  if (before.find_first_not_of(" \t") != std::string_view::npos) return std::nullopt;
-  return before.size();
+  std::size_t line = word;
+  while (line > 0 && (text[line - 1] == ' ' || text[line - 1] == '\t')) --line;
+  if (line > 0 && text[line - 1] != '\n') return std::nullopt;
+  return word - line;
 }
 
 }  // namespace
@@ -115,8 +114,12 @@ std::string Reader::shown_token() const {
 
 /// What the current word was perhaps meant to be.
 std::string_view Reader::suggested_word() const {
-  if (lexer_.is(SaveFileToken::identifier)) return nearest(lexer_.text(), words_in(block_.of));
-  return {};
+  if (!lexer_.is(SaveFileToken::identifier)) return {};
+  std::vector<std::string_view> words = words_in(block_.of);
+  if (block_.of == Kw::family) {
+    for (const Use& each : kUses) words.push_back(keyword_text(each.word));
+  }
+  return nearest(lexer_.text(), words);
 }
 
 bool Reader::at_any_of(std::string_view characters) const {
@@ -168,8 +171,9 @@ bool Reader::text_is_open(Finding& finding) {
   if (!current && !last_text_is_open()) return false;
   const Range text = current ? lexer_.range() : last_.range;
   finding = {FindingId::unclosed_text, {text.begin, text.begin + 1}};
-  const std::size_t line_end = source_.text().find('\n', text.begin);
-  resume_at_ = line_end < text.end ? line_end : std::max(text.begin + 1, text.end - (last_.is_open ? 0 : 1));
+  const std::size_t line = source_.text(text).find('\n');
+  const bool spans = line != std::string_view::npos;
+  resume_at_ = spans ? text.begin + line : std::max(text.begin + 1, text.end - (last_.is_open ? 0 : 1));
   std::erase_if(oddities_, [&](const Finding& each) { return each.range.begin >= text.begin; });
   return true;
 }
