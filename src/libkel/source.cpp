@@ -100,11 +100,14 @@ const std::vector<std::size_t>& Source::line_starts() const {
 Place Source::place(std::size_t offset) const {
   const auto& starts = line_starts();
   const auto after = std::ranges::upper_bound(starts, std::min(offset, size_));
-  Place place{.line = static_cast<std::size_t>(after - starts.begin())};
-  for (std::string_view before = text({*(after - 1), offset}); !before.empty(); ++place.column) {
+  Counted counted{*(after - 1), {.line = static_cast<std::size_t>(after - starts.begin())}};
+  if (counted_.place.line == counted.place.line && counted_.offset <= offset) counted = counted_;
+  for (std::string_view before = text({counted.offset, offset}); !before.empty(); ++counted.place.column) {
     before.remove_prefix(first_character(before).size);
   }
-  return place;
+  const bool in_character = offset < size_ && (static_cast<unsigned char>(text()[offset]) & 0xC0U) == 0x80U;
+  if (!in_character) counted_ = {offset, counted.place};
+  return counted.place;
 }
 
 std::size_t Source::offset_of_line(std::size_t number) const {

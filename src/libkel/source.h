@@ -74,6 +74,12 @@ class Source {
   std::string name_;
   Bytes bytes_;
   std::size_t size_;
+  /// A place whose column has been counted, and where it is.
+  struct Counted {
+    std::size_t offset = 0;
+    Place place = {};
+  };
+  mutable Counted counted_;  // the last one: most are asked for in their order, and lines may be long
   mutable std::vector<std::size_t> line_starts_;  // found when first asked for: most texts have no fault to show
 };
 

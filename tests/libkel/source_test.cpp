@@ -101,6 +101,20 @@ TEST(Places, TakeAByteThatIsNoCharacterForAColumn) {
   EXPECT_EQ((Place{1, 4}), Source::from_text("\xff\xc3zx")->place(3));
 }
 
+TEST(Places, AreTheSameInWhicheverOrderTheyAreAskedFor) {
+  const std::string text =
+      "a\xC3\xA4\xFF"
+      "b\xE8\xA1\xA8\n\xC3\xA4"
+      "c\xA4";
+  const auto source = Source::from_text(text);
+  for (std::size_t first = 0; first <= text.size(); ++first) {
+    for (std::size_t second = 0; second <= text.size(); ++second) {
+      source->place(first);
+      EXPECT_EQ(Source::from_text(text)->place(second), source->place(second)) << second << " after " << first;
+    }
+  }
+}
+
 TEST(Places, AreBehindLineFeedsOnly) {
   const auto source = Source::from_text("a\rb\vc\fd\ne");
   EXPECT_EQ((Place{1, 7}), source->place(6));
