@@ -462,6 +462,13 @@ TEST_F(KeepStubs, ProcedureThatIsRetiredTwiceBlocksWhenItIsNamedAgain) {
   EXPECT_EQ(stub + stub + "void a(Widget w) { }\n", kept(stub + stub + "void a(Widget w) { }\n"));
 }
 
+TEST_F(KeepStubs, MarkOfARetiredStubEndsWhatStandsBeforeIt) {
+  describe_popups({"b"});
+  const std::string file =
+      "int a[] =\n" + retired("a", mark("a") + "void a(Widget w) { }\n") + "void b(Widget w) { }\n";
+  EXPECT_EQ(file, kept(file));
+}
+
 TEST_F(KeepStubs, ProcedureWithoutMarkBlocksWhenItHasToChange) {
   describe_popups({}, "can_add_child='a'");
   EXPECT_EQ(

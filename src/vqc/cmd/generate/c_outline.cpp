@@ -66,6 +66,7 @@ class Outliner {
         read_branch(*branch++);
       } else if (border != sought_.borders.end() && *border == i) {
         ++border;
+        has_dead_border_ = is_dead_;
         if (is_outside()) begin_declaration();
       } else if (is_code(code_.tokens[i])) {
         ++code_count_;
@@ -101,10 +102,12 @@ class Outliner {
     if (branch.step == Step::end) {
       state_ = open.behind;
       is_aside_ = open.aside_before;
-      return open_.pop_back();
+      open_.pop_back();
+    } else {
+      is_aside_ = open.aside_before || open.has_behind;
+      open.code_before = code_count_;
     }
-    is_aside_ = open.aside_before || open.has_behind;
-    open.code_before = code_count_;
+    if (was_dead && std::exchange(has_dead_border_, false) && is_outside()) begin_declaration();
   }
 
   void begin_conditional(const Branch& branch) {
@@ -299,7 +302,8 @@ class Outliner {
   std::unordered_map<std::string_view, std::size_t, Hash> parameter_of_;  // the parentheses that a word stood in last
   std::size_t code_count_ = 0;                                            // tokens so far, dead or not
   bool is_dead_ = false;                                                  // an "#if 0" leaves this out
-  bool is_aside_ = false;  // another branch is the one that counts for what follows
+  bool has_dead_border_ = false;  // and a border with it, which counts as it did before
+  bool is_aside_ = false;         // another branch is the one that counts for what follows
 };
 
 }  // namespace

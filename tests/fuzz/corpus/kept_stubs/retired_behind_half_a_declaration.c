@@ -1,0 +1,4 @@
+=
+/*
+**vqconfiggeneratedstub:p5*/p5(){}
+p(){}f
