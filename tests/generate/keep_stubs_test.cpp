@@ -462,6 +462,13 @@ TEST_F(KeepStubs, ProcedureThatIsRetiredTwiceBlocksWhenItIsNamedAgain) {
   EXPECT_EQ(stub + stub + "void a(Widget w) { }\n", kept(stub + stub + "void a(Widget w) { }\n"));
 }
 
+TEST_F(KeepStubs, ConditionalAroundAStubGoesWithItAsWhatUsesAnother) {
+  describe_popups({});
+  const std::string a = "int a(void) { return 0; }\n";
+  const std::string b = "#if a\nvoid b(Widget w)\n#endif\n{ }\n";
+  EXPECT_EQ(mark("a") + retired("a", a) + mark("b") + retired("b", b), kept(mark("a") + a + mark("b") + b));
+}
+
 TEST_F(KeepStubs, MarkOfARetiredStubEndsWhatStandsBeforeIt) {
   describe_popups({"b"});
   const std::string file =

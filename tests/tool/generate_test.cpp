@@ -4,12 +4,12 @@
 #include <chrono>
 #include <filesystem>
 #include <initializer_list>
-#include <random>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "application/run_program.h"
+#include "support/random_document.h"
 
 namespace {
 
@@ -117,51 +117,8 @@ TEST_F(AsVqconfig, FromAllDocumentsThatThereAre) {
   EXPECT_LT(50, std::ranges::count_if(documents, [this](const auto& each) { return expect_same_bytes(each); }));
 }
 
-/// Documents of a few records that are referred to at random.
-class RandomDocument {
- public:
-  explicit RandomDocument(unsigned seed) : random_(seed) {}
-
-  std::string text() {
-    std::string text = "VQconfig\n";
-    for (char name = 'A'; name < 'E'; ++name) {
-      text += "widget '" + std::string(1, name) + "' { " +
-              some({"realise='make'", "abstract='edit'", "can_manage=False", "include_filename='w.h'",
-                    "defined_name='named'"}) +
-              "}\n";
-      text += "enumeration '" + std::string(1, name) + "' { " +
-              some({"enumentry 'one' { code_symbol=ONE }", "enumentry 'two' { }"}) + "}\n";
-    }
-    for (char name = 'F'; name < 'I'; ++name) {
-      text += "family '" + std::string(1, name) + "' { " +
-              some({"widget='A'", "widget='B'", "widget='C'", "enumeration='A'", "enumeration='D'", "header='here.h'",
-                    "header='there.h'", "cheader='here.h'", "page='p'", "popup='q'", "family_init='begin'"}) +
-              "}\n";
-    }
-    return text;
-  }
-
-  /// The same without a part of it.
-  std::string broken_text() {
-    std::string whole = text();
-    return whole.erase(random_() % whole.size(), random_() % 20);
-  }
-
- private:
-  /// Some of the parts.
-  std::string some(std::initializer_list<const char*> parts) {
-    std::string text;
-    for (const char* part : parts) {
-      if (random_() % 2 == 0) text.append(part).append(" ");
-    }
-    return text;
-  }
-
-  std::minstd_rand random_;
-};
-
 TEST_F(AsVqconfig, FromRandomDocuments) {
-  folder.with("here.h", "");
+  folder.with("A", "");  // a header that is there
   for (unsigned seed = 1; seed <= 10; ++seed) {
     RandomDocument random(seed);
     expect_same_bytes(folder.with("sound.vqc", random.text()));
@@ -169,6 +126,22 @@ TEST_F(AsVqconfig, FromRandomDocuments) {
     expect_same_bytes(folder.with("broken.vqc", random.broken_text()));
     if (HasFailure()) FAIL() << text("sound.vqc") << text("broken.vqc");
   }
+}
+
+TEST_F(AsVqconfig, ErrorsAreFoundExactlyWhereTheLastItemIsNotRead) {
+  int with_error = 0;
+  for (unsigned seed = 11; seed <= 50; ++seed) {
+    folder.with("w.vqc", RandomDocument(seed).broken_text());
+    fs::remove(folder / "config");
+    vqconfig({"-C", "config", "w.vqc"});
+    const bool is_read = exists("config") && has_text("config", std::string(RandomDocument::kLast));
+    const Outcome checked = run({"check", "w.vqc"});
+    const bool is_open = checked.out.find("it ends with the document") != std::string::npos;
+    EXPECT_EQ(is_read || is_open ? 0 : 1, checked.status) << text("w.vqc") << checked.out;
+    with_error += checked.status;
+  }
+  EXPECT_LT(10, with_error);
+  EXPECT_GT(40, with_error);
 }
 
 // Names.

@@ -286,10 +286,16 @@ class Keeper {
       } else if (!lines_of(function)) {
         warn(function, no_longer_named(name) + "stays since it shares lines or conditionals with other code");
       } else {
-        leaving.emplace(name, function);
+        leaving.emplace(name, with_conditionals(function));
       }
     }
     return leaving;
+  }
+
+  /// A function that has conditionals for itself, with all of these.
+  c::Function with_conditionals(c::Function function) const {
+    function.tokens = *c::with_whole_conditionals(old_.code, old_.conditionals, function.tokens);
+    return function;
   }
 
   static std::string no_longer_named(std::string_view name) {

@@ -34,7 +34,8 @@ class UseFinder {
 
   std::set<std::string_view> find() {
     for (const auto& [name, function] : functions_) note_provided(name, function.tokens);
-    Cursor in_function(old_.outline.functions, [](const c::Function& function) { return function.tokens.last; });
+    const std::vector<c::Function> all = all_functions();
+    Cursor in_function(all, [](const c::Function& function) { return function.tokens.last; });
     Cursor in_dead(old_.outline.dead, [](const c::TokenRange& range) { return range.last; });
     Cursor in_declaration(old_.outline.declarations, [](const c::Declaration& found) { return found.name; });
     Cursor in_replaced(replaced_, [](const Range& range) { return range.end; });
@@ -52,6 +53,16 @@ class UseFinder {
   }
 
  private:
+  /// All functions of the file, some of them with the conditionals around them.
+  std::vector<c::Function> all_functions() const {
+    std::vector<c::Function> all = old_.outline.functions;
+    for (c::Function& function : all) {
+      const auto found = functions_.find(old_.code.of(function.name));
+      if (found != functions_.end()) function = found->second;
+    }
+    return all;
+  }
+
   std::vector<std::string_view> words_in(const c::Token& directive) const {
     std::vector<std::string_view> words;
     for (const c::Token& word : c::scan_directive(old_.code.text, directive)) words.push_back(old_.code.of(word));

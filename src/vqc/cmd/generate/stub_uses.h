@@ -11,7 +11,7 @@
 
 namespace vqc {
 
-/// Functions by their names, which stand in the text of the file.
+/// Functions by their names, which stand in the text of the file. The conditionals around them count as theirs.
 using FunctionsByName = std::map<std::string_view, c::Function>;
 
 /// Those of some functions that other code of the file uses, be it by way of others of them. A declaration is no use,
