@@ -2,6 +2,7 @@
 
 #include "libkel/diagnostics.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace vqc {
@@ -23,6 +24,11 @@ constexpr FindingKind kinds[] = {
 const FindingKind& kind_of(FindingId id) { return kinds[static_cast<std::size_t>(id)]; }
 
 std::span<const FindingKind> finding_kinds() { return kinds; }
+
+bool has_errors(std::span<const Finding> findings) {
+  return std::ranges::any_of(findings,
+                             [](const Finding& each) { return kind_of(each.id).severity == Severity::error; });
+}
 
 std::string words_of(const Finding& finding) {
   std::string words;

@@ -47,6 +47,8 @@ class Diagnostics {
   void add(Finding finding) { findings_.push_back(std::move(finding)); }
   const std::vector<Finding>& findings() const { return findings_; }
   bool empty() const { return findings_.empty(); }
+  /// All of them, which are no longer here then.
+  std::vector<Finding> take() { return std::exchange(findings_, {}); }
 
  private:
   std::vector<Finding> findings_;
@@ -65,6 +67,7 @@ struct FindingKind {
 
 const FindingKind& kind_of(FindingId id);
 std::span<const FindingKind> finding_kinds();
+bool has_errors(std::span<const Finding> findings);
 /// What a finding says, its arguments filled in.
 std::string words_of(const Finding& finding);
 

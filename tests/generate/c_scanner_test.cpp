@@ -45,6 +45,8 @@ TEST(CScanner, DirectiveIsOneTokenToTheEndOfItsLastLine) {
   EXPECT_EQ((Texts{"d #if 1 /* a\nb */ && 1", "w c"}), tokens_of("#if 1 /* a\nb */ && 1\r\nc"));
   EXPECT_EQ((Texts{"d # error don't /* do", "w b"}), tokens_of(" # error don't /* do\nb"));
   EXPECT_EQ((Texts{"d #include <X11//a/*b>", "w c"}), tokens_of("#include <X11//a/*b>\nc"));
+  EXPECT_EQ((Texts{"d #include <X11\\\n//a/*b>", "w c"}), tokens_of("#include <X11\\\n//a/*b>\nc"));
+  EXPECT_EQ((Texts{"d #include <X11\\a", "w b"}), tokens_of("#include <X11\\a\nb"));
 }
 
 TEST(CScanner, DirectiveIsFirstOnItsLine) {

@@ -341,6 +341,9 @@ TEST_F(SingleFault, ThatIsOnlyOdd) {
       {"widget 'W' { resource_definitions='a', , , <Ture>; }", odd_flag, "True"},
       {"widget 'W' { resource_definitions='a', , , True, VQC_FREE, VQC_FREE access <0>; }", odd_access},
       {"widget 'W' { resource_definitions='a', , , True, VQC_FREE, VQC_FREE access <4294967297>; }", wrapped_number},
+      {"widget 'W' { resource_definitions='a', , , True, VQC_FREE, VQC_FREE access <2147483648>; }", wrapped_number},
+      {"widget 'W' { resource_definitions='a', , , True, VQC_FREE, VQC_FREE access <-2147483649>; }", wrapped_number},
+      {"widget 'W' { resource_definitions='a', , , True, VQC_FREE, VQC_FREE access <-2147483648>; }", odd_access},
       {"widget 'W' { resource_definitions='a', , , True <end> }", list_end},
   });
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <stdexcept>
@@ -36,7 +37,8 @@ class Terminal {
   std::string seen(std::chrono::milliseconds wait = 5s) const {
     std::string text;
     pollfd input{user_, POLLIN, 0};
-    while (poll(&input, 1, text.empty() ? static_cast<int>(wait.count()) : 0) == 1) {
+    const auto for_the_rest = std::min<std::chrono::milliseconds>(wait, 100ms);
+    while (poll(&input, 1, static_cast<int>((text.empty() ? wait : for_the_rest).count())) == 1) {
       std::array<char, 256> part;
       const ssize_t size = read(user_, part.data(), part.size());
       if (size <= 0) break;

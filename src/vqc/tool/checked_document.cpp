@@ -23,11 +23,6 @@ std::string folder_of(const std::string& file) { return std::filesystem::path(fi
 
 }  // namespace
 
-bool CheckedDocument::has_errors() const {
-  return std::ranges::any_of(findings,
-                             [](const Finding& each) { return kind_of(each.id).severity == Severity::error; });
-}
-
 std::string display_name(const std::string& file) { return file == "-" ? "<stdin>" : file; }
 
 std::unique_ptr<CheckedDocument> check_file(const std::string& file, const std::vector<std::string>& include_folders) {
@@ -40,11 +35,10 @@ std::unique_ptr<CheckedDocument> check_file(const std::string& file, const std::
   Diagnostics findings;
   Places places(*checked->source);
   load(checked->source, checked->document, findings, AfterError::go_on, &places);
-  checked->findings = findings.findings();
-  if (!checked->has_errors()) {
+  if (!has_errors(findings.findings())) {
     check(checked->document, *checked->source, places, {include_folders, folder_of(file)}, findings);
-    checked->findings = findings.findings();
   }
+  checked->findings = findings.take();
   std::ranges::stable_sort(checked->findings, {}, [](const Finding& each) { return each.range.begin; });
   return checked;
 }

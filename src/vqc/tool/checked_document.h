@@ -16,8 +16,6 @@ struct CheckedDocument {
   std::shared_ptr<const Source> source;
   Document document;
   std::vector<Finding> findings;
-
-  bool has_errors() const;
 };
 
 /// The file of that name, "-" for standard input, as it is called in messages.

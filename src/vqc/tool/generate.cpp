@@ -132,17 +132,17 @@ ExitStatus generate(const GenerateCommand& command) {
   progress.show("");
   if (!checked) return STATUS_FAILED;
   show(*checked);
-  const bool has_errors = checked->has_errors();
+  const bool is_broken = has_errors(checked->findings);
   Document broken;
-  if (has_errors && !(command.force && read_to_first_error(*checked, broken))) return STATUS_ERRORS;
+  if (is_broken && !(command.force && read_to_first_error(*checked, broken))) return STATUS_ERRORS;
   progress.show("generating ...");
-  const GeneratedFiles made = generate_files(command.request, paths, has_errors ? broken : checked->document);
+  const GeneratedFiles made = generate_files(command.request, paths, is_broken ? broken : checked->document);
   progress.show("");
   if (!show_messages(paths.stubs, made.stubs)) return STATUS_ERRORS;
   const Changes changes = carry_out(command, made.files, progress);
   summarise(command, made.stubs, changes);
   const bool outdated = command.verify && std::ranges::find(changes, true) != changes.end();
-  return has_errors || outdated ? STATUS_ERRORS : STATUS_GOOD;
+  return is_broken || outdated ? STATUS_ERRORS : STATUS_GOOD;
 }
 
 /// Standard input gives no names to the files.

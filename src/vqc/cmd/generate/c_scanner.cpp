@@ -112,7 +112,10 @@ class Scanner {
     while (at_ < text_.size() && (text_[at_] == ' ' || text_[at_] == '\t')) ++at_;
   }
 
-  void skip_header_name() { at_ = std::min(text_.find_first_of(">\n", at_), text_.size()); }
+  void skip_header_name() {
+    while (at_ < text_.size() && text_[at_] != '>' && text_[at_] != '\n')
+      at_ += std::max<std::size_t>(continuation(), 1);
+  }
 
   void skip_to_line_end() {
     do {

@@ -169,10 +169,10 @@ int Lexer::read_word() {
 int Lexer::read_number(bool negative) {
   kind_ = SaveFileToken::integer;
   unsigned value = 0;  // wraps to 32 bits
-  constexpr unsigned kMost = std::numeric_limits<int>::max();
+  const unsigned most = std::numeric_limits<int>::max() + (negative ? 1U : 0U);
   for (; kel_is(*next_, KEL_DIGIT); ++next_) {
     const auto digit = static_cast<unsigned>(*next_ - '0');
-    if (value > (kMost - digit) / 10) oddities_ |= WRAPS;
+    if (value > (most - digit) / 10) oddities_ |= WRAPS;
     value = value * 10 + digit;
   }
   integer_ = static_cast<int>(negative ? 0 - value : value);

@@ -339,7 +339,7 @@ bool Reader::family_field(Family& family) {
 bool Reader::used(Value& name) {
   const Range word = lexer_.range();
   step();
-  if (!at_name() || !(next_is('{') || stands_out(word))) return assigned(name);
+  if (!at_name() || !(ahead().is('{') || stands_out(word))) return assigned(name);
   error(FindingId::unclosed_block, "'='", block_.open);
   resume_at_ = word.begin;
   return false;
@@ -456,7 +456,8 @@ bool Reader::access(ResourceDef& resource) {
   step();
   if (!lexer_.is(SaveFileToken::integer)) return error(FindingId::expected_integer);
   resource.access = lexer_.integer();
-  if (resource.access < 1 || resource.access > 7) warn({FindingId::odd_access, lexer_.range(), {shown_token()}});
+  const bool wraps = lexer_.oddities() & WRAPS;
+  if (!wraps && (resource.access < 1 || resource.access > 7)) warn({FindingId::odd_access, lexer_.range(), {shown_token()}});
   step();
   return true;
 }

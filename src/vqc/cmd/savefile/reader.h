@@ -87,8 +87,7 @@ class Reader {
   Range place_of_value() const;
   bool at_any_of(std::string_view characters) const;
   bool at_end() const { return lexer_.is(SaveFileToken::end_of_input); }
-  template <class What>
-  bool next_is(What what) const;
+  Lexer ahead() const;
   bool next_is_name() const;
   bool at_item() const;
   bool at_field() const;

@@ -205,17 +205,17 @@ bool Reader::list_end_is_wrong(Finding& finding) {
 
 // Where reading goes on.
 
-template <class What>
-bool Reader::next_is(What what) const {
-  Lexer ahead = lexer_;
-  ahead.next_token();
-  return ahead.is(what);
+/// The lexer at the next token.
+Lexer Reader::ahead() const {
+  Lexer lexer = lexer_;
+  lexer.next_token();
+  return lexer;
 }
 
-template bool Reader::next_is(char what) const;
-template bool Reader::next_is(SaveFileToken what) const;
-
-bool Reader::next_is_name() const { return next_is(SaveFileToken::string) || next_is(SaveFileToken::identifier); }
+bool Reader::next_is_name() const {
+  const Lexer next = ahead();
+  return next.is(SaveFileToken::string) || next.is(SaveFileToken::identifier);
+}
 
 /// Whether an item begins here. In a block the same words are followed by "=".
 bool Reader::at_item() const {
@@ -228,13 +228,14 @@ bool Reader::at_item() const {
 bool Reader::at_field() const {
   if (!lexer_.is(SaveFileToken::keyword)) return false;
   if (lexer_.is(Kw::enumentry)) return block_.of == Kw::enumeration && next_is_name();
-  return next_is('=');
+  return ahead().is('=');
 }
 
 /// Whether a ";" ends a list here, and stands in no other's place.
 bool Reader::at_list_end() const {
   if (!lexer_.is(';')) return false;
-  return next_is('}') || next_is(SaveFileToken::keyword) || next_is(SaveFileToken::end_of_input);
+  const Lexer next = ahead();
+  return next.is('}') || next.is(SaveFileToken::keyword) || next.is(SaveFileToken::end_of_input);
 }
 
 /// Whether what stands here shows that the "}" of a block is missing.
@@ -288,7 +289,7 @@ bool Reader::go_on_in_resources(bool& another) {
   resume();
   for (; !block_is_unclosed() && !lexer_.is('}') && !at_list_end() && !at_field(); step()) {
     past_visible_ = past_visible_ || (lexer_.is(SaveFileToken::identifier) && !at_unquoted_text());
-    another = past_visible_ && lexer_.is(',') && next_is(SaveFileToken::string);
+    another = past_visible_ && lexer_.is(',') && ahead().is(SaveFileToken::string);
     if (another) break;
   }
   if (another) step();
