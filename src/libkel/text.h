@@ -19,9 +19,14 @@ class Text {
   constexpr bool empty() const { return view_.empty(); }
   constexpr std::string_view view() const { return view_; }
 
-  friend constexpr bool operator==(Text a, Text b) { return bool{a} == bool{b} && a.view_ == b.view_; }
+  friend constexpr bool operator==(Text a, Text b) {
+    return bool{a} == bool{b} && a.view_.size() == b.view_.size() && (a.is_at(b) || a.view_ == b.view_);
+  }
 
  private:
+  /// Whether both are the same characters, and not only alike.
+  constexpr bool is_at(Text other) const { return view_.data() == other.view_.data(); }
+
   std::string_view view_;
 };
 

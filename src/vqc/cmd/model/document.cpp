@@ -27,7 +27,7 @@ Document::~Document() {
 
 Text Document::keep(Text text) {
   if (!text) return nullptr;
-  auto* copy = static_cast<char*>(memory_.allocate(text.view().size(), 1));
+  auto* copy = static_cast<char*>(memory_->arena.allocate(text.view().size(), 1));
   text.view().copy(copy, text.view().size());
   return Text(std::string_view(copy, text.view().size()));
 }
@@ -62,15 +62,7 @@ void Document::predefine(Family& family) {
 }
 
 void Document::clear_lists_of(Family& family) {
-  clear(family.widgets, widgets);
-  clear(family.enumerations, enumerations);
-  clear(family.aliases, aliases);
-  clear(family.converters, converters);
-  clear(family.code_headers, code_headers);
-  clear(family.family_headers, family_headers);
-  clear(family.config_headers, config_headers);
-  clear(family.popups, popups);
-  clear(family.pages, pages);
+  each_family_list([&](auto list, auto pool) { clear(family.*list, this->*pool); });
 }
 
 void Document::clear() {
@@ -87,8 +79,7 @@ void Document::clear() {
   for (auto option : all_name_options) (names.*option).document = nullptr;
   output_names = {};
   excluded_classes = nullptr;
-  memory_.release();
-  sources_.clear();
+  memory_ = std::make_shared<Memory>();
 }
 
 }  // namespace vqc

@@ -59,7 +59,9 @@ class Document {
   /// A copy of a text, or null for null. It lives as long as the document, or until that is cleared.
   Text keep(Text text);
   /// Keeps a source whose characters become texts of the document, as long as these.
-  void keep(std::shared_ptr<const Source> source) { sources_.push_back(std::move(source)); }
+  void keep(std::shared_ptr<const Source> source) { memory_->sources.push_back(std::move(source)); }
+  /// Keeps the document's texts as they are, whatever becomes of the document.
+  std::shared_ptr<const void> texts() const { return memory_; }
 
   // Names that are given to these must live as long as the document.
 
@@ -99,13 +101,20 @@ class Document {
     }
   }
 
+  /// Removes a reference, while the record stays that it refers to.
+  template <class References>
+  void release(References& references, typename References::Element* reference) {
+    if constexpr (requires { reference->record->uses; }) --reference->record->uses;
+    remove(references, reference);
+  }
+
   /// Leaves no record, no name of its own and no stop list. What is removed sets `dirty`. The built-in names stay.
   void clear();
 
  private:
   template <class Element>
   Element* make() {
-    return new (memory_.allocate(sizeof(Element), alignof(Element))) Element{};
+    return new (memory_->arena.allocate(sizeof(Element), alignof(Element))) Element{};
   }
   /// Links an element that is not in the list. Where memory is short, which is thrown, the list has it all the same.
   template <class List>
@@ -152,9 +161,26 @@ class Document {
     while (auto* reference = references.any()) remove(references, pool, reference);
   }
 
-  std::pmr::monotonic_buffer_resource memory_{large_memory()};
-  std::vector<std::shared_ptr<const Source>> sources_;  // whose characters stand in records
+  struct Memory {
+    std::pmr::monotonic_buffer_resource arena{large_memory()};
+    std::vector<std::shared_ptr<const Source>> sources;  // whose characters stand in records
+  };
+  std::shared_ptr<Memory> memory_ = std::make_shared<Memory>();
 };
+
+/// Calls visit(list, pool) with where each list of a family is, and the pool of its records.
+template <class Visit>
+void each_family_list(Visit visit) {
+  visit(&Family::widgets, &Document::widgets);
+  visit(&Family::enumerations, &Document::enumerations);
+  visit(&Family::aliases, &Document::aliases);
+  visit(&Family::converters, &Document::converters);
+  visit(&Family::code_headers, &Document::code_headers);
+  visit(&Family::family_headers, &Document::family_headers);
+  visit(&Family::config_headers, &Document::config_headers);
+  visit(&Family::popups, &Document::popups);
+  visit(&Family::pages, &Document::pages);
+}
 
 // What is done by name tells by a code how it went: 0 when it was done.
 

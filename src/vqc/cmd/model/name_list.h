@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <memory>
 #include <new>
+#include <utility>
 #include <vector>
 
 #include "libkel/text.h"
@@ -126,6 +127,15 @@ class NameList {
   void move_up(Element* element) {
     settle();
     if (element->previous) move_down(element->previous);
+  }
+
+  /// Gives all elements of the list another order.
+  void arrange(const std::vector<Element*>& all) {
+    unsettled_after_ = nullptr;
+    rearranged_ = !std::ranges::is_sorted(all, {}, [](const Element* each) { return name_of(*each).view(); });
+    Element* previous = nullptr;
+    for (Element* element : all) join(std::exchange(previous, element), element);
+    join(previous, nullptr);
   }
 
   /// Brings what was added out of order to its place: sorts it and merges it with what stands in order already.

@@ -44,6 +44,8 @@ struct OutputNames {
   Text config;
   Text code;
   Text stubs;
+
+  bool operator==(const OutputNames&) const = default;
 };
 
 /// What a new resource is marked with, which is said for the whole program.

@@ -8,9 +8,9 @@
 
 namespace vqc {
 
-// The records of a document. A member's initial value is its value in a new record. Pools hold the records
-// themselves; families refer to them. Members that are named like words of the document hold those words' values. Their
-// texts are the document's.
+// The records of a document: what a document says of each (its fields), and its place among others. A member's initial
+// value is its value in a new record. Pools hold the records themselves; families refer to them. Members that are named
+// like words of the document hold those words' values. Their texts are the document's.
 
 /// What a list operation returns: 0 for success, or a number that the list's kind fixes for the failure.
 using ErrorCode = int;
@@ -35,10 +35,14 @@ enum class FreeMode : std::uint8_t { by_default, free, dont_free };
 /// `ResourceDef::access` is not_given or any of the others together.
 enum Access : int { ACCESS_NOT_GIVEN = -1, ACCESS_CREATE = 1, ACCESS_GET = 2, ACCESS_SET = 4 };
 
-/// One resource of one widget class, which owns it.
-struct ResourceDef {
-  ResourceDef* next = nullptr;
-  ResourceDef* previous = nullptr;
+/// What an element of a list has before all else, so that no field stands at the address of its record.
+template <class Element>
+struct Links {
+  Element* next = nullptr;
+  Element* previous = nullptr;
+};
+
+struct ResourceFields {
   Text name;
   Text popup;
   Text page;
@@ -50,13 +54,15 @@ struct ResourceDef {
   // Never saved. They share a byte, without which each of very many resources would take eight more.
   bool mfc_compatible : 1 = false;
   bool java_compatible : 1 = false;
+
+  bool operator==(const ResourceFields&) const = default;
 };
 
-struct WidgetDef {
-  WidgetDef* next = nullptr;
-  WidgetDef* previous = nullptr;
+/// One resource of one widget class, which owns it.
+struct ResourceDef : Links<ResourceDef>, ResourceFields {};
+
+struct WidgetFields {
   Text name;
-  int uses = 0;  // by families
   Text include_filename;
   Text defined_name;
   Text realise;
@@ -79,76 +85,90 @@ struct WidgetDef {
   Text dialogue_doc;
   Text dialogue_tag;
   bool default_is_dont_free = false;
+
+  bool operator==(const WidgetFields&) const = default;
+};
+
+struct WidgetDef : Links<WidgetDef>, WidgetFields {
+  int uses = 0;  // by families
   ListOf<ResourceDef, Order::sorted, Codes{26, 25, 3}> resource_definitions;
 };
 
-/// One value of one enumeration, which owns it.
-struct EnumEntry {
-  EnumEntry* next = nullptr;
-  EnumEntry* previous = nullptr;
+struct EnumEntryFields {
   Text name;
   Text code_symbol;
   Text resfile_symbol;
+
+  bool operator==(const EnumEntryFields&) const = default;
 };
 
-struct EnumDef {
-  EnumDef* next = nullptr;
-  EnumDef* previous = nullptr;
+/// One value of one enumeration, which owns it.
+struct EnumEntry : Links<EnumEntry>, EnumEntryFields {};
+
+struct EnumFields {
   Text name;
-  int uses = 0;
   Text type_name;  // "typename" in the document
+
+  bool operator==(const EnumFields&) const = default;
+};
+
+struct EnumDef : Links<EnumDef>, EnumFields {
+  int uses = 0;
   ListOf<EnumEntry, Order::appended, Codes{12, 11, 7, 11}> entries;
 };
 
-struct AliasDef {
-  AliasDef* next = nullptr;
-  AliasDef* previous = nullptr;
+struct AliasFields {
   Text name;
   Text to_name;
+
+  bool operator==(const AliasFields&) const = default;
+};
+
+struct AliasDef : Links<AliasDef>, AliasFields {
   int uses = 0;
 };
 
-struct ConverterDef {
-  ConverterDef* next = nullptr;
-  ConverterDef* previous = nullptr;
+struct ConverterFields {
   Text name;
-  int uses = 0;
   bool add_in_vq = false;
   bool add_in_code = false;
   Text proc_name;
   Text dialog;
+
+  bool operator==(const ConverterFields&) const = default;
 };
 
-/// A dialog that edits resources. Its name is also its create procedure.
-struct PopupDef {
-  PopupDef* next = nullptr;
-  PopupDef* previous = nullptr;
+struct ConverterDef : Links<ConverterDef>, ConverterFields {
+  int uses = 0;
+};
+
+/// A dialog's name is also its create procedure.
+struct PopupFields {
   Text name;
   Text dialog_init;
   Text dialog_update;
+
+  bool operator==(const PopupFields&) const = default;
 };
 
+/// A dialog that edits resources.
+struct PopupDef : Links<PopupDef>, PopupFields {};
+
 /// A page of the resource panel.
-struct PageDef {
-  PageDef* next = nullptr;
-  PageDef* previous = nullptr;
+struct PageDef : Links<PageDef> {
   Text name;
 };
 
 /// A header file to include.
-struct HeaderEntry {
-  HeaderEntry* next = nullptr;
-  HeaderEntry* previous = nullptr;
+struct HeaderEntry : Links<HeaderEntry> {
   Text name;
   int uses = 0;
 };
 
 /// A family's use of a record. It owns nothing but itself.
 template <class RecordType>
-struct Reference {
+struct Reference : Links<Reference<RecordType>> {
   using Record = RecordType;
-  Reference* next = nullptr;
-  Reference* previous = nullptr;
   Record* record = nullptr;
 };
 
@@ -163,19 +183,13 @@ struct FamilyInit {
   bool generate_family_init_code = false;
   bool generate_family_init_stub = false;
   bool generate_family_init_pre_shell = false;
+
+  bool operator==(const FamilyInit&) const = default;
 };
 
-struct Family;
-
-/// What families have before their fields, so that no field stands at the address of its family.
-struct FamilyHead {
-  Family* next = nullptr;
-  Family* previous = nullptr;
+struct Family : Links<Family>, FamilyInit {
   Text name;
   bool generate_selected = true;  // what the user has chosen; it is never saved
-};
-
-struct Family : FamilyHead, FamilyInit {
   References<WidgetDef, Order::appended, Codes{6, 3, 1, 5}> widgets;
   References<EnumDef, Order::sorted, Codes{10, 7, 1, 7}> enumerations;
   References<AliasDef, Order::sorted, Codes{16, 13, 1, 13}> aliases;

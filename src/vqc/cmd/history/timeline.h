@@ -1,0 +1,55 @@
+#ifndef VQC_CMD_HISTORY_TIMELINE_H
+#define VQC_CMD_HISTORY_TIMELINE_H
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "vqc/cmd/history/state.h"
+
+namespace vqc {
+
+/// Where a document stands in its history: what it says, the file that it belongs to, and whether it counts as changed.
+struct Moment {
+  std::shared_ptr<const State> state;
+  std::optional<std::string> path;
+  bool dirty = false;
+};
+
+/// What has become of a document in a session, one moment for each step, and which of them is now. Going back forgets
+/// nothing until something else is done from there.
+class Timeline {
+ public:
+  /// Begins with what there is.
+  Timeline(const Document& document, std::optional<std::string> path);
+
+  /// Takes note of what has been done. True when it was a step, which the document now is behind; what was undone
+  /// before can be redone no more then. A path or a mark of change alone is no step.
+  bool note(const Document& document, const std::optional<std::string>& path);
+  /// The document has been saved as it is now: every other moment differs from its file. Those that had the same path
+  /// before get the new one.
+  void saved(const Document& document, const std::optional<std::string>& path);
+
+  bool can_undo() const { return now_ > 0; }
+  bool can_redo() const { return now_ + 1 < moments_.size(); }
+  /// The moments before and behind the step that would be undone or redone.
+  const Moment& now() const { return moments_[now_]; }
+  const Moment& previous() const { return moments_[now_ - 1]; }
+  const Moment& next() const { return moments_[now_ + 1]; }
+
+  /// Brings the document back by a step, or on again. It must be as it was at the last note.
+  void undo(Document& document) { go_to(document, now_ - 1); }
+  void redo(Document& document) { go_to(document, now_ + 1); }
+
+ private:
+  void go_to(Document& document, std::size_t moment);
+
+  std::vector<Moment> moments_;
+  std::size_t now_ = 0;
+};
+
+}  // namespace vqc
+
+#endif
