@@ -9,7 +9,7 @@ JOBS = --parallel $(shell nproc)
 JOBS_ON_DISPLAY = --parallel $(shell echo $$((3 * $$(nproc))))  # they wait half of the time
 SOURCES = git ls-files '*.cpp' '*.h'
 
-.PHONY: all run test check bench fuzz screenshots install format lint clean
+.PHONY: all run test check bench fuzz screenshots install deb deb-test format lint clean
 
 all:
 	@scripts/install-packages build
@@ -64,6 +64,15 @@ screenshots: all
 install: all
 	DESTDIR=$(DESTDIR) cmake --install $(RELEASE) --prefix $(PREFIX)
 	@[ -n "$(DESTDIR)" ] || scripts/tell-desktop $(PREFIX)/share
+
+# The Debian packages, in build/deb, and what lintian says.
+deb:
+	@scripts/install-packages build packages
+	@scripts/build-packages
+
+# The packages as a newcomer meets them: installed and used in a bare Debian tree.
+deb-test: deb
+	@tests/packages/bare_tree.sh build/deb
 
 format:
 	@scripts/install-packages lint
