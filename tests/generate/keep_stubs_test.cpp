@@ -453,6 +453,14 @@ TEST_F(KeepStubs, ProcedureThatIsDefinedTwiceBlocksWhenItHasToChange) {
   EXPECT_EQ("6" + words + "8" + words, block(old));
 }
 
+TEST_F(KeepStubs, RetiredStubInAFunctionStaysThere) {
+  describe_popups({"a"});
+  const std::string stub = retired("a", "void a(Widget w) { }\n");
+  for (const std::string& file : {"int f() {\n" + stub + "}\n\n", "int f(\n" + retired("a", "int a\n") + ") { }\n\n"}) {
+    EXPECT_EQ(file + popup_stub("a") + "\n", kept(file)) << file;
+  }
+}
+
 TEST_F(KeepStubs, ProcedureThatIsRetiredTwiceBlocksWhenItIsNamedAgain) {
   const std::string stub = retired("a", "void a(Widget w) { }\n");
   describe_popups({});

@@ -131,10 +131,29 @@ class Reader {
       old_.revived.push_back(stub);
       for (std::size_t token = stub.tokens.first; token <= stub.tokens.last; ++token) wake(old_.code.of(token));
     }
+    if (!old_.revived.empty()) find_outline_of_revived();
+    if (drop_those_in_functions()) find_outline_of_revived();
+    if (drop_those_in_functions()) old_.revived.clear(), find_outline_of_revived();
+  }
+
+  void find_outline_of_revived() {
     std::set<std::size_t> awake;
     for (const RetiredStub& stub : old_.revived) awake.insert(stub.conditional);
-    sought_.is_awake = [&](std::size_t conditional) { return awake.contains(conditional); };
-    if (!awake.empty()) find_outline();
+    sought_.is_awake = [awake](std::size_t conditional) { return awake.contains(conditional); };
+    find_outline();
+  }
+
+  /// Stubs that would come back to life as a part of something else are somebody's own. False when there is none.
+  bool drop_those_in_functions() {
+    const auto is_in_function = [&](std::size_t token) {
+      const auto& functions = old_.outline.functions;
+      const auto last = [](const c::Function& function) { return function.tokens.last; };
+      const auto found = std::ranges::lower_bound(functions, token, {}, last);
+      return found != functions.end() && found->tokens.holds(token);
+    };
+    return std::erase_if(old_.revived, [&](const RetiredStub& stub) {
+             return is_in_function(stub.tokens.first) || is_in_function(stub.tokens.last);
+           }) > 0;
   }
 
   void note_functions() {
