@@ -7,21 +7,13 @@
 #include <vector>
 
 #include "vqc/cmd/history/state.h"
+#include "vqc/cmd/history/state_names.h"
 
 namespace vqc {
 
 namespace {
 
 using NameSet = std::unordered_set<std::string_view>;
-
-Text name_in(Text name) { return name; }
-template <class Record>
-Text name_in(const std::shared_ptr<const Record>& record) {
-  return record->name;
-}
-template <class Fields>
-requires requires(const Fields& fields) { fields.name; }
-Text name_in(const Fields& fields) { return fields.name; }
 
 template <class States>
 NameSet names_of(const States& states) {

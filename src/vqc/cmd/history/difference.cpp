@@ -1,0 +1,163 @@
+// Finds in what two states differ.
+
+#include "vqc/cmd/history/difference.h"
+
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+
+#include "vqc/cmd/history/state_names.h"
+
+namespace vqc {
+
+namespace {
+
+/// The parts that a family's lists have, in the order of each_family_list().
+constexpr Part list_parts[] = {Part::widget,        Part::enumeration, Part::alias,
+                               Part::converter,     Part::code_header, Part::family_header,
+                               Part::config_header, Part::popup,       Part::page};
+
+template <class States>
+using ByName = std::unordered_map<std::string_view, const typename States::value_type*>;
+
+template <class States>
+ByName<States> by_name(const States& states) {
+  ByName<States> index;
+  index.reserve(states.size());
+  for (const auto& state : states) index.emplace(name_in(state).view(), &state);
+  return index;
+}
+
+/// Whether what is in both stands in another order.
+template <class States>
+bool is_reordered(const States& from, const States& to, const ByName<States>& in_from, const ByName<States>& in_to) {
+  auto next = to.begin();
+  for (const auto& state : from) {
+    if (!in_to.contains(name_in(state).view())) continue;
+    while (!in_from.contains(name_in(*next).view())) ++next;
+    if (!(name_in(*next++) == name_in(state))) return true;
+  }
+  return false;
+}
+
+class Comparison {
+ public:
+  Comparison(const State& from, const State& to) : from_(from), to_(to) {}
+
+  std::vector<Difference> find() {
+    compare(from_.families, to_.families, Part::family, {},
+            [this](const FamilyState& a, const FamilyState& b) { compare_family(a, b); });
+    compare(from_.widgets, to_.widgets, Part::widget, {},
+            [this](const WidgetState& a, const WidgetState& b) { compare_widget(a, b); });
+    compare(from_.enumerations, to_.enumerations, Part::enumeration, {},
+            [this](const EnumState& a, const EnumState& b) { compare_enumeration(a, b); });
+    compare_plain(from_.aliases, to_.aliases, Part::alias);
+    compare_plain(from_.converters, to_.converters, Part::converter);
+    compare_plain(from_.popups, to_.popups, Part::popup);
+    compare_names(from_.pages, to_.pages, Part::page, {});
+    compare_names(from_.code_headers, to_.code_headers, Part::code_header, {});
+    compare_names(from_.family_headers, to_.family_headers, Part::family_header, {});
+    compare_names(from_.config_headers, to_.config_headers, Part::config_header, {});
+    compare_header();
+    std::vector<Difference> found;
+    for (auto& rank : ranks_) found.insert(found.end(), rank.begin(), rank.end());
+    return found;
+  }
+
+ private:
+  /// From what matters most.
+  enum Rank { FAMILIES, RECORDS, REFERENCES, OWNED, FIELDS, ORDER, HEADER, RANKS };
+
+  void add(Rank rank, Difference difference) { ranks_[rank].push_back(difference); }
+
+  static Rank rank_of(Part part, Text of) {
+    if (part == Part::family) return FAMILIES;
+    if (part == Part::resource || part == Part::entry) return OWNED;
+    return of ? REFERENCES : RECORDS;
+  }
+
+  /// Compares lists of the same kind; `compare_both` is called with what is in both and not the same. False where the
+  /// order is another.
+  template <class States, class CompareBoth>
+  bool compare_lists(const States& from, const States& to, Part part, Text of, CompareBoth compare_both) {
+    const ByName<States> in_from = by_name(from);
+    const ByName<States> in_to = by_name(to);
+    for (const auto& state : to) {
+      const auto before = in_from.find(name_in(state).view());
+      if (before == in_from.end()) {
+        add(rank_of(part, of), {Verb::added, part, name_in(state), of});
+      } else if (!(*before->second == state)) {
+        compare_both(*before->second, state);
+      }
+    }
+    for (const auto& state : from) {
+      if (in_to.contains(name_in(state).view())) continue;
+      add(rank_of(part, of), {Verb::removed, part, name_in(state), of});
+    }
+    return !is_reordered(from, to, in_from, in_to);
+  }
+
+  /// The same for records that are shared.
+  template <class Record, class CompareBoth>
+  void compare(const State::Records<Record>& from, const State::Records<Record>& to, Part part, Text of,
+               CompareBoth compare_both) {
+    const bool in_order = compare_lists(from, to, part, of, [&](const auto& a, const auto& b) {
+      if (!(*a == *b)) compare_both(*a, *b);
+    });
+    if (!in_order && part == Part::family) add(ORDER, {Verb::reordered, Part::families});
+  }
+
+  template <class Record>
+  void compare_plain(const State::Records<Record>& from, const State::Records<Record>& to, Part part) {
+    compare(from, to, part, {}, [&](const Record& /*before*/, const Record& now) {
+      add(FIELDS, {Verb::changed, part, now.name});
+    });
+  }
+
+  bool compare_names(const State::Names& from, const State::Names& to, Part part, Text of) {
+    if (from == to) return true;
+    return compare_lists(from, to, part, of, [](Text, Text) {});
+  }
+
+  void compare_family(const FamilyState& from, const FamilyState& to) {
+    bool in_order = true;
+    for (std::size_t i = 0; i < to.lists.size(); ++i) {
+      in_order = compare_names(from.lists[i], to.lists[i], list_parts[i], to.name) && in_order;
+    }
+    if (!in_order) add(ORDER, {Verb::reordered, Part::family, to.name});
+    if (!(static_cast<const FamilyInit&>(from) == to)) add(FIELDS, {Verb::changed, Part::family, to.name});
+  }
+
+  void compare_widget(const WidgetState& from, const WidgetState& to) {
+    compare_lists(from.resources, to.resources, Part::resource, to.name,
+                  [&](const ResourceFields& /*before*/, const ResourceFields& now) {
+                    add(OWNED, {Verb::changed, Part::resource, now.name, to.name});
+                  });
+    if (!(static_cast<const WidgetFields&>(from) == to)) add(FIELDS, {Verb::changed, Part::widget, to.name});
+  }
+
+  void compare_enumeration(const EnumState& from, const EnumState& to) {
+    const bool in_order = compare_lists(from.entries, to.entries, Part::entry, to.name,
+                                        [&](const EnumEntryFields& /*before*/, const EnumEntryFields& now) {
+                                          add(OWNED, {Verb::changed, Part::entry, now.name, to.name});
+                                        });
+    if (!in_order) add(ORDER, {Verb::reordered, Part::enumeration, to.name});
+    if (!(static_cast<const EnumFields&>(from) == to)) add(FIELDS, {Verb::changed, Part::enumeration, to.name});
+  }
+
+  void compare_header() {
+    if (!(from_.excluded_classes == to_.excluded_classes)) add(HEADER, {Verb::changed, Part::stop_list});
+    if (from_.names != to_.names) add(HEADER, {Verb::changed, Part::table_names});
+    if (!(from_.output_names == to_.output_names)) add(HEADER, {Verb::changed, Part::output_names});
+  }
+
+  const State& from_;
+  const State& to_;
+  std::vector<Difference> ranks_[RANKS];
+};
+
+}  // namespace
+
+std::vector<Difference> differences(const State& from, const State& to) { return Comparison(from, to).find(); }
+
+}  // namespace vqc
