@@ -453,6 +453,12 @@ TEST_F(KeepStubs, ProcedureThatIsDefinedTwiceBlocksWhenItHasToChange) {
   EXPECT_EQ("6" + words + "8" + words, block(old));
 }
 
+TEST_F(KeepStubs, RetiredStubInWhatIsLeftOutStaysThere) {
+  describe_popups({"a"});
+  const std::string file = "#if 0\n" + retired("a", "void a(Widget w) { }\n") + "#endif\n\n";
+  EXPECT_EQ(file + popup_stub("a") + "\n", kept(file));
+}
+
 TEST_F(KeepStubs, RetiredStubInAFunctionStaysThere) {
   describe_popups({"a"});
   const std::string stub = retired("a", "void a(Widget w) { }\n");

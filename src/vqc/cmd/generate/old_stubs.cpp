@@ -91,9 +91,13 @@ class Reader {
 
   // Retired stubs.
 
+  /// What stands in something that is left out itself cannot come back to life.
   void find_retired() {
+    std::size_t left_out_up_to = 0;
     for (std::size_t i = 0; i < old_.conditionals.all.size(); ++i) {
       const c::Conditional& conditional = old_.conditionals.all[i];
+      if (conditional.tokens.first < left_out_up_to) continue;
+      if (conditional.never && !conditional.has_further) left_out_up_to = conditional.tokens.last;
       const std::string_view name = retired_in(conditional);
       if (!name.empty()) retired_.push_back({name, i, conditional.tokens});
     }
