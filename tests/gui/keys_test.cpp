@@ -236,7 +236,7 @@ class KeysInFields : public Keys {
     expect_text("name", field);
     key("ctrl+z");
     expect_text("", field);
-    key("ctrl+z");
+    key("ctrl+y");
     expect_text("name", field);
     XmTextFieldSetString(field, const_cast<char*>(""));
   }
@@ -291,7 +291,10 @@ class TakingBack : public Keys {
     EXPECT_EQ(after, text("widgetedit_realise"));
     key("ctrl+z");
     EXPECT_EQ(before, text("widgetedit_realise"));
+    key("ctrl+shift+z");
+    EXPECT_EQ(after, text("widgetedit_realise"));
     key("ctrl+z");
+    key("ctrl+y");
     EXPECT_EQ(after, text("widgetedit_realise"));
   }
 };

@@ -140,9 +140,9 @@ TEST_F(TimelineTest, RecordsGoWithTheirLastUseAfterGoingBack) {
 
 TEST_F(TimelineTest, TheMarkOfChangeFollows) {
   describe(kDial);
-  Timeline timeline(document, "a.vqc");
+  Timeline timeline(document, {"a.vqc"});
   document.ensure(document.families, "H");
-  timeline.note(document, "a.vqc");
+  timeline.note(document, {"a.vqc"});
   timeline.undo(document);
   EXPECT_FALSE(document.dirty);
   timeline.redo(document);
@@ -157,9 +157,9 @@ TEST_F(TimelineTest, TheMarkOfChangeFollows) {
 
 TEST_F(TimelineTest, PathsFollow) {
   describe(kDial);
-  Timeline timeline(document, "a.vqc");
+  Timeline timeline(document, {"a.vqc"});
   document.ensure(document.families, "H");
-  timeline.note(document, "a.vqc");
+  timeline.note(document, {"a.vqc"});
   document.clear();
   timeline.note(document, {});
   timeline.undo(document);
@@ -170,6 +170,18 @@ TEST_F(TimelineTest, PathsFollow) {
   timeline.redo(document);
   timeline.redo(document);
   EXPECT_EQ(std::nullopt, timeline.now().path);
+}
+
+TEST_F(TimelineTest, WhatWasSelectedLastIsKnownAgain) {
+  describe(kDial);
+  Timeline timeline(document, {});
+  EXPECT_FALSE(timeline.note(document, {.selection = {"G"}}));
+  remove(document, document.families, "G");
+  EXPECT_TRUE(timeline.note(document, {.selection = {"F"}}));
+  timeline.undo(document);
+  EXPECT_EQ(std::vector<std::string>{"G"}, timeline.now().selection);
+  timeline.redo(document);
+  EXPECT_EQ(std::vector<std::string>{"F"}, timeline.now().selection);
 }
 
 /// Changes a document as its editors do, at random.

@@ -15,6 +15,7 @@
 #include "vqc/cmd/editors/kit/main_shell.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/options.h"
+#include "vqc/cmd/editors/session_history.h"
 #include "vqc/cmd/editors/stop.h"
 
 namespace vqc::editors {
@@ -38,6 +39,9 @@ const WidgetRow menu_rows[] = {
     {"family_file_cascade",       XmCreateCascadeButton, "family_menubar"},
 
     {"family_edit_menu",          XmCreatePulldownMenu,  "family_menubar"},
+    {"family_undob",              XmCreatePushButton,    "family_edit_menu",     on_press(undo_do), FAMILY_UNDO},
+    {"family_redob",              XmCreatePushButton,    "family_edit_menu",     on_press(redo_do), FAMILY_REDO},
+    {"family_edit_separator",     XmCreateSeparator,     "family_edit_menu"},
     {"family_stop_b",             XmCreatePushButton,    "family_edit_menu",     on_press(stoplist_do_popup)},
     {"family_edit_cascade",       XmCreateCascadeButton, "family_menubar"},
 

@@ -8,7 +8,16 @@
 
 namespace vqc::editors {
 
-enum FamilySlot { FAMILY_SHELL, FAMILY_SELECTION, FAMILY_LIST, FAMILY_TEXT, FAMILY_OPTIONS_CASCADE, FAMILY_SLOTS };
+enum FamilySlot {
+  FAMILY_SHELL,
+  FAMILY_SELECTION,
+  FAMILY_LIST,
+  FAMILY_TEXT,
+  FAMILY_OPTIONS_CASCADE,
+  FAMILY_UNDO,
+  FAMILY_REDO,
+  FAMILY_SLOTS,
+};
 
 /// Null in a batch run, and while a session starts.
 inline Widget* family_dialog = nullptr;

@@ -19,6 +19,7 @@
 #include "vqc/cmd/editors/options.h"
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
+#include "vqc/cmd/editors/session_history.h"
 #include "vqc/cmd/editors/stop.h"
 #include "vqc/cmd/editors/title.h"
 
@@ -120,6 +121,7 @@ void run_save_op() {
 /// Saves the document to its file, and goes on with what waits for that.
 void save_document() {
   if (!write_save_file(save_file_path())) return;
+  note_saving();
   vqc_set_title(save_file_path());
   run_save_op();
   save_op = SaveOp::none;
@@ -152,8 +154,9 @@ bool load_document() {
 }
 
 std::span<const CommandKey> file_command_keys() {
-  static constexpr CommandKey keys[] = {
-      {'o', open_do_popup}, {'s', save_do_popup}, {'S', saveas_do_popup}, {'q', do_exit}};
+  static constexpr CommandKey keys[] = {{'o', open_do_popup}, {'s', save_do_popup}, {'S', saveas_do_popup},
+                                        {'q', do_exit},       {'z', undo_do},       {'Z', redo_do},
+                                        {'y', redo_do}};
   return keys;
 }
 

@@ -8,24 +8,24 @@
 
 namespace vqc {
 
-Timeline::Timeline(const Document& document, std::optional<std::string> path)
-    : moments_{{capture(document, nullptr), std::move(path), document.dirty}} {}
+Timeline::Timeline(const Document& document, Surroundings surroundings)
+    : moments_{{std::move(surroundings), capture(document, nullptr), document.dirty}} {}
 
-bool Timeline::note(const Document& document, const std::optional<std::string>& path) {
+bool Timeline::note(const Document& document, Surroundings surroundings) {
   auto state = capture(document, now().state);
   const bool is_step = state != now().state;
   if (is_step) {
     moments_.resize(++now_);
-    moments_.push_back({std::move(state), path, document.dirty});
+    moments_.push_back({{}, std::move(state)});
   }
-  moments_[now_].path = path;
+  static_cast<Surroundings&>(moments_[now_]) = std::move(surroundings);
   moments_[now_].dirty = document.dirty;
   return is_step;
 }
 
 void Timeline::saved(const Document& document, const std::optional<std::string>& path) {
   const std::optional<std::string> before = now().path;
-  note(document, before);
+  note(document, now());
   const auto is_other = [&](const Moment& moment) { return moment.path != before; };
   const auto here = moments_.begin() + static_cast<std::ptrdiff_t>(now_);
   const auto end = std::find_if(here, moments_.end(), is_other);

@@ -11,10 +11,16 @@
 
 namespace vqc {
 
-/// Where a document stands in its history: what it says, the file that it belongs to, and whether it counts as changed.
-struct Moment {
+/// What stands beside a document in a session: the file that it belongs to, and what is selected, in words of whoever
+/// keeps the history.
+struct Surroundings {
+  std::optional<std::string> path = {};
+  std::vector<std::string> selection = {};
+};
+
+/// Where a document stands in its history: what it says, what was beside it last, and whether it counts as changed.
+struct Moment : Surroundings {
   std::shared_ptr<const State> state;
-  std::optional<std::string> path;
   bool dirty = false;
 };
 
@@ -23,11 +29,11 @@ struct Moment {
 class Timeline {
  public:
   /// Begins with what there is.
-  Timeline(const Document& document, std::optional<std::string> path);
+  Timeline(const Document& document, Surroundings surroundings);
 
   /// Takes note of what has been done. True when it was a step, which the document now is behind; what was undone
-  /// before can be redone no more then. A path or a mark of change alone is no step.
-  bool note(const Document& document, const std::optional<std::string>& path);
+  /// before can be redone no more then. Other surroundings or a mark of change alone are no step.
+  bool note(const Document& document, Surroundings surroundings);
   /// The document has been saved as it is now: every other moment differs from its file. Those that had the same path
   /// before get the new one.
   void saved(const Document& document, const std::optional<std::string>& path);

@@ -15,7 +15,6 @@
 #include <cstring>
 #include <vector>
 
-#include "vqc/cmd/editors/kit/memory.h"
 #include "vqc/cmd/editors/kit/polish.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/kit/widgets.h"
@@ -31,7 +30,11 @@ struct GuardedCallback {
 
   static void call(Widget w, XtPointer callback, XtPointer call_data) {
     const auto* self = static_cast<GuardedCallback*>(callback);
-    guarded([=] { self->procedure(w, const_cast<void*>(self->data), call_data); });
+    const auto action = [=] { self->procedure(w, const_cast<void*>(self->data), call_data); };
+    is_typing(w, call_data) ? guarded(action) : act_for_user(action);
+  }
+  static bool is_typing(Widget w, XtPointer call_data) {
+    return is_text(w) && static_cast<XmAnyCallbackStruct*>(call_data)->reason == XmCR_VALUE_CHANGED;
   }
   static void destroy(Widget, XtPointer callback, XtPointer) { delete static_cast<GuardedCallback*>(callback); }
 };

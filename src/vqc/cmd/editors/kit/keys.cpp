@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <cctype>
 
-#include "vqc/cmd/editors/kit/memory.h"
 #include "vqc/cmd/editors/kit/modal.h"
+#include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/kit/undo.h"
 #include "vqc/cmd/editors/kit/widgets.h"
 
@@ -43,11 +43,9 @@ bool edit(Widget field, char letter, XEvent* event) {
   };
   static constexpr Action actions[] = {
       {'a', "select-all"}, {'c', "copy-clipboard"}, {'x', "cut-clipboard"}, {'v', "paste-clipboard"}};
-  if (letter == 'z') {
-    if (is_text(field)) take_back(field);
-    return true;
-  }
-  const auto action = std::ranges::find(actions, letter, &Action::letter);
+  if (letter == 'z') return is_text(field) && take_back(field);
+  if (letter == 'Z' || letter == 'y') return is_text(field) && type_again(field);
+  const auto action = std::ranges::find(actions, lower(letter), &Action::letter);
   if (action == std::end(actions)) return false;
   if (is_text(field)) XtCallActionProc(field, action->name, event, nullptr, 0);
   return true;
@@ -79,7 +77,7 @@ const CommandKey* command_of(char letter) {
 bool act(Widget shell, char letter, XEvent* event) {
   Widget first = modal_shell();
   if (first && first != shell) return true;
-  if (edit(XmGetFocusWidget(shell), lower(letter), event)) return true;
+  if (edit(XmGetFocusWidget(shell), letter, event)) return true;
   const CommandKey* key = command_of(letter);
   if (lower(letter) == 'w') {
     close_window(shell);
@@ -99,7 +97,7 @@ Boolean dispatch_key(XEvent* event) {
   const char letter = letter_with_control(key);
   Widget shell = letter ? window_of(key) : nullptr;
   bool done = false;
-  if (shell) guarded([&] { done = act(shell, letter, event); });
+  if (shell) act_for_user([&] { done = act(shell, letter, event); });
   if (done) return True;
   return usual_dispatch(event);
 }

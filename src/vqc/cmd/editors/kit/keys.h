@@ -16,8 +16,9 @@ struct CommandKey {
 };
 
 /// Lets the letters with Ctrl mean the same in every window that is made from now on: the `commands`, which a dialog
-/// that has to be answered first keeps waiting, W to close the window, and A, C, X, V and Z to select all, copy, cut,
-/// paste and take back in a text field. What else is typed with Ctrl is left to menus, and never becomes text.
+/// that has to be answered first keeps waiting, W to close the window, and A, C, X and V to select all, copy, cut and
+/// paste in a text field. Z takes back what has been typed in it, Shift+Z and Y type it again; they are commands where
+/// there is nothing of that. What else is typed with Ctrl is left to menus, and never becomes text.
 void use_keys(Display* display, std::span<const CommandKey> commands);
 
 }  // namespace vqc::editors

@@ -57,6 +57,15 @@ void select_name(const ListEditor& editor, Name name) {
   if (editor.selected) editor.selected(name);
 }
 
+std::string selected_name(const ListEditor& editor) { return list_selected(editor.list()); }
+
+void choose_name(const ListEditor& editor, Name name) {
+  if (!editor.box() || !editor.names.has(name)) return;
+  list_select(editor.list(), name);
+  settextf(editor.name_field(), name);
+  select_name(editor, name);
+}
+
 void with_name(Widget w, XtPointer call, const ListEditor& editor, void (*action)(const ListEditor&, Name)) {
   const auto* box_call = static_cast<XmSelectionBoxCallbackStruct*>(call);
   const std::string name = undistorted(editor.name_field(), text_of(box_call->value));

@@ -87,6 +87,11 @@ void delete_name(const ListEditor& editor, Name name);
 void accept_name(const ListEditor& editor, Name name);
 void select_name(const ListEditor& editor, Name name);
 
+/// The name that is selected in the list; empty for none.
+std::string selected_name(const ListEditor& editor);
+/// Selects a name of the list, as a click on it does. Nothing for a name that is not there.
+void choose_name(const ListEditor& editor, Name name);
+
 /// Calls `action` with the name that a box's callback brings, if there is one.
 void with_name(Widget w, XtPointer call, const ListEditor& editor, void (*action)(const ListEditor&, Name));
 /// The same with the name that has been clicked in its list. It stands in the name field then, to be typed over.

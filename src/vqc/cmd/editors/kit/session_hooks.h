@@ -5,14 +5,26 @@
 
 #include <Xm/Xm.h>
 
+#include "vqc/cmd/editors/kit/memory.h"
+
 namespace vqc::editors {
 
-/// What the editors leave to the application. Either may be null.
+/// What the editors leave to the application. Each may be null.
 struct SessionHooks {
+  void (*acted)() = nullptr;                            // hears that the user has done something
   void (*end)(int status) = nullptr;                    // ends the session
   void (*help)(Widget w, const char* topic) = nullptr;  // shows a page of help
 };
 inline SessionHooks session_hooks;
+
+/// Does what the user asks for. Nothing may be thrown into the toolkit.
+template <class Action>
+void act_for_user(Action action) {
+  guarded([&] {
+    action();
+    if (session_hooks.acted) session_hooks.acted();
+  });
+}
 
 /// The callback of every Help button; the client data is the topic.
 void vqc_do_help(Widget w, XtPointer topic, XtPointer);

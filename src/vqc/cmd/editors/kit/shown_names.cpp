@@ -97,6 +97,23 @@ int list_position(Widget list, Name name) {
   return place == shown.end() ? 0 : static_cast<int>(place - shown.begin()) + 1;
 }
 
+std::string list_selected(Widget list) {
+  int* places = nullptr;
+  int count = 0;
+  if (!list || !XmListGetSelectedPos(list, &places, &count)) return {};
+  const auto place = static_cast<std::size_t>(places[0]);
+  XtFree(reinterpret_cast<char*>(places));
+  const std::vector<std::string>& names = names_in(list);
+  return place <= names.size() ? names[place - 1] : std::string();
+}
+
+void list_select(Widget list, Name name) {
+  const int place = list_position(list, name);
+  if (place == 0) return;
+  XmListSelectPos(list, place, False);
+  bring_into_view(list, place);
+}
+
 std::string clicked_name(Widget list, const XmListCallbackStruct& call) {
   const std::vector<std::string>& names = names_in(list);
   const auto place = static_cast<std::size_t>(call.item_position);

@@ -24,6 +24,10 @@ void list_move(Widget list, int from, int to);
 const std::vector<std::string>& list_names(Widget list);
 /// The place of a name; 0 when it is absent.
 int list_position(Widget list, Name name);
+/// The name that is selected; empty for none, and where there is no list.
+std::string list_selected(Widget list);
+/// Selects a name and scrolls so that it is seen; calls nobody.
+void list_select(Widget list, Name name);
 /// The name that a click on a list means.
 std::string clicked_name(Widget list, const XmListCallbackStruct& call);
 

@@ -22,9 +22,10 @@ constexpr XmTextPosition kNowhere = -1;
 
 /// A run of changes that are taken back together.
 struct Run {
-  std::string before;       // what the field held
+  std::string before;       // what the field held; what it is to hold again when the run is taken back
   XmTextPosition rest = 0;  // how many characters of that, behind the place of the changes, stay as they are
   XmTextPosition end = 0;   // where the run goes on; kNowhere when it does not
+  bool is_taken_back = false;
 };
 
 /// By field.
@@ -78,6 +79,21 @@ void text_changes(Widget field, XtPointer, XtPointer call) {
   }
 }
 
+/// Takes a run back or puts it in again, if it is the other way.
+bool exchange_text(Widget field, bool is_taken_back) {
+  const auto found = runs().find(field);
+  if (found == runs().end() || found->second.is_taken_back != is_taken_back) return false;
+  Run& run = found->second;
+  std::string text = std::exchange(run.before, characters_in(field));
+  run.end = kNowhere;
+  run.is_taken_back = !is_taken_back;
+  taking_back = true;
+  set_characters(field, std::move(text));
+  taking_back = false;
+  XmTextSetInsertionPosition(field, XmTextGetLastPosition(field) - run.rest);
+  return true;
+}
+
 void focus_lost(Widget field, XtPointer, XtPointer) {
   const auto run = runs().find(field);
   if (run != runs().end()) run->second.end = kNowhere;
@@ -93,16 +109,8 @@ void watch_typing(Widget field) {
 
 void forget_typing(Widget field) { runs().erase(field); }
 
-void take_back(Widget field) {
-  const auto found = runs().find(field);
-  if (found == runs().end()) return;
-  Run& run = found->second;
-  std::string text = std::exchange(run.before, characters_in(field));
-  run.end = kNowhere;
-  taking_back = true;
-  set_characters(field, std::move(text));
-  taking_back = false;
-  XmTextSetInsertionPosition(field, XmTextGetLastPosition(field) - run.rest);
-}
+bool take_back(Widget field) { return exchange_text(field, false); }
+
+bool type_again(Widget field) { return exchange_text(field, true); }
 
 }  // namespace vqc::editors

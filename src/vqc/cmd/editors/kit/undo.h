@@ -13,8 +13,10 @@ void watch_typing(Widget field);
 /// Forgets it: what the program has written into the field cannot be taken back.
 void forget_typing(Widget field);
 
-/// Puts back what is remembered of a field. Doing so again takes that back.
-void take_back(Widget field);
+/// Puts back what is remembered of a field. False when there is nothing to take back.
+bool take_back(Widget field);
+/// Puts in again what has just been taken back. False when there is nothing of that.
+bool type_again(Widget field);
 
 }  // namespace vqc::editors
 

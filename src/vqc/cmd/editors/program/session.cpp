@@ -30,6 +30,7 @@
 #include "vqc/cmd/editors/program/exit.h"
 #include "vqc/cmd/editors/program/help.h"
 #include "vqc/cmd/editors/program/resources.h"
+#include "vqc/cmd/editors/session_history.h"
 #include "vqc/cmd/editors/title.h"
 #include "vqc/cmd/editors/widgetlist.h"
 
@@ -51,7 +52,7 @@ void install_hooks() {
   converter_kind.on_current = current_converter_changed;
   page_pool.on_current = current_page_changed;
   popup_pool.on_current = current_popup_changed;
-  session_hooks = {.end = ExitVQConfig, .help = show_help};
+  session_hooks = {.acted = note_action, .end = ExitVQConfig, .help = show_help};
 }
 
 void register_converters() {
@@ -102,7 +103,10 @@ bool start_session(int argc, char** argv) {
   if (!vqc_generate_options()) XtUnmanageChild(family_dialog[FAMILY_OPTIONS_CASCADE]);
   set_icon(shell);
   show_main_window(shell, XtParent(family_dialog[FAMILY_SELECTION]));
-  guarded([shell] { load_first_document(shell); });
+  guarded([shell] {
+    load_first_document(shell);
+    begin_history();
+  });
   return true;
 }
 

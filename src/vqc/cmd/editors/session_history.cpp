@@ -1,0 +1,116 @@
+// Undo and redo: the history of the session, and showing what it brings back.
+
+#include "vqc/cmd/editors/session_history.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "libkel/message.h"
+#include "vqc/cmd/editors/aliaslist.h"
+#include "vqc/cmd/editors/convlist.h"
+#include "vqc/cmd/editors/enumedit.h"
+#include "vqc/cmd/editors/enumlist.h"
+#include "vqc/cmd/editors/familylist.h"
+#include "vqc/cmd/editors/headerlists.h"
+#include "vqc/cmd/editors/kit/compound.h"
+#include "vqc/cmd/editors/kit/cursor.h"
+#include "vqc/cmd/editors/options.h"
+#include "vqc/cmd/editors/pagelist.h"
+#include "vqc/cmd/editors/popuplist.h"
+#include "vqc/cmd/editors/step_names.h"
+#include "vqc/cmd/editors/stop.h"
+#include "vqc/cmd/editors/title.h"
+#include "vqc/cmd/editors/widgetlist.h"
+#include "vqc/cmd/history/timeline.h"
+
+namespace vqc::editors {
+
+namespace {
+
+std::optional<Timeline> timeline;
+
+/// The lists in which something can be selected. What is selected in one decides what the next ones show.
+ListEditor* const lists[] = {&family_editor,         &widgetlist_editor,       &enumlist_editor,
+                             &aliaslist_editor,      &converterlist_editor,    &codeheaderlist_editor,
+                             &confheaderlist_editor, &familyheaderlist_editor, &enumentry_editor};
+
+Surroundings surroundings() {
+  Surroundings now{save_file, {}};
+  for (const ListEditor* editor : lists) now.selection.push_back(selected_name(*editor));
+  return now;
+}
+
+/// Fills again what shows the document. What is current stays so where it is still there.
+void refill_windows() {
+  show_stop_list();
+  family_display();
+  family_pool.set_current(family_pool.current());
+  widget_kind.set_current(widget_kind.current());
+  enum_kind.set_current(enum_kind.current());
+  alias_kind.set_current(alias_kind.current());
+  converter_kind.set_current(converter_kind.current());
+  refresh_names(page_picker);
+  refresh_names(popup_picker);
+  options_dialog_load();
+}
+
+void select_again(const std::vector<std::string>& selection) {
+  auto name = selection.begin();
+  for (const ListEditor* editor : lists) choose_name(*editor, *name++);
+}
+
+void show_now() {
+  save_file = timeline->now().path;
+  vqc_set_title(save_file_path());
+  refill_windows();
+  select_again(timeline->now().selection);
+}
+
+/// Says in a menu item what it would do.
+void name_item(FamilySlot slot, const char* plain, const char* with_step, const std::string& step) {
+  Widget item = family_dialog[slot];
+  const std::string label = step.empty() ? text_or_name(plain) : filled(text_or_name(with_step), {step.c_str()});
+  XtVaSetValues(item, XmNlabelString, CompoundString(label.c_str()).get(), nullptr);
+  XtSetSensitive(item, step.empty() ? False : True);
+}
+
+void show_steps() {
+  const std::string back = timeline->can_undo() ? step_name(timeline->previous(), timeline->now()) : std::string();
+  const std::string on = timeline->can_redo() ? step_name(timeline->now(), timeline->next()) : std::string();
+  name_item(FAMILY_UNDO, "undo", "undo_step", back);
+  name_item(FAMILY_REDO, "redo", "redo_step", on);
+}
+
+}  // namespace
+
+void begin_history() {
+  timeline.emplace(edited_document, surroundings());
+  show_steps();
+}
+
+void note_action() {
+  if (timeline && timeline->note(edited_document, surroundings())) show_steps();
+}
+
+void note_saving() {
+  if (timeline) timeline->saved(edited_document, save_file);
+}
+
+void undo_do(Widget w, XtPointer, XtPointer) {
+  if (!timeline || !timeline->can_undo()) return;
+  const BusyCursor busy(w);
+  timeline->undo(edited_document);
+  show_now();
+  show_steps();
+}
+
+void redo_do(Widget w, XtPointer, XtPointer) {
+  if (!timeline || !timeline->can_redo()) return;
+  const BusyCursor busy(w);
+  timeline->redo(edited_document);
+  show_now();
+  show_steps();
+}
+
+}  // namespace vqc::editors
