@@ -459,6 +459,12 @@ TEST_F(KeepStubs, RetiredStubInWhatIsLeftOutStaysThere) {
   EXPECT_EQ(file + popup_stub("a") + "\n", kept(file));
 }
 
+TEST_F(KeepStubs, RetiredStubWithAnotherInItStaysRetired) {
+  describe_popups({"a", "b"});
+  const std::string file = retired("a", retired("b", "void b(Widget w) { }\n") + "void a(Widget w) { }\n") + "\n";
+  EXPECT_EQ(file + popup_stub("a") + popup_stub("b") + "\n", kept(file));
+}
+
 TEST_F(KeepStubs, RetiredStubInAFunctionStaysThere) {
   describe_popups({"a"});
   const std::string stub = retired("a", "void a(Widget w) { }\n");

@@ -91,17 +91,23 @@ class Reader {
 
   // Retired stubs.
 
-  /// What stands in something that is left out itself cannot come back to life.
+  /// What stands in something that is left out itself cannot come back to life, and neither can what has such a thing
+  /// in it: that would be alive then.
   void find_retired() {
     std::size_t left_out_up_to = 0;
     for (std::size_t i = 0; i < old_.conditionals.all.size(); ++i) {
       const c::Conditional& conditional = old_.conditionals.all[i];
-      if (conditional.tokens.first < left_out_up_to) continue;
-      if (conditional.never && !conditional.has_further) left_out_up_to = conditional.tokens.last;
       const std::string_view name = retired_in(conditional);
+      if (conditional.tokens.first < left_out_up_to) {
+        if (!name.empty() && has_retired_around(conditional.tokens.first)) retired_.pop_back();
+        continue;
+      }
+      if (conditional.never && !conditional.has_further) left_out_up_to = conditional.tokens.last;
       if (!name.empty()) retired_.push_back({name, i, conditional.tokens});
     }
   }
+
+  bool has_retired_around(std::size_t token) const { return !retired_.empty() && retired_.back().tokens.holds(token); }
 
   std::string_view retired_in(const c::Conditional& conditional) const {
     const auto [first, last] = conditional.tokens;
