@@ -1,13 +1,16 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <variant>
 #include <vector>
 
 #include "support/document.h"
 #include "vqc/cmd/savefile/fields.h"
+#include "vqc/cmd/savefile/load.h"
 #include "vqc/cmd/savefile/save.h"
 
 using namespace vqc;
@@ -120,6 +123,20 @@ class OddDocument {
     }
   }
 
+  /// Lets families have less than they are given, and in another order.
+  void rearrange() {
+    for (Family& family : document_.families) {
+      each_family_list([&](auto list, auto pool) {
+        using Reference = typename std::remove_reference_t<decltype(family.*list)>::Element;
+        std::vector<Reference*> references;
+        for (Reference& reference : family.*list) references.push_back(&reference);
+        std::ranges::shuffle(references, random_);
+        (family.*list).arrange(references);
+        if (below(2) == 0 && !references.empty()) document_.remove(family.*list, document_.*pool, references.back());
+      });
+    }
+  }
+
  private:
   int below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
 
@@ -209,10 +226,18 @@ class OddDocument {
 
 class SaveWhole : public DocumentTest {
  protected:
-  /// The document as it is read again.
+  /// The document as load_whole() reads it again.
   std::vector<std::string> read_again(const Document& written) {
     document.clear();
-    const LoadResult result = read_document(saved_whole(written));
+    return contents_after(load_whole(Source::from_text(saved_whole(written)), document, diagnostics));
+  }
+  std::vector<std::string> read_as_any(const Document& written) {
+    document.clear();
+    return contents_after(read_document(saved_whole(written)));
+  }
+
+ private:
+  std::vector<std::string> contents_after(const LoadResult& result) const {
     EXPECT_TRUE(result.has_header);
     EXPECT_FALSE(result.first_error);
     return Contents(document).lines;
@@ -222,9 +247,25 @@ class SaveWhole : public DocumentTest {
 TEST_F(SaveWhole, IsReadAsTheSameDocument) {
   for (unsigned seed = 1; seed <= 1000; ++seed) {
     Document written;
-    OddDocument(seed, written);
+    OddDocument odd(seed, written);
+    ASSERT_EQ(Contents(written).lines, read_as_any(written)) << "seed " << seed << '\n' << saved_whole(written);
+    odd.rearrange();
     ASSERT_EQ(Contents(written).lines, read_again(written)) << "seed " << seed << '\n' << saved_whole(written);
   }
+}
+
+TEST_F(SaveWhole, KeepsTheOrderOfWhatAFamilyHas) {
+  Document written;
+  Family* family = written.ensure(written.families, "F");
+  for (const char* name : {"a", "b"}) written.ensure(family->aliases, written.aliases, name);
+  family->aliases.move_down(family->aliases.find("a"));
+  family->pages.move_up(family->pages.find("misc"));
+  family->pages.move_up(family->pages.find("misc"));
+  read_again(written);
+  ASSERT_TRUE(document.families.find("F"));
+  EXPECT_EQ((Names{"b", "a"}), names_in(document.families.find("F")->aliases));
+  EXPECT_EQ((Names{"display", "margins", "misc", "settings", "callbacks"}),
+            names_in(document.families.find("F")->pages));
 }
 
 TEST_F(SaveWhole, PutsABackslashBeforeQuotesAndBackslashes) {
