@@ -341,14 +341,26 @@ TEST_F(VersionsTest, FollowNoLinks) {
   fs::remove(content);
   fs::create_symlink(target, content);
   EXPECT_EQ(Texts{}, texts_of(document));
+  fs::rename(kept + "/index", folder / "moved");
+  fs::create_symlink(folder / "moved", kept + "/index");
+  EXPECT_EQ(std::errc::too_many_symbolic_link_levels, versions.keep_text(document, "two", Reason::crash, now));
+  EXPECT_EQ(std::errc::too_many_symbolic_link_levels, versions.thin(now));
   fs::remove(kept + "/index");
-  fs::create_symlink(target, kept + "/index");
-  keep_of(2min, "two");
-  EXPECT_EQ("one", read_file(target));
-  EXPECT_EQ(Texts{"two"}, texts_of(document));
   fs::remove(kept + "/lock");
   fs::create_symlink(target, kept + "/lock");
-  EXPECT_EQ(std::errc::too_many_symbolic_link_levels, versions.keep_text(document, "three", Reason::crash, now));
+  EXPECT_EQ(std::errc::too_many_symbolic_link_levels, versions.keep_text(document, "two", Reason::crash, now));
+  EXPECT_EQ("one", read_file(target));
+}
+
+TEST_F(VersionsTest, StayWhileTheirIndexCannotBeRead) {
+  const AsSomebody somebody(folder.path());
+  keep_of(days(32), "one");
+  chmod((kept + "/index").c_str(), 0);
+  EXPECT_EQ(std::errc::permission_denied, versions.keep_text(document, "two", Reason::crash, now));
+  EXPECT_EQ(std::errc::permission_denied, versions.thin(now));
+  EXPECT_EQ(Texts{}, texts_of(document));
+  chmod((kept + "/index").c_str(), 0600);
+  EXPECT_EQ(Texts{"one"}, texts_of(document));
 }
 
 TEST_F(VersionsTest, AreNotKeptInAFolderThatIsALink) {

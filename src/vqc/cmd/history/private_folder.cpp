@@ -84,7 +84,8 @@ bool PrivateFolder::put(const std::string& name, std::initializer_list<std::stri
   const int folder = folder_.get();
   unlinkat(folder, temporary.c_str(), 0);  // a killed writer may have left it
   const bool is_put = write_beside(temporary, parts) &&
-                      renameat(folder, temporary.c_str(), folder, name.c_str()) == 0 && fsync(folder) == 0;
+                      renameat(folder, temporary.c_str(), folder, name.c_str()) == 0 &&
+                      (fsync(folder) == 0 || errno == EINVAL);  // not all file systems do that for folders
   const int error = errno;
   if (!is_put) unlinkat(folder, temporary.c_str(), 0);
   errno = error;

@@ -90,16 +90,22 @@ std::string line_of(const Entry& entry) {
   return object.dump() + '\n';
 }
 
-/// The lines that can be read.
-Entries read_index(const PrivateFolder& folder) {
+/// What its lines say, as far as they can be read.
+Entries entries_in(std::string_view index) {
   Entries entries;
-  const std::string text = folder.text(kIndex).value_or("");
-  for (std::string_view rest = text; !rest.empty();) {
-    const std::string_view line = rest.substr(0, rest.find('\n'));
+  while (!index.empty()) {
+    const std::string_view line = index.substr(0, index.find('\n'));
     if (auto entry = entry_of(line)) entries.push_back(std::move(*entry));
-    rest.remove_prefix(std::min(line.size() + 1, rest.size()));
+    index.remove_prefix(std::min(line.size() + 1, index.size()));
   }
   return entries;
+}
+
+/// Nothing when there is an index that cannot be read, and so must not be replaced; errno says why.
+std::optional<Entries> read_index(const PrivateFolder& folder) {
+  const std::optional<std::string> index = folder.text(kIndex);
+  if (!index && errno != ENOENT) return std::nullopt;
+  return entries_in(index.value_or(""));
 }
 
 bool write_index(const PrivateFolder& folder, const Entries& entries) {
@@ -183,6 +189,15 @@ void make_fit(Entries& entries, const PrivateFolder& folder, std::uintmax_t most
   entries.erase(std::ranges::find_if_not(entries, fits), entries.end());
 }
 
+Entries thinned(Entries entries, const PrivateFolder& folder, Versions::Time now, std::uintmax_t most_bytes) {
+  std::ranges::reverse(entries);
+  Sieve sieve(now);
+  std::erase_if(entries, [&](const Entry& entry) { return !sieve.keeps(entry); });
+  make_fit(entries, folder, most_bytes);
+  std::ranges::reverse(entries);
+  return entries;
+}
+
 /// Removes contents that no entry names, and what killed writers have left of any.
 void remove_unnamed(const PrivateFolder& folder, const Entries& entries) {
   std::set<std::string> named;
@@ -210,16 +225,17 @@ std::error_code Versions::keep_text(const fs::path& path, std::string_view text,
   const PrivateFolder folder = PrivateFolder::make(folder_);
   const Lock lock(folder);
   if (!lock || !keep_content(folder, entry.content, text)) return last_error();
-  Entries entries = read_index(folder);
-  add(entries, entry);
-  return write_index(folder, entries) ? std::error_code() : last_error();
+  std::optional<Entries> entries = read_index(folder);
+  if (!entries) return last_error();
+  add(*entries, entry);
+  return write_index(folder, *entries) ? std::error_code() : last_error();
 }
 
 std::vector<Version> Versions::of(const fs::path& path) const {
   std::vector<Version> versions;
   const PrivateFolder folder = PrivateFolder::open(folder_);
   if (!folder) return versions;
-  Entries entries = read_index(folder);
+  Entries entries = read_index(folder).value_or(Entries());
   std::ranges::reverse(entries);
   std::erase_if(entries, [wanted = kept_path(path)](const Entry& entry) { return entry.path != wanted; });
   for (const Entry& entry : entries) {
@@ -240,14 +256,10 @@ std::error_code Versions::thin(Time now) const {
   if (!folder) return errno == ENOENT ? std::error_code() : last_error();
   const Lock lock(folder);
   if (!lock) return last_error();
-  Entries entries = read_index(folder);
-  const std::size_t before = entries.size();
-  std::ranges::reverse(entries);
-  Sieve sieve(now);
-  std::erase_if(entries, [&](const Entry& entry) { return !sieve.keeps(entry); });
-  make_fit(entries, folder, most_bytes_);
-  std::ranges::reverse(entries);
-  if (entries.size() < before && !write_index(folder, entries)) return last_error();
+  const std::optional<Entries> all = read_index(folder);
+  if (!all) return last_error();
+  const Entries entries = thinned(*all, folder, now, most_bytes_);
+  if (entries.size() < all->size() && !write_index(folder, entries)) return last_error();
   remove_unnamed(folder, entries);
   return {};
 }
