@@ -1,6 +1,7 @@
 #ifndef LIBKEL_DESCRIPTOR_H
 #define LIBKEL_DESCRIPTOR_H
 
+#include <fcntl.h>
 #include <sys/types.h>
 
 #include <string_view>
@@ -27,6 +28,19 @@ class Descriptor {
 
   /// Writes all of a text. False on failure; errno says why.
   bool write(std::string_view text) const;
+  /// Whether the file is the one at a path, which begins at an open folder unless it is absolute. Links are not
+  /// followed.
+  bool is_at(const char* path, int folder = AT_FDCWD) const;
+
+  // Locks of the whole file, which end when it is closed, or its process ends.
+
+  /// Locks the file, and waits for who has it locked. Where the file system knows no locks, there is none.
+  void lock() const;
+  /// Locks the file unless somebody has it locked. Whether it did.
+  bool try_lock() const;
+  /// Whether somebody has the file locked. Nobody who asks is taken for that.
+  bool is_locked() const;
+
   /// Closes the file, if there is one. False when what has been written is lost; errno says why.
   bool close();
 

@@ -8,7 +8,6 @@
 
 #include <fcntl.h>
 #include <linux/magic.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/vfs.h>
 #include <unistd.h>
@@ -98,22 +97,9 @@ fs::path temporary_beside(const fs::path& place) {
   return place.parent_path() / ("." + known + ".vqc-new");
 }
 
-/// Whether an open file is the one at a path.
-bool is_at(const Descriptor& file, const fs::path& path) {
-  Status open_file{};
-  Status there{};
-  return fstat(file.get(), &open_file) == 0 && lstat(path.c_str(), &there) == 0 && same(open_file, there);
-}
-
 bool is_empty(const Descriptor& file) {
   Status status{};
   return fstat(file.get(), &status) == 0 && status.st_size == 0;
-}
-
-/// Waits for who has the lock. Where the file system knows no locks, there is none.
-void lock(const Descriptor& file) {
-  while (flock(file.get(), LOCK_EX) != 0 && errno == EINTR) {
-  }
 }
 
 /// A new temporary file, locked. None when it cannot be made; errno says why.
@@ -121,8 +107,8 @@ Descriptor locked_temporary(const fs::path& path) {
   for (;;) {
     Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC, kReadWriteAll));
     if (!file) return file;
-    lock(file);
-    if (!is_at(file, path)) continue;  // who had the lock has put it in place
+    file.lock();
+    if (!file.is_at(path.c_str())) continue;  // who had the lock has put it in place
     if (is_empty(file)) return file;
     unlink(path.c_str());  // a killed run has left it
   }

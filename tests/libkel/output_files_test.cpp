@@ -6,9 +6,7 @@
 #include <cerrno>
 #include <chrono>
 #include <climits>
-#include <csignal>
 #include <filesystem>
-#include <functional>
 #include <string>
 #include <system_error>
 #include <thread>
@@ -16,13 +14,12 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
-#include <sys/ptrace.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include "support/files.h"
+#include "support/process.h"
 
 using namespace vqc;
 
@@ -269,15 +266,10 @@ TEST_F(OutputFilesTest, AreLeftAloneWhenADeviceIsFull) {
 TEST_F(OutputFilesTest, AreLeftAloneWhenOneFindsNoRoom) {
   write_file(a, "old a");
   write_file(b, "old b");
-  std::signal(SIGXFSZ, SIG_IGN);
-  rlimit usual{};
-  getrlimit(RLIMIT_FSIZE, &usual);
-  const rlimit small{5000, usual.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &small);
-  const std::string said = complaint({{a, "new a"}, {b, std::string(10000, 'b')}});
-  setrlimit(RLIMIT_FSIZE, &usual);
-  std::signal(SIGXFSZ, SIG_DFL);
-  EXPECT_EQ(b + ": File too large", said);
+  {
+    const RoomForFiles little(5000);
+    EXPECT_EQ(b + ": File too large", complaint({{a, "new a"}, {b, std::string(10000, 'b')}}));
+  }
   EXPECT_EQ("old a", read_file(a));
   EXPECT_EQ("old b", read_file(b));
   EXPECT_EQ((Names{"a.c", "b.c"}), names());
@@ -296,24 +288,6 @@ TEST_F(OutputFilesTest, CannotBeFolders) {
   write_file(a, "text");
   EXPECT_EQ(a + "/: Not a directory", complaint({{a + "/", "text"}}));
 }
-
-/// Runs as a user to whom permissions apply.
-class AsSomebody {
- public:
-  explicit AsSomebody(const std::string& owned_folder) {
-    if (!is_root_) return;
-    if (chown(owned_folder.c_str(), kNobody, kNobody) != 0 || seteuid(kNobody) != 0) std::abort();
-  }
-  AsSomebody(const AsSomebody&) = delete;
-  AsSomebody& operator=(const AsSomebody&) = delete;
-  ~AsSomebody() {
-    if (is_root_ && seteuid(0) != 0) std::abort();
-  }
-
- private:
-  static constexpr uid_t kNobody = 65534;
-  bool is_root_ = geteuid() == 0;
-};
 
 TEST_F(OutputFilesTest, CannotBeWrittenInAReadOnlyFolder) {
   const AsSomebody somebody(folder.path());
@@ -406,18 +380,6 @@ TEST_F(OutputFilesTest, WaitForARunThatMakesThem) {
   EXPECT_EQ(Names{"a.c"}, names());
 }
 
-/// Runs something in a process of its own, which ends with 0, or 1 after an exception. Gives the process.
-pid_t in_process(const std::function<void()>& what) {
-  const pid_t process = fork();
-  if (process != 0) return process;
-  try {
-    what();
-  } catch (const std::exception&) {
-    _exit(1);
-  }
-  _exit(0);
-}
-
 TEST_F(OutputFilesTest, OfTwoRunsAtOnceAreThoseOfOne) {
   for (int round = 0; round < 20; ++round) {
     std::vector<pid_t> runs;
@@ -441,27 +403,6 @@ TEST_F(OutputFilesTest, OfTwoRunsAtOnceAreThoseOfOne) {
     EXPECT_EQ(read_file(a), read_file(c));
     ASSERT_EQ((Names{"a.c", "b.c", "c.c"}), names());
   }
-}
-
-/// Runs something in a process of its own, which is killed when it stops for the n-th time: before or after each call
-/// of the system. False when it had come to its end.
-bool killed_at_stop(int n, const std::function<void()>& what) {
-  const pid_t process = in_process([&] {
-    if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) throw std::runtime_error("cannot be traced");
-    raise(SIGSTOP);
-    what();
-  });
-  int status = 0;
-  waitpid(process, &status, 0);
-  EXPECT_TRUE(WIFSTOPPED(status)) << "the process cannot be traced";
-  for (int stops = 0; WIFSTOPPED(status) && stops < n; ++stops) {
-    ptrace(PTRACE_SYSCALL, process, nullptr, nullptr);
-    waitpid(process, &status, 0);
-  }
-  if (!WIFSTOPPED(status)) return false;
-  kill(process, SIGKILL);
-  waitpid(process, &status, 0);
-  return true;
 }
 
 TEST_F(OutputFilesTest, AreWholeWheneverARunIsKilledAndTheNextCompletesThem) {

@@ -17,6 +17,10 @@ namespace vqc {
 LoadResult load(const std::shared_ptr<const Source>& source, Document& document, Diagnostics& findings,
                 AfterError after_error = AfterError::stop, Places* places = nullptr);
 
+/// Reads what save_whole() has written into an empty document, up to the first error. Each family has what is said of
+/// it and no more, in that order: neither all predefined pages and popups, nor the popups of its converters.
+LoadResult load_whole(const std::shared_ptr<const Source>& source, Document& document, Diagnostics& findings);
+
 }  // namespace vqc
 
 #endif

@@ -44,6 +44,19 @@ void strout(Sink& out, Text text) {
   out.write("'");
 }
 
+void quoteout(Sink& out, Text text) {
+  out.write("'");
+  std::string_view rest = text.view();
+  for (std::size_t i = rest.find_first_of("'\\"); i != std::string_view::npos; i = rest.find_first_of("'\\")) {
+    out.write(rest.substr(0, i));
+    out.write("\\");
+    out.write(rest.substr(i, 1));
+    rest.remove_prefix(i + 1);
+  }
+  out.write(rest);
+  out.write("'");
+}
+
 void stringout(Sink& out, Text text) {
   out.write("\"");
   charout(out, text);

@@ -9,7 +9,7 @@
 
 namespace vqc {
 
-// The primitives through which the document and the generated files are written. Nothing is escaped.
+// The primitives through which the document and the generated files are written. Only quoteout() escapes.
 
 /// Opens `path` for writing. Null after reporting "file_open_fail", also when it is null.
 std::unique_ptr<FileSink> openfile(const char* path);
@@ -25,6 +25,9 @@ void charout_1s(Sink& out, std::string_view format, std::string_view argument);
 
 /// Prints `text`, as charout() does, between single quotes.
 void strout(Sink& out, Text text);
+
+/// Prints `text` between single quotes so that the lexer reads it as it stands.
+void quoteout(Sink& out, Text text);
 
 /// Prints `text`, as charout() does, between double quotes.
 void stringout(Sink& out, Text text);

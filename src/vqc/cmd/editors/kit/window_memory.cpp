@@ -6,11 +6,12 @@
 #include <X11/Xutil.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <optional>
 #include <sstream>
+
+#include "libkel/state_folder.h"
 
 namespace vqc::editors {
 
@@ -23,10 +24,8 @@ using Lines = std::map<std::pair<std::string, std::string>, ScreenArea>;
 
 /// The file; empty when the user has no folder for it.
 fs::path memory_file() {
-  const char* state = std::getenv("XDG_STATE_HOME");
-  if (state && *state == '/') return fs::path(state) / "vqconfig" / "windows";
-  const char* home = std::getenv("HOME");
-  return home && *home == '/' ? fs::path(home) / ".local/state/vqconfig/windows" : fs::path();
+  const fs::path folder = state_folder();
+  return folder.empty() ? folder : folder / "windows";
 }
 
 std::string size_of(const ScreenArea& area) { return std::to_string(area.width) + "x" + std::to_string(area.height); }
@@ -89,9 +88,9 @@ void keep_windows(const ScreenArea& screen, const WindowMemory& windows) {
   if (path.empty() || windows.empty()) return;
   Lines lines = read_lines();
   for (const auto& [name, area] : windows) lines[{size_of(screen), name}] = area;
-  std::error_code failure;
-  fs::create_directories(path.parent_path(), failure);
+  if (make_private_folder(path.parent_path())) return;
   const fs::path unfinished = path.string() + "." + std::to_string(getpid());
+  std::error_code failure;
   if (write_lines(unfinished, lines)) fs::rename(unfinished, path, failure);
   fs::remove(unfinished, failure);
 }
