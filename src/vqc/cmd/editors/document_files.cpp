@@ -6,6 +6,7 @@
 
 #include "libkel/message.h"
 #include "vqc/cmd/editors/kit/edited_document.h"
+#include "vqc/cmd/editors/safety_net.h"
 #include "vqc/cmd/savefile/load.h"
 #include "vqc/cmd/savefile/save.h"
 #include "vqc/cmd/savefile/util.h"
@@ -46,6 +47,7 @@ int parseit(std::optional<std::string>& path, int fresh) {
 }
 
 bool write_save_file(const char* path) {
+  keep_before(path, Reason::before_save);
   const std::unique_ptr<FileSink> out = openfile(path);
   if (!out) return false;
   save(edited_document, *out);

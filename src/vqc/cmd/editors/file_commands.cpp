@@ -19,6 +19,7 @@
 #include "vqc/cmd/editors/options.h"
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
+#include "vqc/cmd/editors/safety_net.h"
 #include "vqc/cmd/editors/session_history.h"
 #include "vqc/cmd/editors/stop.h"
 #include "vqc/cmd/editors/title.h"
@@ -169,6 +170,7 @@ void show_document() {
 void do_new(Widget w, XtPointer, XtPointer) { unless_changed(w, SaveOp::start_new, really_do_new); }
 
 void really_do_new() {
+  keep_unsaved();
   edited_document.clear();
   options_dialog_reset();
   save_file = std::nullopt;
@@ -187,6 +189,7 @@ void really_open_popup() {
 
 void do_open(Widget w, XtPointer, XtPointer call) {
   const BusyCursor busy(w);
+  keep_unsaved();
   save_file = chosen_path(w, call);
   load_document();
   hide_dialog(open_dialog[BOX]);

@@ -15,6 +15,7 @@
 #include "vqc/cmd/editors/kit/file_box.h"
 #include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/given_options.h"
+#include "vqc/cmd/editors/safety_net.h"
 
 namespace vqc::editors {
 
@@ -94,6 +95,7 @@ void gen_do_generate(Widget w, XtPointer, XtPointer call) {
   const std::string path = chosen_path(w, call);
   hide_dialog(gen_dialog[FSB]);  // first: a message could not be answered behind a modal dialog
   const Switches switches{.comment = vqc_comment_code(), .verbose = vqc_verbose_code()};
+  keep_before(path, Reason::before_generation);
   generate_file(edited_document, path.c_str(), chosen_families(), pending_kind, switches);
 }
 

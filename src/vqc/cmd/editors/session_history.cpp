@@ -18,6 +18,7 @@
 #include "vqc/cmd/editors/options.h"
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
+#include "vqc/cmd/editors/safety_net.h"
 #include "vqc/cmd/editors/step_names.h"
 #include "vqc/cmd/editors/stop.h"
 #include "vqc/cmd/editors/title.h"
@@ -62,6 +63,7 @@ void select_again(const std::vector<std::string>& selection) {
 
 void show_now() {
   save_file = timeline->now().path;
+  keep_state(timeline->now().state, save_file);
   vqc_set_title(save_file_path());
   refill_windows();
   select_again(timeline->now().selection);
@@ -90,7 +92,9 @@ void begin_history() {
 }
 
 void note_action() {
-  if (timeline && timeline->note(edited_document, surroundings())) show_steps();
+  if (!timeline || !timeline->note(edited_document, surroundings())) return;
+  keep_state(timeline->now().state, save_file);
+  show_steps();
 }
 
 void note_saving() {

@@ -30,6 +30,8 @@
 #include "vqc/cmd/editors/program/exit.h"
 #include "vqc/cmd/editors/program/help.h"
 #include "vqc/cmd/editors/program/resources.h"
+#include "vqc/cmd/editors/recovery.h"
+#include "vqc/cmd/editors/safety_net.h"
 #include "vqc/cmd/editors/session_history.h"
 #include "vqc/cmd/editors/title.h"
 #include "vqc/cmd/editors/widgetlist.h"
@@ -106,6 +108,8 @@ bool start_session(int argc, char** argv) {
   guarded([shell] {
     load_first_document(shell);
     begin_history();
+    begin_safety_net(save_file);
+    offer_recovery();
   });
   return true;
 }

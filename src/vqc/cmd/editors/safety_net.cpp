@@ -1,0 +1,101 @@
+// Keeps what would otherwise be gone: earlier contents of files, and the state of the session.
+
+#include "vqc/cmd/editors/safety_net.h"
+
+#include <chrono>
+#include <cstdio>
+#include <string>
+#include <system_error>
+#include <utility>
+
+#include "libkel/message.h"
+#include "libkel/state_folder.h"
+#include "vqc/cmd/editors/kit/edited_document.h"
+#include "vqc/cmd/history/journal_writer.h"
+#include "vqc/cmd/savefile/load.h"
+#include "vqc/cmd/savefile/save.h"
+
+namespace vqc::editors {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::optional<JournalWriter> journal;
+
+fs::path in_state_folder(const char* name) {
+  const fs::path folder = state_folder();
+  return folder.empty() ? folder : folder / name;
+}
+
+/// Once a session, since the next action would meet the same.
+void say_once(const std::error_code& failure) {
+  static bool said = false;
+  if (!failure || std::exchange(said, true)) return;
+  std::fprintf(stderr, "vqconfig: %s: %s\n", state_folder().c_str(), failure.message().c_str());
+}
+
+/// Does something with the versions, if there is a place for them.
+template <class Action>
+void with_versions(Action action) {
+  const fs::path folder = versions_folder();
+  if (!folder.empty()) say_once(action(Versions(folder), std::chrono::system_clock::now()));
+}
+
+/// Whether the document says what its file says.
+bool is_as_its_file() {
+  Document on_disk;
+  Diagnostics findings;
+  if (save_file) {
+    const auto source = Source::read(save_file->c_str());
+    if (source) load(source, on_disk, findings);
+  }
+  return *capture(edited_document, nullptr) == *capture(on_disk, nullptr);
+}
+
+std::string text_of_document() {
+  StringSink text;
+  save_whole(edited_document, text);
+  text.finish();
+  return text.text();
+}
+
+}  // namespace
+
+fs::path versions_folder() { return in_state_folder("versions"); }
+
+fs::path journals_folder() { return in_state_folder("journals"); }
+
+void begin_safety_net(const std::optional<std::string>& path) {
+  const fs::path folder = journals_folder();
+  if (folder.empty()) return;
+  journal.emplace(Journal(folder, path.value_or("")));
+  if (path && journal->journal().others_on(*path)) error_show_1s("other_session", path->c_str());
+  with_versions([](const Versions& versions, Versions::Time now) { return versions.thin(now); });
+}
+
+void end_safety_net() {
+  keep_unsaved();
+  if (journal) journal->end();
+}
+
+void keep_state(std::shared_ptr<const State> state, const std::optional<std::string>& path) {
+  if (!journal) return;
+  say_once(journal->failure());
+  journal->take(std::move(state), path.value_or(""));
+}
+
+void keep_before(const fs::path& path, Reason reason) {
+  with_versions([&](const Versions& versions, Versions::Time now) { return versions.keep(path, reason, now); });
+}
+
+void keep_version(const fs::path& path, std::string_view text, Reason reason) {
+  with_versions(
+      [&](const Versions& versions, Versions::Time now) { return versions.keep_text(path, text, reason, now); });
+}
+
+void keep_unsaved() {
+  if (!is_as_its_file()) keep_version(save_file.value_or(""), text_of_document(), Reason::not_saved);
+}
+
+}  // namespace vqc::editors

@@ -1,0 +1,39 @@
+#ifndef VQC_CMD_EDITORS_SAFETY_NET_H
+#define VQC_CMD_EDITORS_SAFETY_NET_H
+
+// What is kept in the user's state folder so that nothing is gone for good: what files held before the session replaced
+// them, and the state of the session itself. Where there is no such folder, or nothing can be written there, the
+// session goes on without.
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "vqc/cmd/history/state.h"
+#include "vqc/cmd/history/versions.h"
+
+namespace vqc::editors {
+
+/// Begins with the session, on the document of that path.
+void begin_safety_net(const std::optional<std::string>& path);
+/// The session ends well: nothing of it is left but what it has not saved.
+void end_safety_net();
+
+/// The document says something else now.
+void keep_state(std::shared_ptr<const State> state, const std::optional<std::string>& path);
+/// Keeps what a file holds before it is replaced.
+void keep_before(const std::filesystem::path& path, Reason reason);
+/// Keeps a text as a version of a file; an empty path is that of documents without a file.
+void keep_version(const std::filesystem::path& path, std::string_view text, Reason reason);
+/// Keeps the document if it says anything else than its file.
+void keep_unsaved();
+
+/// Where earlier contents of files are, and the states of sessions; empty paths where there is no place for them.
+std::filesystem::path versions_folder();
+std::filesystem::path journals_folder();
+
+}  // namespace vqc::editors
+
+#endif
