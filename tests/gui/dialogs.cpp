@@ -5,7 +5,9 @@
 #include <ostream>
 
 #include "gui/hands.h"
+#include "gui/outside.h"
 #include "libkel/message.h"
+#include "vqc/cmd/editors/recovery.h"
 
 using namespace vqc;
 
@@ -41,6 +43,11 @@ void ask_about_changes() {
   press("family_exitb");
 }
 
+void ask_about_last_session() {
+  leave_state(save_file.value_or(""), "VQconfig\nfamily 'Left' { }\n");
+  offer_recovery();
+}
+
 const Dialog dialogs[] = {
     {"entity_dialog", [] { edit_family("F"); }},
     {"widgetedit_dialog", open_widget_editor},
@@ -57,6 +64,7 @@ const Dialog dialogs[] = {
     {"gen_dialog", [] { press("family_genconfigb"); }, Rank::modal},
     {"resource_warn_dialog", ask_about_resource, Rank::modal},
     {"savechanges_dialog", ask_about_changes, Rank::modal},
+    {"recovery_dialog", ask_about_last_session, Rank::modal},
 };
 
 template <class Predicate>

@@ -15,6 +15,9 @@ using namespace vqc;
 /// Waits until a condition holds; false when it has not come true in time.
 bool wait_until_true(const std::function<bool()>& condition);
 
+/// What a session on a document leaves that is killed.
+void leave_state(const std::string& document, const std::string& text);
+
 /// The processes that run the file of a program on a display.
 std::vector<pid_t> processes(const std::string& program, const std::string& display_name);
 

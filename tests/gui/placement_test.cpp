@@ -180,7 +180,7 @@ TEST_F(Placement, PlacesAWindowThatNobodyMovedByItsOwnerAnew) {
 TEST_F(Placement, RemembersNothingThatTheUserHasNotDone) {
   open_widget();
   keep_places();
-  EXPECT_FALSE(std::filesystem::exists(folder / "vqconfig"));
+  EXPECT_FALSE(std::filesystem::exists(folder / "vqconfig/windows"));
 }
 
 TEST_F(Placement, KeepsMovedAndResizedWindowsBesideThoseOfOtherDisplays) {

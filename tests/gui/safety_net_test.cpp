@@ -1,8 +1,4 @@
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <chrono>
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <thread>
@@ -30,18 +26,6 @@ class SafetyNet : public Session {
   std::string newest(const std::string& path) const {
     const std::vector<Version> versions = versions_of(path);
     return versions.empty() ? "" : Versions(versions_folder()).text(versions.front()).value_or("");
-  }
-
-  /// What a session leaves that is killed.
-  void leave_state(const std::string& document, const std::string& text) const {
-    const pid_t child = fork();
-    if (child == 0) {
-      Journal journal(journals_folder(), document);
-      _exit(journal.write(text) ? 1 : 0);
-    }
-    int status = -1;
-    waitpid(child, &status, 0);
-    ASSERT_EQ(0, status);
   }
 };
 
