@@ -249,7 +249,7 @@ bool Reader::stands_out(Range word) const {
   const auto of_word = indentation(text, word.begin);
   const auto of_item = indentation(text, item_.begin);
   const std::size_t first_field = text.find_first_not_of(" \t\n", block_.open.end);
-  const auto of_field = indentation(text, first_field);
+  const auto of_field = indentation(text, std::min(first_field, text.size()));
   return of_word && of_item && of_field && *of_word <= *of_item && *of_field > *of_item;
 }
 
