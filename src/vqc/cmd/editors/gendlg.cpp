@@ -77,7 +77,8 @@ void gen_popup(Widget w, FileKind kind, const char* title) {
   XtVaSetValues(box, XmNpattern, static_cast<XmString>(CompoundString("*.c")), nullptr);
   rebuild_toggles(gen_dialog[TOGGLES]);
   const Text name = generated_name(edited_document, kind);
-  show_file_box(box, save_file_path(), name ? std::string(name.view()) : derived_name(box, kind));
+  const std::string offered = name ? std::string(name.view()) : derived_name(box, kind);
+  show_file_box(box, save_file_path(), offered);
 }
 
 }  // namespace

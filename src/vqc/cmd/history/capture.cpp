@@ -61,7 +61,7 @@ bool is_in(const std::type_identity_t<Fields>& record, const Fields& state) {
   return record == state;
 }
 bool is_in(const Family& family, const FamilyState& state) {
-  if (!(family.name == state.name) || !(static_cast<const FamilyInit&>(family) == state)) return false;
+  if (!(family.name == state.name) || !(part<const FamilyInit>(family) == state)) return false;
   bool same = true;
   std::size_t i = 0;
   each_family_list([&](auto list, auto /*pool*/) { same = same && is_references(family.*list, state.lists[i++]); });
@@ -69,11 +69,11 @@ bool is_in(const Family& family, const FamilyState& state) {
 }
 
 void take(const WidgetDef& widget, WidgetState& state) {
-  static_cast<WidgetFields&>(state) = widget;
+  part<WidgetFields>(state) = part<const WidgetFields>(widget);
   state.resources = list_state<ResourceFields>(widget.resource_definitions);
 }
 void take(const EnumDef& enumeration, EnumState& state) {
-  static_cast<EnumFields&>(state) = enumeration;
+  part<EnumFields>(state) = part<const EnumFields>(enumeration);
   state.entries = list_state<EnumEntryFields>(enumeration.entries);
 }
 template <class Fields>
@@ -82,7 +82,7 @@ void take(const std::type_identity_t<Fields>& record, Fields& state) {
 }
 void take(const Family& family, FamilyState& state) {
   state.name = family.name;
-  static_cast<FamilyInit&>(state) = family;
+  part<FamilyInit>(state) = part<const FamilyInit>(family);
   std::size_t i = 0;
   each_family_list([&](auto list, auto /*pool*/) {
     for (const auto& reference : family.*list) state.lists[i].push_back(reference.record->name);

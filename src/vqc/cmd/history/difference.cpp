@@ -125,7 +125,7 @@ class Comparison {
       in_order = compare_names(from.lists[i], to.lists[i], list_parts[i], to.name) && in_order;
     }
     if (!in_order) add(ORDER, {Verb::reordered, Part::family, to.name});
-    if (!(static_cast<const FamilyInit&>(from) == to)) add(FIELDS, {Verb::changed, Part::family, to.name});
+    if (!(part<const FamilyInit>(from) == to)) add(FIELDS, {Verb::changed, Part::family, to.name});
   }
 
   void compare_widget(const WidgetState& from, const WidgetState& to) {
@@ -133,7 +133,7 @@ class Comparison {
                   [&](const ResourceFields& /*before*/, const ResourceFields& now) {
                     add(OWNED, {Verb::changed, Part::resource, now.name, to.name});
                   });
-    if (!(static_cast<const WidgetFields&>(from) == to)) add(FIELDS, {Verb::changed, Part::widget, to.name});
+    if (!(part<const WidgetFields>(from) == to)) add(FIELDS, {Verb::changed, Part::widget, to.name});
   }
 
   void compare_enumeration(const EnumState& from, const EnumState& to) {
@@ -142,7 +142,7 @@ class Comparison {
                                           add(OWNED, {Verb::changed, Part::entry, now.name, to.name});
                                         });
     if (!in_order) add(ORDER, {Verb::reordered, Part::enumeration, to.name});
-    if (!(static_cast<const EnumFields&>(from) == to)) add(FIELDS, {Verb::changed, Part::enumeration, to.name});
+    if (!(part<const EnumFields>(from) == to)) add(FIELDS, {Verb::changed, Part::enumeration, to.name});
   }
 
   void compare_header() {

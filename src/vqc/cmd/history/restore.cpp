@@ -78,11 +78,11 @@ class Restorer {
   }
 
   void fill(WidgetDef& widget, const WidgetState& state) {
-    static_cast<WidgetFields&>(widget) = state;
+    part<WidgetFields>(widget) = part<const WidgetFields>(state);
     fill_list(widget.resource_definitions, state.resources);
   }
   void fill(EnumDef& enumeration, const EnumState& state) {
-    static_cast<EnumFields&>(enumeration) = state;
+    part<EnumFields>(enumeration) = part<const EnumFields>(state);
     fill_list(enumeration.entries, state.entries);
   }
   template <class Fields>
@@ -90,7 +90,7 @@ class Restorer {
     record = state;
   }
   void fill(Family& family, const FamilyState& state) {
-    static_cast<FamilyInit&>(family) = state;
+    part<FamilyInit>(family) = part<const FamilyInit>(state);
     std::size_t i = 0;
     each_family_list([&](auto list, auto pool) {
       const std::vector<Text>& names = state.lists[i++];
@@ -102,7 +102,7 @@ class Restorer {
 
   template <class List, class Fields>
   void fill_list(List& list, const std::vector<Fields>& states) {
-    for (const Fields& state : states) static_cast<Fields&>(*document_.ensure(list, state.name)) = state;
+    for (const Fields& state : states) part<Fields>(*document_.ensure(list, state.name)) = state;
     keep_only(list, states);
   }
 

@@ -58,6 +58,12 @@ struct State {
   bool operator==(const State& other) const;
 };
 
+/// The fields that a record, or its state, has among other things.
+template <class Fields>
+Fields& part(Fields& whole) {
+  return whole;
+}
+
 /// The state of a document. It shares what it can with `before`, an earlier one of the same document or null, and is
 /// `before` itself where nothing has changed.
 std::shared_ptr<const State> capture(const Document& document, const std::shared_ptr<const State>& before);

@@ -18,14 +18,14 @@ bool Timeline::note(const Document& document, Surroundings surroundings) {
     moments_.resize(++now_);
     moments_.push_back({{}, std::move(state)});
   }
-  static_cast<Surroundings&>(moments_[now_]) = std::move(surroundings);
+  part<Surroundings>(moments_[now_]) = std::move(surroundings);
   moments_[now_].dirty = document.dirty;
   return is_step;
 }
 
 void Timeline::saved(const Document& document, const std::optional<std::string>& path) {
   const std::optional<std::string> before = now().path;
-  note(document, now());
+  note(document, part<const Surroundings>(now()));
   const auto is_other = [&](const Moment& moment) { return moment.path != before; };
   const auto here = moments_.begin() + static_cast<std::ptrdiff_t>(now_);
   const auto end = std::find_if(here, moments_.end(), is_other);
