@@ -113,7 +113,7 @@ inline std::string headline(const std::string& message) {
 /// The headlines of the messages of errors in a resource file. That of a syntax error is completed by those of "se_".
 inline std::set<std::string> errors_in(const std::string& resource_file) {
   static const std::regex line(
-      R"re((?:^|\n)\*(se_\w+|file_\w+_fail|bad_save_file|no_help_topic|out_of_memory):[ \t]*([^\n]*))re");
+      R"re((?:^|\n)\*(se_\w+|file_\w+_fail|bad_save_file|no_help_topic|out_of_memory|other_session):[ \t]*([^\n]*))re");
   std::set<std::string> errors;
   for (std::sregex_iterator match(resource_file.begin(), resource_file.end(), line), none; match != none; ++match) {
     errors.insert(headline((*match)[2]));
