@@ -34,6 +34,12 @@ build > "$folder/log" 2>&1 || wrong "The build without stubs failed."
 DISPLAY='' "$program" | grep -q '^All checks passed' || wrong "What was built without stubs does not work."
 [ ! -e "$source/dial_stubs.c" ] || wrong "There are stubs, which were not wanted."
 
+# What two targets want is made in a library.
+echo 'vqconfig_generate(TARGET dial DOCUMENT dial.vqc)' >> "$source/CMakeLists.txt"
+! build > "$folder/log" 2>&1 || wrong "The same files are made twice."
+grep -q 'are made for dial in this folder already' "$folder/log" || wrong "The build does not say what is made twice."
+edit '$d' CMakeLists.txt
+
 # Another version is not taken for ours.
 edit 's/VQconfig 0.2/VQconfig 0.1/' CMakeLists.txt
 ! build > "$folder/log" 2>&1 || wrong "A package of another version is taken."
