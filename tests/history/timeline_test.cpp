@@ -172,6 +172,23 @@ TEST_F(TimelineTest, PathsFollow) {
   EXPECT_EQ(std::nullopt, timeline.now().path);
 }
 
+TEST_F(TimelineTest, NoTextIsGoneWithADocumentThatCannotComeBack) {
+  const char shared[] = "header 'a header of some length.h'\nfamily 'a family of some length' { }\n";
+  describe(shared);
+  Timeline timeline(document, {"a.vqc"});
+  describe(shared + std::string("alias 'B' { }\n"));
+  timeline.note(document, {"b.vqc"});
+  describe("alias 'C' { }\n");
+  timeline.note(document, {"c.vqc"});
+  timeline.undo(document);
+  timeline.undo(document);
+  const std::string before = text();
+  document.excluded_classes = "A";
+  timeline.note(document, {"a.vqc"});  // which forgets the other documents
+  document.excluded_classes = nullptr;
+  EXPECT_EQ(before, text());
+}
+
 TEST_F(TimelineTest, WhatWasSelectedLastIsKnownAgain) {
   describe(kDial);
   Timeline timeline(document, {});

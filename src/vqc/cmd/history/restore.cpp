@@ -90,6 +90,7 @@ class Restorer {
     record = state;
   }
   void fill(Family& family, const FamilyState& state) {
+    family.name = state.name;
     part<FamilyInit>(family) = part<const FamilyInit>(state);
     std::size_t i = 0;
     each_family_list([&](auto list, auto pool) {
@@ -106,9 +107,10 @@ class Restorer {
     keep_only(list, states);
   }
 
+  /// A record that is there takes the state's text for its name: the one that it has may go with another state.
   template <class Pool>
   void add(Pool& pool, const State::Names& names) {
-    for (const Text name : names) document_.ensure(pool, name);
+    for (const Text name : names) document_.ensure(pool, name)->name = name;
   }
 
   /// Removes those that a state does not have. All that it has are there.
