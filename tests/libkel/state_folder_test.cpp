@@ -41,15 +41,15 @@ std::string state_folder_with(const char* state, const char* home) {
   return state_folder();
 }
 
-TEST(StateFolder, IsWhereTheUserWantsIt) { EXPECT_EQ("/state/vqconfig", state_folder_with("/state", "/home/me")); }
+TEST(StateFolder, IsWhereTheUserWantsIt) { EXPECT_EQ("/state/vqconfig", state_folder_with("/state", "/me")); }
 
 TEST(StateFolder, IsInTheHomeFolderByDefault) {
-  EXPECT_EQ("/home/me/.local/state/vqconfig", state_folder_with(nullptr, "/home/me"));
+  EXPECT_EQ("/me/.local/state/vqconfig", state_folder_with(nullptr, "/me"));
 }
 
 TEST(StateFolder, IsNotWhereARelativePathLeads) {
-  EXPECT_EQ("/home/me/.local/state/vqconfig", state_folder_with("state", "/home/me"));
-  EXPECT_EQ("/home/me/.local/state/vqconfig", state_folder_with("", "/home/me"));
+  EXPECT_EQ("/me/.local/state/vqconfig", state_folder_with("state", "/me"));
+  EXPECT_EQ("/me/.local/state/vqconfig", state_folder_with("", "/me"));
 }
 
 TEST(StateFolder, IsNoneForWhoHasNoHome) {

@@ -23,7 +23,6 @@
 #include "vqc/cmd/editors/safety_net.h"
 #include "vqc/cmd/editors/title.h"
 #include "vqc/cmd/history/journal.h"
-#include "vqc/cmd/history/state.h"
 #include "vqc/cmd/savefile/load.h"
 
 namespace vqc::editors {
@@ -59,11 +58,9 @@ bool is_for_open_document(const AbandonedJournal& journal) {
 /// Whether the file of a journal's document says the same.
 bool is_saved(const AbandonedJournal& journal) {
   Document left;
-  Document on_disk;
   Diagnostics findings;
   load_whole(Source::from_text(journal.text), left, findings);
-  if (const auto source = Source::read(journal.document.c_str())) load(source, on_disk, findings);
-  return *capture(left, nullptr) == *capture(on_disk, nullptr);
+  return *capture(left, nullptr) == *state_of_file(journal.document);
 }
 
 std::string local_time(std::chrono::system_clock::time_point time) {

@@ -42,17 +42,6 @@ void with_versions(Action action) {
   if (!folder.empty()) say_once(action(Versions(folder), std::chrono::system_clock::now()));
 }
 
-/// Whether the document says what its file says.
-bool is_as_its_file() {
-  Document on_disk;
-  Diagnostics findings;
-  if (save_file) {
-    const auto source = Source::read(save_file->c_str());
-    if (source) load(source, on_disk, findings);
-  }
-  return *capture(edited_document, nullptr) == *capture(on_disk, nullptr);
-}
-
 std::string text_of_document() {
   StringSink text;
   save_whole(edited_document, text);
@@ -61,6 +50,13 @@ std::string text_of_document() {
 }
 
 }  // namespace
+
+std::shared_ptr<const State> state_of_file(const fs::path& path) {
+  Document document;
+  Diagnostics findings;
+  if (const auto source = Source::read(path.c_str())) load(source, document, findings);
+  return capture(document, nullptr);
+}
 
 fs::path versions_folder() { return in_state_folder("versions"); }
 
@@ -95,7 +91,8 @@ void keep_version(const fs::path& path, std::string_view text, Reason reason) {
 }
 
 void keep_unsaved() {
-  if (!is_as_its_file()) keep_version(save_file.value_or(""), text_of_document(), Reason::not_saved);
+  const bool is_saved = *capture(edited_document, nullptr) == *state_of_file(save_file.value_or(""));
+  if (!is_saved) keep_version(save_file.value_or(""), text_of_document(), Reason::not_saved);
 }
 
 }  // namespace vqc::editors

@@ -30,6 +30,9 @@ void keep_version(const std::filesystem::path& path, std::string_view text, Reas
 /// Keeps the document if it says anything else than its file.
 void keep_unsaved();
 
+/// What a document's file says, which is nothing where it cannot be read.
+std::shared_ptr<const State> state_of_file(const std::filesystem::path& path);
+
 /// Where earlier contents of files are, and the states of sessions; empty paths where there is no place for them.
 std::filesystem::path versions_folder();
 std::filesystem::path journals_folder();

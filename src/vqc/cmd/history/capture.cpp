@@ -16,11 +16,6 @@ namespace {
 
 // A record beside a state: the fields as they are, and what the record owns.
 
-const WidgetFields& fields(const WidgetFields& record) { return record; }
-const EnumFields& fields(const EnumFields& record) { return record; }
-const ResourceFields& fields(const ResourceFields& record) { return record; }
-const EnumEntryFields& fields(const EnumEntryFields& record) { return record; }
-
 /// Whether each element of a list is as a state has it.
 template <class List, class States, class IsIn>
 bool all_in(const List& list, const States& states, IsIn is_in) {
@@ -34,14 +29,15 @@ bool all_in(const List& list, const States& states, IsIn is_in) {
 
 template <class List, class Fields>
 bool is_list(const List& list, const std::vector<Fields>& states) {
-  return all_in(list, states, [](const auto& element, const Fields& state) { return fields(element) == state; });
+  return all_in(list, states,
+                [](const auto& element, const Fields& state) { return part<const Fields>(element) == state; });
 }
 
 template <class Fields, class List>
 std::vector<Fields> list_state(const List& list) {
   std::vector<Fields> state;
   state.reserve(list.size());
-  for (const auto& element : list) state.push_back(fields(element));
+  for (const auto& element : list) state.push_back(part<const Fields>(element));
   return state;
 }
 
@@ -51,10 +47,12 @@ bool is_references(const References& list, const std::vector<Text>& names) {
 }
 
 bool is_in(const WidgetDef& widget, const WidgetState& state) {
-  return fields(widget) == fields(state) && is_list(widget.resource_definitions, state.resources);
+  return part<const WidgetFields>(widget) == part<const WidgetFields>(state) &&
+         is_list(widget.resource_definitions, state.resources);
 }
 bool is_in(const EnumDef& enumeration, const EnumState& state) {
-  return fields(enumeration) == fields(state) && is_list(enumeration.entries, state.entries);
+  return part<const EnumFields>(enumeration) == part<const EnumFields>(state) &&
+         is_list(enumeration.entries, state.entries);
 }
 template <class Fields>
 bool is_in(const std::type_identity_t<Fields>& record, const Fields& state) {
