@@ -14,6 +14,7 @@
 #include "vqc/cmd/editors/gendlg.h"
 #include "vqc/cmd/editors/kit/main_shell.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
+#include "vqc/cmd/editors/kit/status_line.h"
 #include "vqc/cmd/editors/options.h"
 #include "vqc/cmd/editors/session_history.h"
 #include "vqc/cmd/editors/stop.h"
@@ -82,7 +83,7 @@ Widget* create_family_dialog(Display* display, char* name, int argc, char** argv
       XtVaAppCreateShell(name, "VQconfig", applicationShellWidgetClass, display, XmNargc, argc, XmNargv, argv, nullptr);
   if (!shell) return nullptr;
   set_font_unit(shell);
-  Widget* record = build_dialog(shell, {part(menu_rows, menu_links), familylist_page()}, FAMILY_SLOTS);
+  Widget* record = build_dialog(shell, {part(menu_rows, menu_links), status_line("family_form"), familylist_page()}, FAMILY_SLOTS);
   if (!record) return nullptr;
   record[FAMILY_SHELL] = shell;
   answer_close(shell, do_exit);

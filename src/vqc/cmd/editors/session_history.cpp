@@ -15,6 +15,7 @@
 #include "vqc/cmd/editors/headerlists.h"
 #include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/cursor.h"
+#include "vqc/cmd/editors/kit/status_line.h"
 #include "vqc/cmd/editors/options.h"
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
@@ -95,6 +96,7 @@ void note_action() {
   if (!timeline || !timeline->note(edited_document, surroundings())) return;
   keep_state(timeline->now().state, save_file);
   show_steps();
+  if (!has_spoken()) say_text(step_name(timeline->previous(), timeline->now()));
 }
 
 void note_saving() {

@@ -6,31 +6,12 @@
 #include <vector>
 
 #include "vqc/cmd/history/state.h"
+#include "vqc/cmd/model/part.h"
 
 namespace vqc {
 
 /// What has become of a part of a document.
 enum class Verb : std::uint8_t { added, removed, changed, reordered };
-
-/// A part of a document.
-enum class Part : std::uint8_t {
-  family,
-  widget,
-  enumeration,
-  alias,
-  converter,
-  popup,
-  page,
-  code_header,
-  family_header,
-  config_header,
-  resource,
-  entry,
-  families,  // their order
-  stop_list,
-  table_names,   // of the generated tables
-  output_names,  // of the generated files
-};
 
 /// One thing in which two states differ. The texts are theirs.
 struct Difference {

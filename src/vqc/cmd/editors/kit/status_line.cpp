@@ -1,0 +1,110 @@
+// Shows what has been said in all windows, and what is so.
+
+#include "vqc/cmd/editors/kit/status_line.h"
+
+#include <Xm/Label.h>
+#include <Xm/List.h>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "vqc/cmd/editors/kit/compound.h"
+#include "vqc/cmd/editors/kit/widgets.h"
+
+namespace vqc::editors {
+
+namespace {
+
+std::vector<Widget> said_labels;
+std::vector<Widget> so_labels;
+std::string said;
+std::string so;
+bool spoken = false;
+
+/// Shows a text in one line.
+void show(Widget label, std::string text) {
+  std::ranges::replace(text, '\n', ' ');
+  XtVaSetValues(label, XmNlabelString, CompoundString(displayable(text).c_str()).get(), nullptr);
+}
+
+/// The list of a window that can be seen; null for none.
+Widget list_in(Widget w) {
+  if (XmIsList(w)) return w;
+  for (Widget child : children_of(w)) {
+    Boolean is_mapped = True;
+    XtVaGetValues(child, XmNmappedWhenManaged, &is_mapped, nullptr);
+    if (!XtIsManaged(child) || !is_mapped) continue;
+    if (Widget list = list_in(child)) return list;
+  }
+  return nullptr;
+}
+
+std::string count_in(Widget label) {
+  Widget list = list_in(shell_around(label));
+  if (!list) return {};
+  int count = 0;
+  XtVaGetValues(list, XmNitemCount, &count, nullptr);
+  return filled(text_or_name("status_count"), {count});
+}
+
+void show_so_in(Widget label) {
+  const std::string count = count_in(label);
+  show(label, so.empty() || count.empty() ? so + count : so + "   " + count);
+}
+
+void forget(Widget label, XtPointer labels, XtPointer) {
+  std::erase(*static_cast<std::vector<Widget>*>(labels), label);
+}
+
+/// A label that keeps its size whatever it shows.
+Widget create_label(Widget parent, char* name, std::vector<Widget>& labels) {
+  Arg fixed[] = {{const_cast<char*>(XmNrecomputeSize), False}};
+  Widget label = XmCreateLabel(parent, name, fixed, XtNumber(fixed));
+  XtAddCallback(label, XmNdestroyCallback, forget, &labels);
+  labels.push_back(label);
+  return label;
+}
+
+Widget create_said(Widget parent, char* name, ArgList, Cardinal) {
+  Widget label = create_label(parent, name, said_labels);
+  show(label, said);
+  return label;
+}
+
+Widget create_so(Widget parent, char* name, ArgList, Cardinal) {
+  Widget label = create_label(parent, name, so_labels);
+  show(label, so);
+  return label;
+}
+
+}  // namespace
+
+DialogPart status_line(const char* form) {
+  const WidgetRow rows[] = {
+      {"status_line", create_form, form},
+      {"status_so", create_so, "status_line"},
+      {"status_said", create_said, "status_line"},
+  };
+  return part(rows);
+}
+
+void say(const char* message, std::initializer_list<MessageArgument> arguments) {
+  say_text(filled(text_or_name(message), arguments));
+}
+
+void say_text(std::string text) {
+  said = std::move(text);
+  spoken = true;
+  for (Widget label : said_labels) show(label, said);
+}
+
+bool has_spoken() { return std::exchange(spoken, false); }
+
+void show_so(std::string text) {
+  so = std::move(text);
+  for (Widget label : so_labels) show_so_in(label);
+}
+
+}  // namespace vqc::editors
