@@ -20,7 +20,7 @@ constexpr const char* verb_messages[] = {"step_added", "step_removed", "step_cha
 constexpr const char* part_messages[] = {
     "part_family",   "part_widget",      "part_enumeration",   "part_alias",         "part_converter", "part_popup",
     "part_page",     "part_code_header", "part_family_header", "part_config_header", "part_resource",  "part_entry",
-    "part_families", "part_stop_list",   "part_table_names",   "part_output_names",
+    "part_families", "part_stop_list",   "part_table_names",   "part_output_names", "part_procedure",
 };
 
 std::string part_name(const Difference& difference) {

@@ -24,13 +24,15 @@ enum class Part : std::uint8_t {
   stop_list,
   table_names,   // of the generated tables
   output_names,  // of the generated files
+  procedure,     // is no more than the name that fields give
 };
 
 /// A place in a document, by the names that lead to it.
 struct Spot {
   Part part;
   std::string name = {};   // empty for a part that has none
-  std::string of = {};     // the widget of a resource, the enumeration of an entry; else empty
+  std::string of = {};     // the widget of a resource, the enumeration of an entry; of others the family that has them,
+                           // where one is meant; else empty
   std::string field = {};  // the word of the field as documents have it; empty for the record as a whole
 
   bool operator==(const Spot&) const = default;

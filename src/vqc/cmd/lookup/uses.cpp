@@ -1,0 +1,60 @@
+// Finds who uses a thing of a document.
+
+#include "vqc/cmd/lookup/uses.h"
+
+#include <string>
+
+#include "vqc/cmd/lookup/namings.h"
+
+namespace vqc {
+
+namespace {
+
+/// Resources of one name are in many widgets; all other names are the document's.
+bool is_meant_in(const Naming& naming, const Spot& thing) {
+  return thing.part != Part::resource || naming.of.view() == thing.of;
+}
+
+/// Visits what names a thing.
+template <class Visit>
+void each_use(const Document& document, const Spot& thing, Visit visit) {
+  each_naming(document, [&](const Naming& naming, const Text*) {
+    if (naming.part == thing.part && naming.name.view() == thing.name && is_meant_in(naming, thing)) visit(naming);
+  });
+}
+
+int& count_for(Part by, UseCounts& counts) {
+  switch (by) {
+    case Part::resource:
+      return counts.resources;
+    case Part::widget:
+      return counts.widgets;
+    case Part::converter:
+      return counts.converters;
+    case Part::popup:
+      return counts.popups;
+    default:
+      return counts.families;
+  }
+}
+
+std::string string_of(Text text) { return std::string(text.view()); }
+
+}  // namespace
+
+std::vector<Spot> uses_of(const Document& document, const Spot& thing) {
+  std::vector<Spot> uses;
+  each_use(document, thing, [&](const Naming& naming) {
+    const std::string of = naming.by == Part::resource ? string_of(naming.of) : std::string();
+    uses.push_back({naming.by, string_of(naming.by_name), of, std::string(keyword_text(naming.field))});
+  });
+  return uses;
+}
+
+UseCounts count_uses(const Document& document, const Spot& thing) {
+  UseCounts counts;
+  each_use(document, thing, [&](const Naming& naming) { ++count_for(naming.by, counts); });
+  return counts;
+}
+
+}  // namespace vqc
