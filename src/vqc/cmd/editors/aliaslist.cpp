@@ -62,6 +62,8 @@ ListEditor aliaslist_editor{.dialog = entity_dialog,
                             .accepted = update_alias,
                             .selected = select_alias};
 
+Widget aliaslist_field(Kw word) { return word == Kw::to_name ? to_name_field() : nullptr; }
+
 void current_alias_changed(Reference<AliasDef>* element) {
   if (!entity_dialog) return;
   if (!element) aliaslist_editor.clear_name();

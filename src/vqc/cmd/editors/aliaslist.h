@@ -5,6 +5,7 @@
 
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
+#include "vqc/cmd/savefile/keywords.h"
 
 namespace vqc::editors {
 
@@ -17,6 +18,9 @@ inline constexpr XtCallbackProc aliaslist_do_update = do_accept<aliaslist_editor
 inline constexpr XtCallbackProc aliaslist_do_delete = do_delete<aliaslist_editor>;
 inline constexpr XtCallbackProc aliaslist_do_display = do_select<aliaslist_editor>;
 inline void aliaslist_setfamily(const Family* family) { set_family(aliaslist_editor, family); }
+
+/// The field that a word of an alias gives; null for none.
+Widget aliaslist_field(Kw word);
 
 /// Hears that another alias of the family, or none, is current now.
 void current_alias_changed(Reference<AliasDef>* element);

@@ -9,6 +9,7 @@
 #include <Xm/ToggleB.h>
 
 #include "vqc/cmd/editors/entity_dialog.h"
+#include "vqc/cmd/editors/field_words.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_names.h"
@@ -52,6 +53,13 @@ const ListPage converters = {.name = "converter",
                              .rows = field_rows,
                              .links = links};
 
+constexpr FieldOfWord fields[] = {
+    {Kw::proc_name, CONVERTER_PROC},
+    {Kw::dialog, CONVERT_POPUP},
+    {Kw::add_in_vq, CONVERTER_VQ},
+    {Kw::add_in_code, CONVERTER_CODE},
+};
+
 void show_converter(const ConverterDef& converter) {
   settextf(entity_dialog[CONVERTER_PROC], converter.proc_name);
   settextf(entity_dialog[CONVERT_POPUP], converter.dialog);
@@ -94,6 +102,8 @@ ListEditor converterlist_editor{.dialog = entity_dialog,
                                 .added = converter_added,
                                 .accepted = update_converter,
                                 .selected = select_converter};
+
+Widget converterlist_field(Kw word) { return field_of_word(entity_dialog, fields, word); }
 
 void current_converter_changed(Reference<ConverterDef>* element) {
   if (!entity_dialog) return;

@@ -6,6 +6,7 @@
 
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
+#include "vqc/cmd/savefile/keywords.h"
 
 namespace vqc::editors {
 
@@ -23,6 +24,9 @@ inline void converterlist_setfamily(const Family* family) { set_family(converter
 
 /// Opens the popup editor on the popup named in the field given as client data.
 void show_popups_cb(Widget w, XtPointer field, XtPointer);
+
+/// The field or toggle that a word of a converter gives; null for none.
+Widget converterlist_field(Kw word);
 
 /// Hears that another converter of the family, or none, is current now.
 void current_converter_changed(Reference<ConverterDef>* element);

@@ -29,13 +29,13 @@ const WidgetRow frame_rows[] = {
     {"entity_form",                 create_form,           "entity_dialog", {}, ENTITY_FORM},
     {"entity_menubar",              XmCreateMenuBar,       "entity_form"},
     {"view_pulldown",               create_radio_menu,     "entity_menubar"},
-    {"entity_opt_aliases_t",        XmCreateToggleButton,  "view_pulldown"},
-    {"entity_opt_converters_t",     XmCreateToggleButton,  "view_pulldown"},
-    {"entity_opt_enums_t",          XmCreateToggleButton,  "view_pulldown"},
-    {"entity_opt_code_headers_t",   XmCreateToggleButton,  "view_pulldown"},
-    {"entity_opt_config_headers_t", XmCreateToggleButton,  "view_pulldown"},
-    {"entity_opt_family_headers_t", XmCreateToggleButton,  "view_pulldown"},
-    {"entity_opt_family_init_t",    XmCreateToggleButton,  "view_pulldown"},
+    {"entity_opt_aliases_t",        XmCreateToggleButton,  "view_pulldown", {}, ENTITY_VIEW_ALIASES},
+    {"entity_opt_converters_t",     XmCreateToggleButton,  "view_pulldown", {}, ENTITY_VIEW_CONVERTERS},
+    {"entity_opt_enums_t",          XmCreateToggleButton,  "view_pulldown", {}, ENTITY_VIEW_ENUMS},
+    {"entity_opt_code_headers_t",   XmCreateToggleButton,  "view_pulldown", {}, ENTITY_VIEW_CODE_HEADERS},
+    {"entity_opt_config_headers_t", XmCreateToggleButton,  "view_pulldown", {}, ENTITY_VIEW_CONFIG_HEADERS},
+    {"entity_opt_family_headers_t", XmCreateToggleButton,  "view_pulldown", {}, ENTITY_VIEW_FAMILY_HEADERS},
+    {"entity_opt_family_init_t",    XmCreateToggleButton,  "view_pulldown", {}, ENTITY_VIEW_FAMILY_INIT},
     {"entity_opt_widgets_t",        XmCreateToggleButton,  "view_pulldown", {}, ENTITY_VIEW_WIDGETS},
     {"entity_viewb",                XmCreateCascadeButton, "entity_menubar"},
     {"entity_view_form",            create_form,           "entity_form"},
@@ -94,6 +94,14 @@ int entity_show() {
   if (!create_on_first_use()) return 0;
   show_dialog(entity_dialog[ENTITY_FORM]);
   return 1;
+}
+
+bool entity_show_page(EntitySlot page) {
+  if (entity_show() == 0) return false;
+  const int toggle = ENTITY_VIEW_ALIASES + (page - ALIASLIST_BOX);
+  XmToggleButtonSetState(entity_dialog[toggle], True, True);
+  give_keyboard(first_field(entity_dialog[page]));
+  return true;
 }
 
 void entity_do_show_page(Widget toggle, XtPointer page, XtPointer call) {

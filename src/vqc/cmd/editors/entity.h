@@ -14,6 +14,10 @@ inline void delete_entity_dialog(Widget* record) { delete_dialog(record); }
 /// Shows the dialog, made when it is first needed. 0 when it cannot be made, else 1.
 int entity_show();
 
+/// Shows the dialog with one of its pages, of which it is the slot, and the keyboard on it. False when it cannot be
+/// made.
+bool entity_show_page(EntitySlot page);
+
 /// Shows the page given as client data instead of the others, when the toggle has been set.
 void entity_do_show_page(Widget toggle, XtPointer page, XtPointer call);
 

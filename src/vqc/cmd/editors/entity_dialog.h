@@ -7,10 +7,17 @@
 
 namespace vqc::editors {
 
-/// The frame, the pages in the order of the View menu, and what they hold.
+/// The frame, the toggles of the View menu, their pages in the same order, and what they hold.
 enum EntitySlot {
   ENTITY_SHELL,
   ENTITY_FORM,
+  ENTITY_VIEW_ALIASES,
+  ENTITY_VIEW_CONVERTERS,
+  ENTITY_VIEW_ENUMS,
+  ENTITY_VIEW_CODE_HEADERS,
+  ENTITY_VIEW_CONFIG_HEADERS,
+  ENTITY_VIEW_FAMILY_HEADERS,
+  ENTITY_VIEW_FAMILY_INIT,
   ENTITY_VIEW_WIDGETS,
   ALIASLIST_BOX,
   CONVERTER_BOX,

@@ -6,6 +6,7 @@
 #include <Xm/Label.h>
 #include <Xm/TextF.h>
 
+#include "vqc/cmd/editors/field_words.h"
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/list_page.h"
@@ -43,6 +44,12 @@ const ListPage entries = {.name = "enumedit",
                           .quit = enumedit_do_hide,
                           .form = "enumedit_work_form",
                           .rows = field_rows};
+
+constexpr FieldOfWord fields[] = {
+    {Kw::type_name, TYPE},
+    {Kw::code_symbol, CODE_SYMBOL},
+    {Kw::resfile_symbol, RESFILE_SYMBOL},
+};
 
 EnumDef* current_enum() {
   const Reference<EnumDef>* element = enumlist_getcurrent();
@@ -124,6 +131,8 @@ void enumedit_setenum(const Reference<EnumDef>* element) {
     enumentry_editor.clear_name();
   }
 }
+
+Widget enumedit_field(Kw word) { return field_of_word(enumedit_dialog, fields, word); }
 
 void enumentry_do_update(Widget w, XtPointer, XtPointer call) {
   EnumDef* enumeration = current_enum();

@@ -5,6 +5,7 @@
 
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
+#include "vqc/cmd/savefile/keywords.h"
 
 namespace vqc::editors {
 
@@ -20,6 +21,9 @@ void enumedit_do_hide(Widget w, XtPointer, XtPointer);
 
 /// Fills the dialog, if there is one, from an enumeration; null empties it.
 void enumedit_setenum(const Reference<EnumDef>* element);
+
+/// The field that a word of an enumeration or of its entries gives; null for none.
+Widget enumedit_field(Kw word);
 
 extern ListEditor enumentry_editor;
 inline constexpr XtCallbackProc enumentry_do_add = do_add<enumentry_editor>;

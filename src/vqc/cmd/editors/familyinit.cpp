@@ -8,6 +8,7 @@
 #include <Xm/ToggleB.h>
 
 #include "vqc/cmd/editors/entity_dialog.h"
+#include "vqc/cmd/editors/field_words.h"
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
@@ -48,6 +49,14 @@ constexpr InitFlag init_flags[] = {
     {FAMILYINIT_PRE_SHELL, &FamilyInit::generate_family_init_pre_shell},
 };
 
+constexpr FieldOfWord fields[] = {
+    {Kw::family_init, FAMILYINIT_INIT},
+    {Kw::generate_family_init_vq, FAMILYINIT_ADD_VQ},
+    {Kw::generate_family_init_code, FAMILYINIT_ADD_CODE},
+    {Kw::generate_family_init_stub, FAMILYINIT_ADD_STUB},
+    {Kw::generate_family_init_pre_shell, FAMILYINIT_PRE_SHELL},
+};
+
 }  // namespace
 
 DialogPart familyinit_page() { return part(rows, links); }
@@ -57,6 +66,8 @@ void familyinit_setfamily(const Family* family) {
   settextf(entity_dialog[FAMILYINIT_INIT], family ? family->family_init : Text());
   for (const auto& [toggle, flag] : init_flags) settoggle(entity_dialog[toggle], family && family->*flag);
 }
+
+Widget familyinit_field(Kw word) { return field_of_word(entity_dialog, fields, word); }
 
 void family_init_do_update(Widget, XtPointer, XtPointer) {
   Family* family = family_getcurrent();

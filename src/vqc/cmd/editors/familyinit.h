@@ -5,6 +5,7 @@
 
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/model/records.h"
+#include "vqc/cmd/savefile/keywords.h"
 
 namespace vqc::editors {
 
@@ -13,6 +14,8 @@ DialogPart familyinit_page();
 
 /// Fills the page, if there is a dialog, from a family; null empties it.
 void familyinit_setfamily(const Family* family);
+/// The field or toggle that a word of the initialisation gives; null for none.
+Widget familyinit_field(Kw word);
 void family_init_do_update(Widget w, XtPointer, XtPointer);
 
 }  // namespace vqc::editors

@@ -10,6 +10,7 @@
 #include <Xm/TextF.h>
 #include <Xm/ToggleB.h>
 
+#include <algorithm>
 #include <string>
 
 #include "libkel/nextwhite.h"
@@ -18,6 +19,7 @@
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_options.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
+#include "vqc/cmd/savefile/fields.h"
 
 namespace vqc::editors {
 
@@ -136,6 +138,16 @@ void options_dialog_load() {
 void options_dialog_reset() {
   for (const auto& [field, option] : option_fields) (edited_document.names.*option).document = nullptr;
   options_dialog_load();
+}
+
+Widget options_field(Kw word) {
+  const auto key = std::ranges::find(header_keys, word, &HeaderKey::word);
+  if (key == std::end(header_keys)) return nullptr;
+  for (const auto& [field, option] : option_fields) {
+    if (const auto* member = std::get_if<NameOption NameOptions::*>(&key->member); member && *member == option)
+      return options_shell[field];
+  }
+  return nullptr;
 }
 
 void options_ok_callback(Widget, XtPointer, XtPointer) {

@@ -4,6 +4,7 @@
 // The dialog of the document's names for the generated tables. None of this marks the document as changed.
 
 #include "vqc/cmd/editors/kit/dialog.h"
+#include "vqc/cmd/savefile/keywords.h"
 
 namespace vqc::editors {
 
@@ -22,6 +23,9 @@ void options_popup(Widget parent);
 void options_dialog_load();
 /// Takes the document's own names back, and shows what holds without them.
 void options_dialog_reset();
+
+/// The field that a word of a document's header gives; null for none.
+Widget options_field(Kw word);
 
 void options_ok_callback(Widget w, XtPointer, XtPointer);
 void options_reset_callback(Widget w, XtPointer, XtPointer);

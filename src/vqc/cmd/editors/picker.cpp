@@ -38,6 +38,16 @@ void open_picker(Picker& picker, Widget field, Widget parent, bool (*has_target)
   offer_text(picker.editor.name_field());
 }
 
+bool is_up(const Picker& picker) { return picker.editor.dialog && XtIsManaged(picker.editor.box()); }
+
+void open_picker_on(Picker& picker, Name name) {
+  if (!is_up(picker)) open_picker(picker, nullptr, main_shell(), [] { return false; });
+  if (!picker.editor.dialog) return;
+  show_dialog(picker.editor.box(), Place::over);
+  list_select(picker.editor.list(), name);
+  picker.show(name);
+}
+
 int show_all_names(const Picker& picker) {
   if (!picker.editor.dialog) return 0;
   list_show(picker.editor.list(), picker.editor.names.names());

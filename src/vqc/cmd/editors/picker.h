@@ -46,6 +46,10 @@ struct Picker {
 /// takes another only as long as `has_target`.
 void open_picker(Picker& picker, Widget field, Widget parent, bool (*has_target)());
 
+bool is_up(const Picker& picker);
+/// Shows the picker with that name. Where it is up, it goes on picking for its field; else for none.
+void open_picker_on(Picker& picker, Name name);
+
 /// Fills the list with all names and shows none of them. 0 while there is no dialog, else 1.
 int show_all_names(const Picker& picker);
 /// Fills the list with all names if there are others than it shows. The fields keep what is in them.

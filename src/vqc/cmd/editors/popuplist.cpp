@@ -7,6 +7,7 @@
 #include <Xm/PushB.h>
 #include <Xm/TextF.h>
 
+#include "vqc/cmd/editors/field_words.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_names.h"
@@ -41,6 +42,8 @@ const ListPage popups = {.name = "popupedit",
                          .form = "popupedit_work_area",
                          .rows = work_rows};
 
+constexpr FieldOfWord fields[] = {{Kw::dialog_init, INIT}, {Kw::dialog_update, UPDATE}};
+
 void show_popup(Name name) { popup_setcurrent(popup_ptr(name)); }
 
 }  // namespace
@@ -68,6 +71,8 @@ void popuplist_do_add(Widget w, XtPointer, XtPointer) {
   gettextf(popupedit_dialog[INIT], &popup->dialog_init);
   gettextf(popupedit_dialog[UPDATE], &popup->dialog_update);
 }
+
+Widget popupedit_field(Kw word) { return field_of_word(popupedit_dialog, fields, word); }
 
 void current_popup_changed(PopupDef* popup) {
   if (!popupedit_dialog) return;

@@ -5,6 +5,7 @@
 
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/picker.h"
+#include "vqc/cmd/savefile/keywords.h"
 
 namespace vqc::editors {
 
@@ -27,6 +28,9 @@ inline constexpr XtCallbackProc popuplist_do_display = do_show<popup_picker>;
 inline constexpr XtCallbackProc popuplist_do_delete = do_remove<popup_picker>;
 /// Adds the popup to the family and stores its procedures. What is typed over a predefined popup is taken back.
 void popuplist_do_add(Widget w, XtPointer, XtPointer);
+
+/// The field that a word of a popup gives; null for none.
+Widget popupedit_field(Kw word);
 
 /// Hears that another popup, or none, is current now.
 void current_popup_changed(PopupDef* popup);

@@ -14,6 +14,10 @@
 #include <Xm/TextF.h>
 #include <Xm/ToggleB.h>
 
+#include <algorithm>
+#include <optional>
+
+#include "vqc/cmd/editors/field_words.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_names.h"
@@ -22,6 +26,7 @@
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
 #include "vqc/cmd/editors/title.h"
+#include "vqc/cmd/savefile/fields.h"
 
 namespace vqc::editors {
 
@@ -238,12 +243,26 @@ constexpr Toggle toggles[] = {
     {CAN_EDIT_ABSTRACT, &WidgetDef::can_edit_abstract},
 };
 
+constexpr FieldOfWord resource_fields[] = {
+    {Kw::resource_definitions, RESOURCE}, {Kw::counter, COUNTER}, {Kw::popup, POPUP}, {Kw::page, PAGE},
+    {Kw::access, CREATE_TOGGLE},
+};
+
 struct AccessToggle {
   Slot toggle;
   Access access;
 };
 constexpr AccessToggle access_toggles[] = {
     {CREATE_TOGGLE, ACCESS_CREATE}, {GET_TOGGLE, ACCESS_GET}, {SET_TOGGLE, ACCESS_SET}};
+
+/// The slot that has a member of a widget; none for one that no row has.
+template <class Table, class Member>
+std::optional<Slot> slot_of(const Table& table, Member member) {
+  for (const auto& [slot, shown] : table) {
+    if (shown == member) return slot;
+  }
+  return std::nullopt;
+}
 
 /// What waits for the answer about a changed resource.
 enum class Pending { none, close, show_resource };
@@ -352,6 +371,15 @@ void ask_about_resource(Pending action) {
   show_dialog(resource_warn_dialog[WARN_BOX], Place::over);
 }
 
+void select_resource(Name name) {
+  if (resource_changed) {
+    pending_resource = name.view();
+    ask_about_resource(Pending::show_resource);
+  } else {
+    show_resource(name);
+  }
+}
+
 std::vector<std::string> resource_names(const WidgetDef& widget) {
   std::vector<std::string> names;
   for (const ResourceDef& resource : widget.resource_definitions) names.emplace_back(resource.name.view());
@@ -395,6 +423,11 @@ void widgetedit_show() {
   resource_changed = false;
 }
 
+void widgetedit_turn_to() {
+  const bool is_up = widgetedit_dialog && XtIsManaged(at(FORM));
+  is_up ? show_dialog(at(FORM)) : widgetedit_show();
+}
+
 void widgetedit_do_hide(Widget, XtPointer, XtPointer) {
   if (resource_changed) {
     ask_about_resource(Pending::close);
@@ -421,15 +454,28 @@ void widget_do_undo(Widget w, XtPointer, XtPointer) {
   widgetedit_setwidget(widgetlist_getcurrent());
 }
 
+Widget widgetedit_field(Kw word) {
+  const auto field = std::ranges::find(widget_fields, word, &Field<WidgetDef>::word);
+  if (field == std::end(widget_fields)) return nullptr;
+  const auto* text = field->text();
+  const std::optional<Slot> slot =
+      text ? slot_of(text_fields, *text) : slot_of(toggles, std::get<bool WidgetDef::*>(field->member));
+  return slot ? at(*slot) : nullptr;
+}
+
+Widget resource_field(Kw word) { return field_of_word(widgetedit_dialog, resource_fields, word); }
+
+bool widgetedit_choose_resource(Name name) {
+  if (!resource_ptr(current_widget(), name)) return false;
+  if (gettextf(at(RESOURCE)) == name.view() && list_selected(at(RESOURCE_LIST)) == name.view()) return true;
+  list_select(at(RESOURCE_LIST), name);
+  select_resource(name);
+  return true;
+}
+
 void we_select_cb(Widget w, XtPointer, XtPointer call) {
   const BusyCursor busy(w);
-  const std::string name = clicked_name(w, *static_cast<XmListCallbackStruct*>(call));
-  if (resource_changed) {
-    pending_resource = name;
-    ask_about_resource(Pending::show_resource);
-  } else {
-    show_resource(name);
-  }
+  select_resource(clicked_name(w, *static_cast<XmListCallbackStruct*>(call)));
 }
 
 void we_popup_update_cb(Widget w, XtPointer, XtPointer) {

@@ -6,7 +6,9 @@
 // its fields show something else.
 
 #include "vqc/cmd/editors/kit/dialog.h"
+#include "vqc/cmd/editors/kit/edited_document.h"
 #include "vqc/cmd/model/records.h"
+#include "vqc/cmd/savefile/keywords.h"
 
 namespace vqc::editors {
 
@@ -21,11 +23,21 @@ inline void delete_resource_warn_dialog(Widget* record) { delete_dialog(record);
 
 /// Shows the dialog, made when it is first needed.
 void widgetedit_show();
+/// The same, unless it is up: then what has been changed in it stays so.
+void widgetedit_turn_to();
 /// Closes it, unless the user has to say first what becomes of a changed resource.
 void widgetedit_do_hide(Widget w, XtPointer, XtPointer);
 
 /// Fills the dialog, if there is one, from a widget; null empties it.
 void widgetedit_setwidget(const Reference<WidgetDef>* element);
+
+/// The field or toggle that a word of a widget gives, and that of a resource; null for none. A resource's name stands
+/// under the word for all resources.
+Widget widgetedit_field(Kw word);
+Widget resource_field(Kw word);
+
+/// Shows a resource of the widget as a click on it does. False when there is none of that name.
+bool widgetedit_choose_resource(Name name);
 
 void widget_do_update(Widget w, XtPointer, XtPointer);
 void widget_do_undo(Widget w, XtPointer, XtPointer);

@@ -15,6 +15,7 @@
 #include <cstring>
 #include <vector>
 
+#include "vqc/cmd/editors/kit/on_screen.h"
 #include "vqc/cmd/editors/kit/polish.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/kit/widgets.h"
@@ -259,6 +260,13 @@ void show_dialog(Widget contents, Place place) {
   XtManageChild(contents);
   Widget shell = shell_around(contents);
   if (XtIsRealized(shell)) XMapRaised(XtDisplay(shell), XtWindow(shell));
+}
+
+void give_keyboard(Widget w) {
+  XmProcessTraversal(w, XmTRAVERSE_CURRENT);
+  Widget shell = shell_around(w);
+  if (!is_shown(shell)) return;
+  XSetInputFocus(XtDisplay(shell), XtWindow(shell), RevertToParent, XtLastTimestampProcessed(XtDisplay(shell)));
 }
 
 void hide_dialog(Widget contents) {

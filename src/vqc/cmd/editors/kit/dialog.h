@@ -111,6 +111,8 @@ void delete_dialog(Widget* record);
 
 /// Pops up the dialog whose shell has the child `contents`, in front of others.
 void show_dialog(Widget contents, Place place = Place::beside);
+/// Gives a widget the keyboard, and its window too where that is up already; one that comes up gets it by itself.
+void give_keyboard(Widget w);
 /// Pops it down. Null is allowed.
 void hide_dialog(Widget contents);
 
