@@ -59,6 +59,7 @@ const Dialog dialogs[] = {
     {"open_dialog", [] { press("family_openb"); }},
     {"read_dialog", [] { press("family_readb"); }},
     {"save_dialog", [] { press("family_saveasb"); }},
+    {"uses_dialog", [] { press("family_usesb"); }},
     {"about_dialog", [] { press("family_helpaboutb"); }},
     {"error_dialog", [] { error_show("bad_save_file"); }},
     {"gen_dialog", [] { press("family_genconfigb"); }, Rank::modal},

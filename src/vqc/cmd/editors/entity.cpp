@@ -4,8 +4,10 @@
 
 #include <Xm/CascadeB.h>
 #include <Xm/DialogS.h>
+#include <Xm/PushB.h>
 #include <Xm/RowColumn.h>
 #include <Xm/SelectioB.h>
+#include <Xm/Separator.h>
 #include <Xm/ToggleB.h>
 
 #include "vqc/cmd/editors/aliaslist.h"
@@ -16,6 +18,7 @@
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_names.h"
+#include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/title.h"
 #include "vqc/cmd/editors/widgetlist.h"
 
@@ -37,6 +40,8 @@ const WidgetRow frame_rows[] = {
     {"entity_opt_family_headers_t", XmCreateToggleButton,  "view_pulldown", {}, ENTITY_VIEW_FAMILY_HEADERS},
     {"entity_opt_family_init_t",    XmCreateToggleButton,  "view_pulldown", {}, ENTITY_VIEW_FAMILY_INIT},
     {"entity_opt_widgets_t",        XmCreateToggleButton,  "view_pulldown", {}, ENTITY_VIEW_WIDGETS},
+    {"entity_view_separator",       XmCreateSeparator,     "view_pulldown"},
+    {"entity_usesb",                XmCreatePushButton,    "view_pulldown", on_press(entity_do_uses)},
     {"entity_viewb",                XmCreateCascadeButton, "entity_menubar"},
     {"entity_view_form",            create_form,           "entity_form"},
 };
@@ -108,6 +113,10 @@ void entity_do_show_page(Widget toggle, XtPointer page, XtPointer call) {
   if (!static_cast<XmToggleButtonCallbackStruct*>(call)->set) return;
   const BusyCursor busy(toggle);
   map_page(static_cast<Widget>(page));
+}
+
+void entity_do_uses(Widget item, XtPointer, XtPointer) {
+  if (session_hooks.uses) session_hooks.uses(item);
 }
 
 int entity_setfamily(Family* family) {

@@ -21,6 +21,9 @@ bool entity_show_page(EntitySlot page);
 /// Shows the page given as client data instead of the others, when the toggle has been set.
 void entity_do_show_page(Widget toggle, XtPointer page, XtPointer call);
 
+/// Shows who uses what is chosen on the page.
+void entity_do_uses(Widget item, XtPointer, XtPointer);
+
 /// Fills every page for a family; null for none. 0 while there is no dialog, else 1.
 int entity_setfamily(Family* family);
 

@@ -18,6 +18,7 @@
 #include "vqc/cmd/editors/options.h"
 #include "vqc/cmd/editors/session_history.h"
 #include "vqc/cmd/editors/stop.h"
+#include "vqc/cmd/editors/uses.h"
 
 namespace vqc::editors {
 
@@ -43,6 +44,7 @@ const WidgetRow menu_rows[] = {
     {"family_undob",              XmCreatePushButton,    "family_edit_menu",     on_press(undo_do), FAMILY_UNDO},
     {"family_redob",              XmCreatePushButton,    "family_edit_menu",     on_press(redo_do), FAMILY_REDO},
     {"family_edit_separator",     XmCreateSeparator,     "family_edit_menu"},
+    {"family_usesb",              XmCreatePushButton,    "family_edit_menu",     on_press(uses_do_popup)},
     {"family_stop_b",             XmCreatePushButton,    "family_edit_menu",     on_press(stoplist_do_popup)},
     {"family_edit_cascade",       XmCreateCascadeButton, "family_menubar"},
 

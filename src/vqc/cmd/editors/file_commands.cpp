@@ -23,6 +23,7 @@
 #include "vqc/cmd/editors/session_history.h"
 #include "vqc/cmd/editors/stop.h"
 #include "vqc/cmd/editors/title.h"
+#include "vqc/cmd/editors/uses.h"
 
 namespace vqc::editors {
 
@@ -157,7 +158,7 @@ bool load_document() {
 std::span<const CommandKey> file_command_keys() {
   static constexpr CommandKey keys[] = {{'o', open_do_popup}, {'s', save_do_popup}, {'S', saveas_do_popup},
                                         {'q', do_exit},       {'z', undo_do},       {'Z', redo_do},
-                                        {'y', redo_do}};
+                                        {'y', redo_do},       {'u', uses_do_popup}};
   return keys;
 }
 

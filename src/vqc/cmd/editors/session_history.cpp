@@ -23,6 +23,7 @@
 #include "vqc/cmd/editors/step_names.h"
 #include "vqc/cmd/editors/stop.h"
 #include "vqc/cmd/editors/title.h"
+#include "vqc/cmd/editors/uses.h"
 #include "vqc/cmd/editors/widgetlist.h"
 #include "vqc/cmd/history/timeline.h"
 
@@ -68,6 +69,7 @@ void show_now() {
   vqc_set_title(save_file_path());
   refill_windows();
   select_again(timeline->now().selection);
+  refresh_uses();
 }
 
 /// Says in a menu item what it would do.
@@ -96,6 +98,7 @@ void note_action() {
   if (!timeline || !timeline->note(edited_document, surroundings())) return;
   keep_state(timeline->now().state, save_file);
   show_steps();
+  refresh_uses();
   if (!has_spoken()) say_text(step_name(timeline->previous(), timeline->now()));
 }
 

@@ -7,6 +7,7 @@
 
 #include "libkel/leafnm.h"
 #include "libkel/message.h"
+#include "vqc/cmd/editors/kit/part_names.h"
 #include "vqc/cmd/history/difference.h"
 
 namespace vqc::editors {
@@ -15,18 +16,6 @@ namespace {
 
 /// The message for each verb, in which a part stands.
 constexpr const char* verb_messages[] = {"step_added", "step_removed", "step_changed", "step_reordered"};
-
-/// The message for each part, in which its name stands if it has one.
-constexpr const char* part_messages[] = {
-    "part_family",   "part_widget",      "part_enumeration",   "part_alias",         "part_converter", "part_popup",
-    "part_page",     "part_code_header", "part_family_header", "part_config_header", "part_resource",  "part_entry",
-    "part_families", "part_stop_list",   "part_table_names",   "part_output_names", "part_procedure",
-};
-
-std::string part_name(const Difference& difference) {
-  const std::string name(difference.name.view());
-  return filled(text_or_name(part_messages[static_cast<std::size_t>(difference.part)]), {name.c_str()});
-}
 
 /// How many other things have been done in the same way.
 int count_more(const std::vector<Difference>& all) {
@@ -37,7 +26,7 @@ int count_more(const std::vector<Difference>& all) {
 }
 
 std::string name_of_change(const std::vector<Difference>& all) {
-  std::string part = part_name(all.front());
+  std::string part = part_name(all.front().part, all.front().name);
   const int more = count_more(all);
   if (more > 0) part = filled(text_or_name("step_more"), {part.c_str(), more});
   return filled(text_or_name(verb_messages[static_cast<std::size_t>(all.front().verb)]), {part.c_str()});

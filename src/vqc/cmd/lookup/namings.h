@@ -1,6 +1,8 @@
 #ifndef VQC_CMD_LOOKUP_NAMINGS_H
 #define VQC_CMD_LOOKUP_NAMINGS_H
 
+#include <optional>
+
 #include "vqc/cmd/model/part.h"
 #include "vqc/cmd/savefile/fields.h"
 
@@ -18,6 +20,14 @@ struct Naming {
 
 /// Whether a value is the name of a procedure.
 constexpr bool is_procedure(ValueKind kind) { return kind >= ValueKind::name_procedure; }
+
+/// What kind of thing a value names; none where it names nothing.
+constexpr std::optional<Part> named_by(ValueKind kind) {
+  if (is_procedure(kind)) return Part::procedure;
+  if (kind == ValueKind::popup) return Part::popup;
+  if (kind == ValueKind::header) return Part::code_header;
+  return std::nullopt;
+}
 
 /// The walk of each_naming(). `Doc` is a document, constant or not, and so are its texts.
 template <class Doc, class Visit>
@@ -38,20 +48,16 @@ class NamingsWalk {
     if (text) visit_(naming, &text);
   }
 
-  /// A header of that name may be in either list.
   void in_value(ValueKind kind, Naming naming, auto& text) {
-    if (is_procedure(kind)) naming.part = Part::procedure;
-    if (kind == ValueKind::popup) naming.part = Part::popup;
-    if (naming.field == Kw::pixmap_resource) naming.part = Part::resource;
-    if (kind == ValueKind::header) {
-      naming.part = Part::code_header;
+    const auto names = [&](Part part) {
+      naming.part = part;
       in_text(naming, text);
-      naming.part = Part::config_header;
-    }
-    if (naming.part != naming.by) in_text(naming, text);
+    };
+    if (const std::optional<Part> part = named_by(kind)) names(*part);
+    if (kind == ValueKind::header) names(Part::config_header);  // it may be in either list
+    if (naming.field == Kw::pixmap_resource) names(Part::resource);
   }
 
-  /// A field names nothing if the kind of its value does not say so.
   template <class Record, std::size_t n>
   void in_fields(Part by, Text by_name, const Field<Record> (&fields)[n], auto& record, Text of = {}) {
     for (const Field<Record>& field : fields) {

@@ -1,7 +1,8 @@
-// Takes the letters with Ctrl before the toolkit gives a key to a widget.
+// Takes the letters with Ctrl, and function keys, before the toolkit gives a key to a widget.
 
 #include "vqc/cmd/editors/kit/keys.h"
 
+#include <X11/Xutil.h>
 #include <X11/keysym.h>
 #include <Xm/DialogS.h>
 
@@ -65,12 +66,14 @@ void close_window(Widget shell) {
   XtDispatchEvent(&request);
 }
 
+const CommandKey* command_of(KeySym key) {
+  const auto found = std::ranges::find(command_keys, key, &CommandKey::key);
+  return found == command_keys.end() ? nullptr : &*found;
+}
+
 const CommandKey* command_of(char letter) {
-  for (char candidate : {letter, lower(letter)}) {
-    const auto key = std::ranges::find(command_keys, candidate, &CommandKey::letter);
-    if (key != command_keys.end()) return &*key;
-  }
-  return nullptr;
+  const CommandKey* key = command_of(static_cast<KeySym>(letter));
+  return key ? key : command_of(static_cast<KeySym>(lower(letter)));
 }
 
 /// Does what a letter with Ctrl does in a window. False when that is nothing.
@@ -87,6 +90,19 @@ bool act(Widget shell, char letter, XEvent* event) {
   return key || lower(letter) == 'w';
 }
 
+/// The command of a function key that is pressed alone; null for none.
+const CommandKey* command_of_function_key(XKeyEvent& key) {
+  const KeySym symbol = XLookupKeysym(&key, 0);
+  const bool is_alone = !(key.state & (ShiftMask | ControlMask | Mod1Mask));
+  return is_alone && IsFunctionKey(symbol) ? command_of(symbol) : nullptr;
+}
+
+/// Gives a command, unless a dialog has to be answered first. True, for nobody else shall have the key.
+bool give(const CommandKey& key, Widget shell) {
+  if (!modal_shell()) key.command(shell, nullptr, nullptr);
+  return true;
+}
+
 /// The window that a key is pressed in; null while a menu has the keyboard.
 Widget window_of(const XKeyEvent& key) {
   return menus_up == 0 ? shell_around(XtWindowToWidget(key.display, key.window)) : nullptr;
@@ -95,9 +111,10 @@ Widget window_of(const XKeyEvent& key) {
 Boolean dispatch_key(XEvent* event) {
   XKeyEvent& key = event->xkey;
   const char letter = letter_with_control(key);
-  Widget shell = letter ? window_of(key) : nullptr;
+  const CommandKey* command = letter ? nullptr : command_of_function_key(key);
+  Widget shell = letter || command ? window_of(key) : nullptr;
   bool done = false;
-  if (shell) act_for_user([&] { done = act(shell, letter, event); });
+  if (shell) act_for_user([&] { done = command ? give(*command, shell) : act(shell, letter, event); });
   if (done) return True;
   return usual_dispatch(event);
 }

@@ -1,7 +1,7 @@
 #ifndef VQC_CMD_EDITORS_KIT_KEYS_H
 #define VQC_CMD_EDITORS_KIT_KEYS_H
 
-// The letters with Ctrl, which mean the same in every window.
+// The letters with Ctrl and the function keys, which mean the same in every window.
 
 #include <Xm/Xm.h>
 
@@ -9,13 +9,13 @@
 
 namespace vqc::editors {
 
-/// A command that a letter gives together with Ctrl, in whatever window it is pressed.
+/// A command that a key gives in whatever window it is pressed: a letter together with Ctrl, or a function key alone.
 struct CommandKey {
-  char letter;  // a capital is one with Shift; where there is none, Shift makes no difference
-  XtCallbackProc command;
+  KeySym key;  // of letters, a capital is one with Shift; where there is none, Shift makes no difference
+  XtCallbackProc command;  // is called with the shell
 };
 
-/// Lets the letters with Ctrl mean the same in every window that is made from now on: the `commands`, which a dialog
+/// Lets function keys and the letters with Ctrl mean the same in every window that is made from now on: the `commands`, which a dialog
 /// that has to be answered first keeps waiting, W to close the window, and A, C, X and V to select all, copy, cut and
 /// paste in a text field. Z takes back what has been typed in it, Shift+Z and Y type it again; they are commands where
 /// there is nothing of that. What else is typed with Ctrl is left to menus, and never becomes text.

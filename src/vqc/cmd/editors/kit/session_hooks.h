@@ -14,6 +14,7 @@ struct SessionHooks {
   void (*acted)() = nullptr;                            // hears that the user has done something
   void (*end)(int status) = nullptr;                    // ends the session
   void (*help)(Widget w, const char* topic) = nullptr;  // shows a page of help
+  void (*uses)(Widget w) = nullptr;                     // shows who uses what is chosen in a window
 };
 inline SessionHooks session_hooks;
 

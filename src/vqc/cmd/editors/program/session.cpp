@@ -34,6 +34,7 @@
 #include "vqc/cmd/editors/safety_net.h"
 #include "vqc/cmd/editors/session_history.h"
 #include "vqc/cmd/editors/title.h"
+#include "vqc/cmd/editors/uses.h"
 #include "vqc/cmd/editors/widgetlist.h"
 
 extern "C" void XmRegisterConverters();  // only Motif's private headers declare it
@@ -43,6 +44,8 @@ namespace vqc::editors {
 namespace {
 
 XtAppContext context = nullptr;
+
+void show_uses_of(Widget w) { uses_do_popup(w, nullptr, nullptr); }
 
 /// Lets the lower layers speak to the editors, and the editors to the program. A batch run does without.
 void install_hooks() {
@@ -54,7 +57,7 @@ void install_hooks() {
   converter_kind.on_current = current_converter_changed;
   page_pool.on_current = current_page_changed;
   popup_pool.on_current = current_popup_changed;
-  session_hooks = {.acted = note_action, .end = ExitVQConfig, .help = show_help};
+  session_hooks = {.acted = note_action, .end = ExitVQConfig, .help = show_help, .uses = show_uses_of};
 }
 
 void register_converters() {

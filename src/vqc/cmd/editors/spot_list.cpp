@@ -1,0 +1,53 @@
+// Names places in the document, and lists them.
+
+#include "vqc/cmd/editors/spot_list.h"
+
+#include <Xm/List.h>
+
+#include "libkel/message.h"
+#include "vqc/cmd/editors/kit/part_names.h"
+#include "vqc/cmd/editors/kit/shown_names.h"
+
+namespace vqc::editors {
+
+std::string spot_name(const Spot& spot) {
+  std::string name = part_name(spot.part, Text(spot.name.c_str()));
+  if (!spot.of.empty()) name = filled(text_or_name("spot_of"), {name.c_str(), spot.of.c_str()});
+  if (!spot.field.empty()) name = filled(text_or_name("spot_field"), {name.c_str(), spot.field.c_str()});
+  return name;
+}
+
+std::string counts_name(const UseCounts& counts) {
+  struct Row {
+    int count;
+    const char* one;
+    const char* several;
+  };
+  const Row table[] = {{counts.resources, "count_resource", "count_resources"},
+                       {counts.widgets, "count_widget", "count_widgets"},
+                       {counts.converters, "count_converter", "count_converters"},
+                       {counts.popups, "count_popup", "count_popups"},
+                       {counts.families, "count_family", "count_families"}};
+  std::string name;
+  for (const auto& [count, one, several] : table) {
+    if (count == 0) continue;
+    name += (name.empty() ? "" : ", ") + filled(text_or_name(count == 1 ? one : several), {count});
+  }
+  return name;
+}
+
+void list_spots(Widget list, const std::vector<Spot>& spots) {
+  std::vector<std::string> names;
+  names.reserve(spots.size());
+  for (const Spot& spot : spots) names.push_back(spot_name(spot));
+  list_show(list, names);
+}
+
+int selected_place(Widget list) {
+  int* places = nullptr;
+  int count = 0;
+  XtVaGetValues(list, XmNselectedPositions, &places, XmNselectedPositionCount, &count, nullptr);
+  return count == 0 ? -1 : places[0] - 1;
+}
+
+}  // namespace vqc::editors
