@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <string_view>
 
 namespace vqc {
 
@@ -19,7 +20,24 @@ constexpr FindingKind kinds[] = {
 #undef FINDING
 };
 
+/// A text whose lines begin further in.
+std::string indented(std::string_view text) {
+  std::string result;
+  bool at_start = true;
+  for (char c : text) {
+    if (at_start && c != '\n') result += "    ";
+    result += c;
+    at_start = c == '\n';
+  }
+  return result;
+}
+
 }  // namespace
+
+const char* severity_name(Severity severity) {
+  constexpr const char* kNames[] = {"error", "warning", "note"};
+  return kNames[static_cast<std::size_t>(severity)];
+}
 
 const FindingKind& kind_of(FindingId id) { return kinds[static_cast<std::size_t>(id)]; }
 
@@ -40,6 +58,13 @@ std::string words_of(const Finding& finding) {
     }
   }
   return words;
+}
+
+std::string suggestion_words(const Finding& finding) { return "did you mean '" + finding.suggestion + "'?"; }
+
+std::string explanation_of(const FindingKind& kind) {
+  return std::string(kind.explanation) + "\n\nFor example:\n\n" + indented(kind.example) + "\nMended:\n\n" +
+         indented(kind.cure);
 }
 
 }  // namespace vqc

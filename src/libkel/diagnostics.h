@@ -65,11 +65,16 @@ struct FindingKind {
   const char* cure;     // the same document, mended
 };
 
+const char* severity_name(Severity severity);
 const FindingKind& kind_of(FindingId id);
 std::span<const FindingKind> finding_kinds();
 bool has_errors(std::span<const Finding> findings);
 /// What a finding says, its arguments filled in.
 std::string words_of(const Finding& finding);
+/// The sentence that offers a suggestion.
+std::string suggestion_words(const Finding& finding);
+/// What a kind of finding means, with its example and its cure.
+std::string explanation_of(const FindingKind& kind);
 
 }  // namespace vqc
 

@@ -4,15 +4,12 @@
 
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <utility>
 
 #include "vqc/cmd/check/check.h"
-#include "vqc/cmd/savefile/load.h"
 
 namespace vqc {
 
@@ -32,14 +29,8 @@ std::unique_ptr<CheckedDocument> check_file(const std::string& file, const std::
     std::fprintf(stderr, "vqc: %s: %s\n", display_name(file).c_str(), std::strerror(errno));
     return nullptr;
   }
-  Diagnostics findings;
   Places places(*checked->source);
-  load(checked->source, checked->document, findings, AfterError::go_on, &places);
-  if (!has_errors(findings.findings())) {
-    check(checked->document, *checked->source, places, {include_folders, folder_of(file)}, findings);
-  }
-  checked->findings = findings.take();
-  std::ranges::stable_sort(checked->findings, {}, [](const Finding& each) { return each.range.begin; });
+  checked->findings = findings_in(checked->source, checked->document, places, {include_folders, folder_of(file)});
   return checked;
 }
 

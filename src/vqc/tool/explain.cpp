@@ -6,28 +6,14 @@
 
 #include "vqc/tool/commands.h"
 #include "vqc/tool/finding_names.h"
-#include "vqc/tool/findings_writer.h"
 
 namespace vqc {
 
 namespace {
 
-/// A text whose lines begin further in.
-std::string indented(std::string_view text) {
-  std::string result;
-  bool at_start = true;
-  for (char c : text) {
-    if (at_start && c != '\n') result += "    ";
-    result += c;
-    at_start = c == '\n';
-  }
-  return result;
-}
-
 void explain(const FindingKind& kind) {
-  std::printf("%s: %s%s\n\n%s\n\n%s\n\nFor example:\n\n%s\nMended:\n\n%s", kind.name, severity_name(kind.severity),
-              kind.shown ? "" : ", shown only with --with", kind.words, kind.explanation,
-              indented(kind.example).c_str(), indented(kind.cure).c_str());
+  std::printf("%s: %s%s\n\n%s\n\n%s", kind.name, severity_name(kind.severity),
+              kind.shown ? "" : ", shown only with --with", kind.words, explanation_of(kind).c_str());
 }
 
 void list_kinds() {

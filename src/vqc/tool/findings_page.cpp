@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "libkel/diagnostics.h"
-#include "vqc/tool/findings_writer.h"
 
 using namespace vqc;
 

@@ -31,10 +31,6 @@ class FindingsWriter {
   virtual void finish() {}
 };
 
-const char* severity_name(Severity severity);
-/// The sentence that offers a suggestion.
-std::string suggestion_words(const Finding& finding);
-
 // The writers write to a sink, which must outlive them.
 
 /// For people: the line and a caret under the range, notes and suggestions.

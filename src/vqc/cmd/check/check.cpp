@@ -2,7 +2,10 @@
 
 #include "vqc/cmd/check/check.h"
 
+#include <algorithm>
+
 #include "vqc/cmd/check/rules.h"
+#include "vqc/cmd/savefile/load.h"
 
 namespace vqc {
 
@@ -28,10 +31,23 @@ void note_popups_and_pages(const Document& document, RecordSet& records) {
 }  // namespace
 
 void check(const Document& document, const Source& source, const Places& places, const CheckOptions& options,
-           Diagnostics& findings) {
+           Diagnostics& findings, const std::stop_token& stop) {
   Inspection inspection{document, source, places, options, findings};
   note_popups_and_pages(document, inspection.in_families);
-  for (auto rule : rules) rule(inspection);
+  for (auto rule : rules) {
+    if (stop.stop_requested()) return;
+    rule(inspection);
+  }
+}
+
+std::vector<Finding> findings_in(const std::shared_ptr<const Source>& source, Document& document, Places& places,
+                                 const CheckOptions& options, const std::stop_token& stop) {
+  Diagnostics diagnostics;
+  load(source, document, diagnostics, AfterError::go_on, &places);
+  if (!has_errors(diagnostics.findings())) check(document, *source, places, options, diagnostics, stop);
+  std::vector<Finding> findings = diagnostics.take();
+  std::ranges::stable_sort(findings, {}, [](const Finding& each) { return each.range.begin; });
+  return findings;
 }
 
 }  // namespace vqc
