@@ -2,7 +2,6 @@
 
 #include "vqc/cmd/history/journal_writer.h"
 
-#include <csignal>
 #include <new>
 #include <utility>
 
@@ -22,47 +21,20 @@ std::string text_of(const State& state) {
   return text.text();
 }
 
-/// Signals are for the thread that serves the user.
-void take_no_signals() {
-  sigset_t all;
-  sigfillset(&all);
-  pthread_sigmask(SIG_BLOCK, &all, nullptr);
-}
-
 }  // namespace
 
-JournalWriter::~JournalWriter() { stop(); }
-
 void JournalWriter::take(std::shared_ptr<const State> state, std::filesystem::path document) {
-  {
-    const std::scoped_lock lock(mutex_);
-    waiting_ = {std::move(state), std::move(document)};
-  }
-  changed_.notify_one();
-  if (!thread_.joinable()) thread_ = std::jthread([this](const std::stop_token& stop) { work(stop); });
+  background_.take({std::move(state), std::move(document)});
 }
 
 void JournalWriter::end() {
-  stop();
+  background_.stop();
   journal_.end();
 }
 
 std::error_code JournalWriter::failure() const {
   const std::scoped_lock lock(mutex_);
   return failure_;
-}
-
-void JournalWriter::work(const std::stop_token& stop) {
-  take_no_signals();
-  std::unique_lock lock(mutex_);
-  while (changed_.wait(lock, stop, [this] { return waiting_.state != nullptr; })) {
-    changed_.wait_for(lock, stop, kRest, [] { return false; });
-    if (stop.stop_requested()) return;
-    const Task task = std::exchange(waiting_, {});
-    lock.unlock();
-    write(task);
-    lock.lock();
-  }
 }
 
 void JournalWriter::write(const Task& task) {
@@ -76,12 +48,6 @@ void JournalWriter::write(const Task& task) {
   }
   const std::scoped_lock lock(mutex_);
   failure_ = failure;
-}
-
-void JournalWriter::stop() {
-  if (!thread_.joinable()) return;
-  thread_.request_stop();
-  thread_.join();
 }
 
 }  // namespace vqc

@@ -1,14 +1,12 @@
 #ifndef VQC_CMD_HISTORY_JOURNAL_WRITER_H
 #define VQC_CMD_HISTORY_JOURNAL_WRITER_H
 
-#include <chrono>
-#include <condition_variable>
 #include <filesystem>
 #include <memory>
 #include <mutex>
 #include <system_error>
-#include <thread>
 
+#include "libkel/background.h"
 #include "vqc/cmd/history/journal.h"
 #include "vqc/cmd/history/state.h"
 
@@ -17,14 +15,9 @@ namespace vqc {
 /// Writes states of a document into a journal while the session goes on, in a thread of its own: a state never changes.
 class JournalWriter {
  public:
-  /// How long a state waits for another one to come in its place.
-  static constexpr std::chrono::milliseconds kRest{300};
-
   explicit JournalWriter(Journal journal) : journal_(std::move(journal)) {}
-  /// Leaves what has been written, and nothing of what has not.
-  ~JournalWriter();
 
-  /// Has a state of that document written. One that still waits is left out.
+  /// Has a state of that document written. One that still waits is left out, and so it is when the session is gone.
   void take(std::shared_ptr<const State> state, std::filesystem::path document);
   /// Ends the session well: nothing is left of its journal.
   void end();
@@ -39,16 +32,12 @@ class JournalWriter {
     std::filesystem::path document;
   };
 
-  void work(const std::stop_token& stop);
   void write(const Task& task);
-  void stop();
 
   Journal journal_;
   mutable std::mutex mutex_;
-  std::condition_variable_any changed_;
-  Task waiting_;  // its state is null when nothing waits
   std::error_code failure_;
-  std::jthread thread_;  // begun with the first state
+  Background<Task> background_{[this](const Task& task, const std::stop_token&) { write(task); }};
 };
 
 }  // namespace vqc
