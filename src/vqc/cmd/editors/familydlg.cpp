@@ -16,6 +16,7 @@
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/kit/status_line.h"
 #include "vqc/cmd/editors/options.h"
+#include "vqc/cmd/editors/recent_menu.h"
 #include "vqc/cmd/editors/session_history.h"
 #include "vqc/cmd/editors/stop.h"
 #include "vqc/cmd/editors/uses.h"
@@ -34,11 +35,13 @@ const WidgetRow menu_rows[] = {
     {"family_newb",               XmCreatePushButton,    "family_file_menu",     on_press(do_new)},
     {"family_openb",              XmCreatePushButton,    "family_file_menu",     on_press(open_do_popup)},
     {"family_readb",              XmCreatePushButton,    "family_file_menu",     on_press(read_do_popup)},
+    {"family_recent_menu",        XmCreatePulldownMenu,  "family_file_menu",     {}, FAMILY_RECENT_MENU},
+    {"family_recent_cascade",     XmCreateCascadeButton, "family_file_menu",     {}, FAMILY_RECENT_CASCADE},
     {"family_saveb",              XmCreatePushButton,    "family_file_menu",     on_press(save_do_popup)},
     {"family_saveasb",            XmCreatePushButton,    "family_file_menu",     on_press(saveas_do_popup)},
     {"separator4",                XmCreateSeparator,     "family_file_menu"},
     {"family_exitb",              XmCreatePushButton,    "family_file_menu",     on_press(do_exit)},
-    {"family_file_cascade",       XmCreateCascadeButton, "family_menubar"},
+    {"family_file_cascade",       XmCreateCascadeButton, "family_menubar",       {{{XmNcascadingCallback, fill_recent_menu}}}},
 
     {"family_edit_menu",          XmCreatePulldownMenu,  "family_menubar"},
     {"family_undob",              XmCreatePushButton,    "family_edit_menu",     on_press(undo_do), FAMILY_UNDO},
@@ -70,6 +73,7 @@ const WidgetRow menu_rows[] = {
 
 const WidgetLink menu_links[] = {
     {"family_file_cascade",     XmNsubMenuId,      "family_file_menu"},
+    {"family_recent_cascade",   XmNsubMenuId,      "family_recent_menu"},
     {"family_edit_cascade",     XmNsubMenuId,      "family_edit_menu"},
     {"family_options_cascade",  XmNsubMenuId,      "family_options_menu"},
     {"family_generate_cascade", XmNsubMenuId,      "family_generate_menu"},
@@ -85,7 +89,8 @@ Widget* create_family_dialog(Display* display, char* name, int argc, char** argv
       XtVaAppCreateShell(name, "VQconfig", applicationShellWidgetClass, display, XmNargc, argc, XmNargv, argv, nullptr);
   if (!shell) return nullptr;
   set_font_unit(shell);
-  Widget* record = build_dialog(shell, {part(menu_rows, menu_links), status_line("family_form"), familylist_page()}, FAMILY_SLOTS);
+  Widget* record =
+      build_dialog(shell, {part(menu_rows, menu_links), status_line("family_form"), familylist_page()}, FAMILY_SLOTS);
   if (!record) return nullptr;
   record[FAMILY_SHELL] = shell;
   answer_close(shell, do_exit);

@@ -7,6 +7,7 @@
 #include <Xm/PushB.h>
 
 #include <string>
+#include <utility>
 
 #include "libkel/message.h"
 #include "vqc/cmd/editors/document_files.h"
@@ -70,6 +71,7 @@ struct Question {
 };
 constexpr Question questions[] = {
     {SaveOp::open, "sbf_open", "sbu_open"},
+    {SaveOp::open_recent, "sbf_open", "sbu_open"},
     {SaveOp::start_new, "sbf_new", "sbu_new"},
     {SaveOp::exit, "sbf_exit", "sbu_exit"},
 };
@@ -105,6 +107,20 @@ void really_exit() {
   if (session_hooks.end) session_hooks.end(0);
 }
 
+/// Makes the document of a file the one that is edited.
+void replace_document(const std::string& path) {
+  keep_unsaved();
+  save_file = path;
+  load_document();
+  show_document();
+  options_dialog_load();
+}
+
+/// The document that is to be opened without being asked for.
+std::string recent_path;
+
+void really_open_recent() { replace_document(recent_path); }
+
 /// Carries out the operation that waits.
 void run_save_op() {
   if (save_op != SaveOp::none) close_save_dialog();  // saving from there would carry it out again
@@ -113,6 +129,8 @@ void run_save_op() {
       return;
     case SaveOp::open:
       return really_open_popup();
+    case SaveOp::open_recent:
+      return really_open_recent();
     case SaveOp::start_new:
       return really_do_new();
     case SaveOp::exit:
@@ -120,11 +138,17 @@ void run_save_op() {
   }
 }
 
+/// Says which file the document has been read from or written to.
+void file_in_use() {
+  vqc_set_title(save_file_path());
+  keep_recent(*save_file);
+}
+
 /// Saves the document to its file, and goes on with what waits for that.
 void save_document() {
   if (!write_save_file(save_file_path())) return;
   note_saving();
-  vqc_set_title(save_file_path());
+  file_in_use();
   run_save_op();
   save_op = SaveOp::none;
 }
@@ -151,7 +175,7 @@ Widget* create_savechanges_dialog(Widget parent) {
 bool load_document() {
   const bool opened = parseit(save_file, 1) != 0;
   dirty = false;
-  if (opened) vqc_set_title(save_file_path());
+  if (opened) file_in_use();
   return opened;
 }
 
@@ -190,12 +214,13 @@ void really_open_popup() {
 
 void do_open(Widget w, XtPointer, XtPointer call) {
   const BusyCursor busy(w);
-  keep_unsaved();
-  save_file = chosen_path(w, call);
-  load_document();
+  replace_document(chosen_path(w, call));
   hide_dialog(open_dialog[BOX]);
-  show_document();
-  options_dialog_load();
+}
+
+void open_document(Widget w, std::string path) {
+  recent_path = std::move(path);
+  unless_changed(w, SaveOp::open_recent, really_open_recent);
 }
 
 void open_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(open_dialog[BOX]); }

@@ -5,6 +5,7 @@
 // the document before it is lost.
 
 #include <span>
+#include <string>
 
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/keys.h"
@@ -27,7 +28,7 @@ Widget* create_savechanges_dialog(Widget parent);
 inline void delete_savechanges_dialog(Widget* record) { delete_dialog(record); }
 
 /// The operation that waits for the document to be saved.
-enum class SaveOp { none, open, start_new, exit };
+enum class SaveOp { none, open, open_recent, start_new, exit };
 inline SaveOp save_op = SaveOp::none;
 
 /// The commands that a letter with Ctrl gives in every window.
@@ -49,6 +50,8 @@ void open_do_popup(Widget w, XtPointer, XtPointer);
 void really_open_popup();
 void do_open(Widget w, XtPointer, XtPointer call);
 void open_do_hide(Widget w, XtPointer, XtPointer);
+/// The same of a document that need not be asked for.
+void open_document(Widget w, std::string path);
 
 // Read: another document into the present one.
 void read_do_popup(Widget w, XtPointer, XtPointer);

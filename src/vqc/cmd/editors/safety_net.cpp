@@ -12,6 +12,7 @@
 #include "libkel/state_folder.h"
 #include "vqc/cmd/editors/kit/edited_document.h"
 #include "vqc/cmd/history/journal_writer.h"
+#include "vqc/cmd/history/recent_documents.h"
 #include "vqc/cmd/savefile/load.h"
 #include "vqc/cmd/savefile/save.h"
 
@@ -88,6 +89,16 @@ void keep_before(const fs::path& path, Reason reason) {
 void keep_version(const fs::path& path, std::string_view text, Reason reason) {
   with_versions(
       [&](const Versions& versions, Versions::Time now) { return versions.keep_text(path, text, reason, now); });
+}
+
+void keep_recent(const std::string& path) {
+  const fs::path folder = state_folder();
+  if (!folder.empty()) say_once(RecentDocuments(folder).add(path));
+}
+
+std::vector<fs::path> recent_documents() {
+  const fs::path folder = state_folder();
+  return folder.empty() ? std::vector<fs::path>() : RecentDocuments(folder).paths();
 }
 
 void keep_unsaved() {

@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "vqc/cmd/history/state.h"
 #include "vqc/cmd/history/versions.h"
@@ -27,6 +28,10 @@ void keep_state(std::shared_ptr<const State> state, const std::optional<std::str
 void keep_before(const std::filesystem::path& path, Reason reason);
 /// Keeps a text as a version of a file; an empty path is that of documents without a file.
 void keep_version(const std::filesystem::path& path, std::string_view text, Reason reason);
+/// Keeps that a document has been opened or saved. Those of last, the newest first, are recent_documents().
+void keep_recent(const std::string& path);
+std::vector<std::filesystem::path> recent_documents();
+
 /// Keeps the document if it says anything else than its file.
 void keep_unsaved();
 

@@ -45,6 +45,13 @@ Descriptor PrivateFolder::file(const std::string& name, int flags) const {
       openat(folder_.get(), name.c_str(), flags | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, kUserAlone));
 }
 
+Descriptor PrivateFolder::lock(const std::string& name) const {
+  if (!folder_) return {};
+  Descriptor locked = file(name, O_RDWR | O_CREAT);
+  if (locked) locked.lock();
+  return locked;
+}
+
 std::optional<std::string> PrivateFolder::text(const std::string& name) const {
   const Descriptor open_file = file(name, O_RDONLY);
   const auto source = open_file ? Source::read(open_file.get(), name) : nullptr;

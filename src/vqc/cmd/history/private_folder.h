@@ -35,6 +35,9 @@ class PrivateFolder {
   std::optional<std::string> text(const std::string& name) const;
   /// How many bytes a file has; nothing when there is none.
   std::optional<std::size_t> size(const std::string& name) const;
+  /// A file that only one at a time has, made if it is missing: waits for who has it. None when it cannot be opened;
+  /// errno says why.
+  Descriptor lock(const std::string& name) const;
   bool is_at(const Descriptor& file, const std::string& name) const { return file.is_at(name.c_str(), folder_.get()); }
   /// The names of its files, in no order.
   std::vector<std::string> names() const;

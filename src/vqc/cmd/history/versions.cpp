@@ -5,7 +5,6 @@
 
 #include "vqc/cmd/history/versions.h"
 
-#include <fcntl.h>
 #include <nettle/base16.h>
 #include <nettle/sha2.h>
 
@@ -121,21 +120,6 @@ std::optional<std::string> content_of(const PrivateFolder& folder, const std::st
   return text && hash_of(*text) == hash ? text : std::nullopt;
 }
 
-/// Who has it is the only one to write into the folder.
-class Lock {
- public:
-  explicit Lock(const PrivateFolder& folder) {
-    if (!folder) return;
-    file_ = folder.file(kLock, O_RDWR | O_CREAT);
-    if (file_) file_.lock();
-  }
-  /// False when there is none; errno says why.
-  explicit operator bool() const { return static_cast<bool>(file_); }
-
- private:
-  Descriptor file_;
-};
-
 /// Adds an entry. It takes the place of the newest one of its file if that has the same content, so that the content is
 /// as old as it was last seen.
 void add(Entries& entries, const Entry& entry) {
@@ -223,7 +207,7 @@ std::error_code Versions::keep_text(const fs::path& path, std::string_view text,
   if (text.size() > most_bytes_) return make_error_code(std::errc::file_too_large);
   const Entry entry = {kept_path(path), now, reason, hash_of(text)};
   const PrivateFolder folder = PrivateFolder::make(folder_);
-  const Lock lock(folder);
+  const Descriptor lock = folder.lock(kLock);
   if (!lock || !keep_content(folder, entry.content, text)) return last_error();
   std::optional<Entries> entries = read_index(folder);
   if (!entries) return last_error();
@@ -254,7 +238,7 @@ std::optional<std::string> Versions::text(const Version& version) const {
 std::error_code Versions::thin(Time now) const {
   const PrivateFolder folder = PrivateFolder::open(folder_);
   if (!folder) return errno == ENOENT ? std::error_code() : last_error();
-  const Lock lock(folder);
+  const Descriptor lock = folder.lock(kLock);
   if (!lock) return last_error();
   const std::optional<Entries> all = read_index(folder);
   if (!all) return last_error();
