@@ -98,7 +98,7 @@ class TabOrder : public Session {
   static constexpr char document[] = "VQconfig\nwidget 'W' {\n}\nfamily 'F' {\nwidget='W'\n}\n";
 };
 
-TEST_F(TabOrder, OfTheMainWindow) { expect_reading_order_in(main_shell(), 4); }
+TEST_F(TabOrder, OfTheMainWindow) { expect_reading_order_in(main_shell(), 5); }
 
 TEST_F(TabOrder, OfTheFileBoxes) {
   for (const std::string name : {"open", "read"}) {
@@ -131,8 +131,8 @@ TEST_F(TabOrder, OfTheStopList) {
 TEST_F(TabOrder, OfEachPageOfAFamily) {
   edit_family("F");
   const std::pair<const char*, std::size_t> pages[] = {
-      {"aliases", 4},        {"converters", 9},     {"enums", 3},       {"code_headers", 4},
-      {"config_headers", 4}, {"family_headers", 4}, {"family_init", 6}, {"widgets", 4}};
+      {"aliases", 5},        {"converters", 10},    {"enums", 4},       {"code_headers", 5},
+      {"config_headers", 5}, {"family_headers", 5}, {"family_init", 6}, {"widgets", 5}};
   for (const auto& [page, count] : pages) {
     SCOPED_TRACE(page);
     toggle(std::string("entity_opt_") + page + "_t", true);
@@ -146,20 +146,20 @@ TEST_F(TabOrder, OfTheEnumerationEditor) {
   enter("enumlist_selection", "E");
   press_apply("enumlist_selection");
   press_ok("enumlist_selection");
-  expect_reading_order_in("enumedit_dialog", 7);
+  expect_reading_order_in("enumedit_dialog", 8);
 }
 
 TEST_F(TabOrder, OfTheWidgetEditor) {
   open_widget_editor();
-  expect_reading_order_in("widgetedit_dialog", 33);
+  expect_reading_order_in("widgetedit_dialog", 34);
 }
 
 TEST_F(TabOrder, OfThePagesAndPopups) {
   open_widget_editor();
   press("widgetedit_page_b");
-  expect_reading_order_in("pageedit_dialog", 6);
+  expect_reading_order_in("pageedit_dialog", 7);
   press("widgetedit_popup_b");
-  expect_reading_order_in("popupedit_dialog", 7);
+  expect_reading_order_in("popupedit_dialog", 8);
 }
 
 TEST_F(TabOrder, OfTheQuestions) {

@@ -34,7 +34,7 @@ inline const std::vector<Layer>& layers() {
       {"vqc/cmd/problems/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/check/", "vqc/cmd/history/"}},
       {"vqc/tool/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/generate/", "vqc/cmd/check/"}},
       {"vqc/cmd/application/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/generate/"}},
-      {"vqc/cmd/editors/kit/", {"libkel/", "vqc/cmd/model/"}},
+      {"vqc/cmd/editors/kit/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/lookup/"}},
       {"vqc/cmd/editors/program/",
        {"libkel/", "desktop/", "help/client/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/generate/",
         "vqc/cmd/history/", "vqc/cmd/lookup/", "vqc/cmd/problems/", "vqc/cmd/application/", "vqc/cmd/editors/"}},

@@ -8,6 +8,7 @@
 #include <Xm/TextF.h>
 #include <Xm/ToggleB.h>
 
+#include "vqc/cmd/editors/completion.h"
 #include "vqc/cmd/editors/entity_dialog.h"
 #include "vqc/cmd/editors/field_words.h"
 #include "vqc/cmd/editors/kit/cursor.h"
@@ -104,6 +105,11 @@ ListEditor converterlist_editor{.dialog = entity_dialog,
                                 .selected = select_converter};
 
 Widget converterlist_field(Kw word) { return field_of_word(entity_dialog, fields, word); }
+
+void complete_converter(Widget* record) {
+  complete_value(record[CONVERTER_PROC], ValueKind::converter_procedure);
+  complete_value(record[CONVERT_POPUP], ValueKind::popup);
+}
 
 void current_converter_changed(Reference<ConverterDef>* element) {
   if (!entity_dialog) return;

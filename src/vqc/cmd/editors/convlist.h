@@ -12,6 +12,8 @@ namespace vqc::editors {
 
 /// Its part of the family dialog.
 DialogPart converterlist_page();
+/// Lets its fields, in the dialog's record, be completed.
+void complete_converter(Widget* record);
 
 extern ListEditor converterlist_editor;
 inline constexpr XtCallbackProc converterlist_do_add = do_add<converterlist_editor>;

@@ -4,11 +4,16 @@
 
 #include <Xm/CascadeB.h>
 #include <Xm/DialogS.h>
+#include <Xm/Label.h>
 #include <Xm/PushB.h>
 #include <Xm/RowColumn.h>
 #include <Xm/SelectioB.h>
 #include <Xm/Separator.h>
+#include <Xm/TextF.h>
 #include <Xm/ToggleB.h>
+
+#include <algorithm>
+#include <iterator>
 
 #include "vqc/cmd/editors/aliaslist.h"
 #include "vqc/cmd/editors/convlist.h"
@@ -18,6 +23,7 @@
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_names.h"
+#include "vqc/cmd/editors/kit/search_field.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/title.h"
 #include "vqc/cmd/editors/widgetlist.h"
@@ -43,10 +49,14 @@ const WidgetRow frame_rows[] = {
     {"entity_view_separator",       XmCreateSeparator,     "view_pulldown"},
     {"entity_usesb",                XmCreatePushButton,    "view_pulldown", on_press(entity_do_uses)},
     {"entity_viewb",                XmCreateCascadeButton, "entity_menubar"},
+    {"search_row",                  create_form,           "entity_form"},
+    {"entity_search",               XmCreateTextField,     "search_row",    {}, ENTITY_SEARCH},
+    {"entity_search_l",             XmCreateLabel,         "search_row"},
     {"entity_view_form",            create_form,           "entity_form"},
 };
 
 const WidgetLink frame_links[] = {
+    {"entity_form",                 XmNcancelButton,         "familyinit_cancelb"},
     {"entity_viewb",                XmNsubMenuId,            "view_pulldown"},
     {"entity_opt_aliases_t",        XmNvalueChangedCallback, "aliaslist_selection",        entity_do_show_page},
     {"entity_opt_converters_t",     XmNvalueChangedCallback, "converter_selection",        entity_do_show_page},
@@ -58,6 +68,39 @@ const WidgetLink frame_links[] = {
     {"entity_opt_widgets_t",        XmNvalueChangedCallback, "widgetlist_selection",       entity_do_show_page},
 };
 // clang-format on
+
+/// The pages that have a list.
+struct ListOnPage {
+  EntitySlot page;
+  const ListEditor& editor;
+};
+const ListOnPage lists[] = {
+    {ALIASLIST_BOX, aliaslist_editor},
+    {CONVERTER_BOX, converterlist_editor},
+    {ENUMLIST_BOX, enumlist_editor},
+    {CODEHEADERLIST_BOX, codeheaderlist_editor},
+    {CONFHEADERLIST_BOX, confheaderlist_editor},
+    {FAMILYHEADERLIST_BOX, familyheaderlist_editor},
+    {WIDGETLIST_BOX, widgetlist_editor},
+};
+
+/// That of the page which is shown; null where that has none.
+const ListEditor* shown_list = nullptr;
+
+const ListEditor* list_on(Widget page) {
+  const auto found = std::ranges::find_if(lists, [page](const auto& row) { return entity_dialog[row.page] == page; });
+  return found == std::end(lists) ? nullptr : &found->editor;
+}
+
+/// Tab comes to a page from what stands above it.
+void begin_at_list(Widget page) { XtVaSetValues(page, XmNinitialFocus, XtNameToWidget(page, "ItemsListSW"), nullptr); }
+
+void search_page(Widget page) {
+  Widget field = entity_dialog[ENTITY_SEARCH];
+  shown_list = list_on(page);
+  settextf(field, nullptr);
+  XtSetMappedWhenManaged(XtParent(field), shown_list ? True : False);
+}
 
 /// Where the user begins on a page.
 Widget first_field(Widget page) {
@@ -71,7 +114,8 @@ void map_page(Widget shown) {
     Widget page = entity_dialog[slot];
     XtSetMappedWhenManaged(page, page == shown ? True : False);
   }
-  XtVaSetValues(entity_dialog[ENTITY_FORM], XmNinitialFocus, shown, nullptr);
+  search_page(shown);
+  XtVaSetValues(entity_dialog[ENTITY_FORM], XmNinitialFocus, first_field(shown), nullptr);
   XmProcessTraversal(first_field(shown), XmTRAVERSE_CURRENT);
 }
 
@@ -91,13 +135,20 @@ Widget* create_entity_dialog(Widget parent) {
       {part(frame_rows, frame_links), codeheaderlist_page(), confheaderlist_page(), familyheaderlist_page(),
        aliaslist_page(), enumlist_page(), widgetlist_page(), converterlist_page(), familyinit_page()},
       ENTITY_SLOTS);
-  if (record) settoggle(record[ENTITY_VIEW_WIDGETS], true);
+  if (!record) return nullptr;
+  settoggle(record[ENTITY_VIEW_WIDGETS], true);
+  for (const ListOnPage& row : lists) begin_at_list(record[row.page]);
+  complete_converter(record);
+  complete_familyinit(record);
+  search_in(record[ENTITY_SEARCH], [] { return shown_list; });
   return record;
 }
 
 int entity_show() {
+  const bool is_new = !entity_dialog;
   if (!create_on_first_use()) return 0;
   show_dialog(entity_dialog[ENTITY_FORM]);
+  if (is_new) XmProcessTraversal(first_field(entity_dialog[WIDGETLIST_BOX]), XmTRAVERSE_CURRENT);
   return 1;
 }
 

@@ -10,18 +10,22 @@
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/list_page.h"
+#include "vqc/cmd/editors/kit/search_field.h"
 #include "vqc/cmd/editors/title.h"
 
 namespace vqc::editors {
 
 namespace {
 
-enum Slot { SHELL, BOX, TYPE, CODE_SYMBOL, RESFILE_SYMBOL, SLOTS };
+enum Slot { SHELL, BOX, TYPE, CODE_SYMBOL, RESFILE_SYMBOL, SEARCH, SLOTS };
 
 // clang-format off
 const WidgetRow shell_rows[] = {{"enumedit_dialog", XmCreateDialogShell, nullptr, {}, SHELL}};
 
 const WidgetRow field_rows[] = {
+    {"search_row",                create_form,       "enumedit_work_form"},
+    {"enumedit_search",           XmCreateTextField, "search_row", {}, SEARCH},
+    {"enumedit_search_l",         XmCreateLabel,     "search_row"},
     {"enumedit_type",             XmCreateTextField, "enumedit_work_form", {}, TYPE},
     {"enumedit_type_l",           XmCreateLabel,     "enumedit_work_form"},
     {"enumedit_code_symbol",      XmCreateTextField, "enumedit_work_form", {}, CODE_SYMBOL},
@@ -104,7 +108,9 @@ ListEditor enumentry_editor{
 };
 
 Widget* create_enumedit_dialog(Widget parent) {
-  return build_dialog(parent, {part(shell_rows), list_page(entries)}, SLOTS);
+  Widget* record = build_dialog(parent, {part(shell_rows), list_page(entries)}, SLOTS);
+  if (record) search_in(record[SEARCH], [] { return &enumentry_editor; });
+  return record;
 }
 
 void enumedit_show() {

@@ -4,15 +4,18 @@
 
 #include <X11/Shell.h>
 #include <Xm/CascadeB.h>
+#include <Xm/Label.h>
 #include <Xm/PushB.h>
 #include <Xm/RowColumn.h>
 #include <Xm/Separator.h>
+#include <Xm/TextF.h>
 
 #include "desktop/font_units.h"
 #include "vqc/cmd/editors/aboutdlg.h"
 #include "vqc/cmd/editors/file_commands.h"
 #include "vqc/cmd/editors/gendlg.h"
 #include "vqc/cmd/editors/kit/main_shell.h"
+#include "vqc/cmd/editors/kit/search_field.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/kit/status_line.h"
 #include "vqc/cmd/editors/options.h"
@@ -69,6 +72,10 @@ const WidgetRow menu_rows[] = {
     {"family_helptutorialb",      XmCreatePushButton,    "family_help_menu",     on_press(vqc_do_help, "tutorial")},
     {"family_helpkeyboardb",      XmCreatePushButton,    "family_help_menu",     on_press(vqc_do_help, "keyboard")},
     {"family_help_cascade",       XmCreateCascadeButton, "family_menubar"},
+
+    {"search_row",                create_form,           "family_form"},
+    {"family_search",             XmCreateTextField,     "search_row",           {}, FAMILY_SEARCH},
+    {"family_search_l",           XmCreateLabel,         "search_row"},
 };
 
 const WidgetLink menu_links[] = {
@@ -93,6 +100,7 @@ Widget* create_family_dialog(Display* display, char* name, int argc, char** argv
       build_dialog(shell, {part(menu_rows, menu_links), status_line("family_form"), familylist_page()}, FAMILY_SLOTS);
   if (!record) return nullptr;
   record[FAMILY_SHELL] = shell;
+  search_in(record[FAMILY_SEARCH], [] { return &family_editor; });
   answer_close(shell, do_exit);
   set_main_shell(shell);
   return record;

@@ -7,6 +7,7 @@
 #include <Xm/TextF.h>
 #include <Xm/ToggleB.h>
 
+#include "vqc/cmd/editors/completion.h"
 #include "vqc/cmd/editors/entity_dialog.h"
 #include "vqc/cmd/editors/field_words.h"
 #include "vqc/cmd/editors/kit/fields.h"
@@ -60,6 +61,8 @@ constexpr FieldOfWord fields[] = {
 }  // namespace
 
 DialogPart familyinit_page() { return part(rows, links); }
+
+void complete_familyinit(Widget* record) { complete_value(record[FAMILYINIT_INIT], ValueKind::family_procedure); }
 
 void familyinit_setfamily(const Family* family) {
   if (!entity_dialog) return;

@@ -11,6 +11,8 @@ namespace vqc::editors {
 
 /// Its part of the family dialog.
 DialogPart familyinit_page();
+/// Lets its field, in the dialog's record, be completed.
+void complete_familyinit(Widget* record);
 
 /// Fills the page, if there is a dialog, from a family; null empties it.
 void familyinit_setfamily(const Family* family);

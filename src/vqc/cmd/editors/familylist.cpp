@@ -14,12 +14,13 @@ namespace {
 // clang-format off
 const WidgetRow rows[] = {
     {"*ItemsList", find_child, "family_selection", {}, FAMILY_LIST},
+    {"ItemsListSW", find_child, "family_selection"},
     {"Text",       find_child, "family_selection", {}, FAMILY_TEXT},
 };
 
 const WidgetLink links[] = {
     {"family_selection", XmNcancelButton, nullptr},  // Escape must not delete
-    {"family_selection", XmNinitialFocus, "Text"},
+    {"family_selection", XmNinitialFocus, "ItemsListSW"},  // Tab comes to it from what stands above
 };
 // clang-format on
 

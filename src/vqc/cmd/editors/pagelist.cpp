@@ -4,7 +4,9 @@
 
 #include <Xm/ArrowB.h>
 #include <Xm/DialogS.h>
+#include <Xm/Label.h>
 #include <Xm/PushB.h>
+#include <Xm/TextF.h>
 
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
@@ -15,12 +17,15 @@ namespace vqc::editors {
 
 namespace {
 
-enum Slot { SHELL, BOX, SLOTS };
+enum Slot { SHELL, BOX, SEARCH, SLOTS };
 
 // clang-format off
 const WidgetRow shell_rows[] = {{"pageedit_dialog", XmCreateDialogShell, nullptr, {}, SHELL}};
 
 const WidgetRow work_rows[] = {
+    {"search_row",          create_form,         "pageedit_work_area"},
+    {"pageedit_search",     XmCreateTextField,   "search_row", {}, SEARCH},
+    {"pageedit_search_l",   XmCreateLabel,       "search_row"},
     {"pageedit_up_arrow",   XmCreateArrowButton, "pageedit_work_area", on_press(pagelist_do_up)},
     {"pageedit_down_arrow", XmCreateArrowButton, "pageedit_work_area", on_press(pagelist_do_down)},
     {"pageedit_updateb",    XmCreatePushButton,  "pageedit_work_area", on_press(pagelist_do_add)},
@@ -41,7 +46,9 @@ const ListPage pages = {.name = "pageedit",
 }  // namespace
 
 Widget* create_pageedit_dialog(Widget parent) {
-  return build_dialog(parent, {part(shell_rows), list_page(pages)}, SLOTS);
+  Widget* record = build_dialog(parent, {part(shell_rows), list_page(pages)}, SLOTS);
+  if (record) search_picker<page_picker>(record[SEARCH]);
+  return record;
 }
 
 Picker page_picker{

@@ -78,6 +78,12 @@ void show_picked(const Picker& picker, Name name) {
   if (picker.exists(name)) picker.show(name);
 }
 
+void go_to_picked(const Picker& picker, const std::string& name) {
+  list_select(picker.editor.list(), name);
+  show_picked(picker, name);
+  offer_text(picker.editor.name_field());
+}
+
 void remove_picked(Widget w, const Picker& picker) {
   const std::string name = picker.name();
   if (name.empty() || check_builtin_name(name, picker.builtin_kind)) return;

@@ -5,6 +5,7 @@
 
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/list_editor.h"
+#include "vqc/cmd/editors/kit/search_field.h"
 
 namespace vqc::editors {
 
@@ -57,6 +58,16 @@ void refresh_names(const Picker& picker);
 
 /// Gives the current family, if there is one, the name, and shows it in the list unless it is there.
 void name_into_family(const Picker& picker, Name name);
+
+/// Goes to a name of the list, as a click on it does.
+void go_to_picked(const Picker& picker, const std::string& name);
+
+/// Lets a field search the names of the list.
+template <Picker& picker>
+void search_picker(Widget field) {
+  search_in(
+      field, [] { return list_names(picker.editor.list()); }, [](const std::string& name) { go_to_picked(picker, name); });
+}
 
 // The buttons, as callbacks.
 

@@ -7,6 +7,7 @@
 #include <Xm/PushB.h>
 #include <Xm/TextF.h>
 
+#include "vqc/cmd/editors/completion.h"
 #include "vqc/cmd/editors/field_words.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
@@ -17,12 +18,15 @@ namespace vqc::editors {
 
 namespace {
 
-enum Slot { SHELL, BOX, INIT, UPDATE, SLOTS };
+enum Slot { SHELL, BOX, INIT, UPDATE, SEARCH, SLOTS };
 
 // clang-format off
 const WidgetRow shell_rows[] = {{"popupedit_dialog", XmCreateDialogShell, nullptr, {}, SHELL}};
 
 const WidgetRow work_rows[] = {
+    {"search_row",                  create_form,        "popupedit_work_area"},
+    {"popupedit_search",            XmCreateTextField,  "search_row", {}, SEARCH},
+    {"popupedit_search_l",          XmCreateLabel,      "search_row"},
     {"dialog_init",                 XmCreateTextField,  "popupedit_work_area", {}, INIT},
     {"converter_dialogue_init_l",   XmCreateLabel,      "popupedit_work_area"},
     {"dialog_update",               XmCreateTextField,  "popupedit_work_area", {}, UPDATE},
@@ -49,7 +53,12 @@ void show_popup(Name name) { popup_setcurrent(popup_ptr(name)); }
 }  // namespace
 
 Widget* create_popupedit_dialog(Widget parent) {
-  return build_dialog(parent, {part(shell_rows), list_page(popups)}, SLOTS);
+  Widget* record = build_dialog(parent, {part(shell_rows), list_page(popups)}, SLOTS);
+  if (!record) return nullptr;
+  complete_value(record[INIT], ValueKind::popup_init_procedure);
+  complete_value(record[UPDATE], ValueKind::popup_update_procedure);
+  search_picker<popup_picker>(record[SEARCH]);
+  return record;
 }
 
 Picker popup_picker{

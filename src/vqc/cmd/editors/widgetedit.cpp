@@ -17,10 +17,12 @@
 #include <algorithm>
 #include <optional>
 
+#include "vqc/cmd/editors/completion.h"
 #include "vqc/cmd/editors/field_words.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_names.h"
+#include "vqc/cmd/editors/kit/search_field.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/kit/shown_names.h"
 #include "vqc/cmd/editors/pagelist.h"
@@ -57,6 +59,7 @@ enum Slot {
   CAN_CREATE,
   CAN_MANAGE,
   CAN_EDIT_ABSTRACT,
+  RESOURCE_SEARCH,
   RESOURCE_LIST,
   RESOURCE,
   COUNTER,
@@ -138,6 +141,9 @@ const WidgetRow rows[] = {
     {"widgetedit_resource_frame",  XmCreateFrame,        "widgetedit_form"},
     {"widgetedit_resource_l",      XmCreateLabel,        "widgetedit_resource_frame"},
     {"widgetedit_resource_form",   create_form,          "widgetedit_resource_frame"},
+    {"search_row",                 create_form,          "widgetedit_resource_form"},
+    {"we_resource_search",         XmCreateTextField,    "search_row",                 {}, RESOURCE_SEARCH},
+    {"we_resource_search_l",       XmCreateLabel,        "search_row"},
     {"we_resource_list",           XmCreateScrolledList, "widgetedit_resource_form",   on_select(we_select_cb), RESOURCE_LIST},
     {"widgetedit_resource_fields", create_form,          "widgetedit_resource_form"},
     {"we_resource_t",              XmCreateTextField,    "widgetedit_resource_fields", on_change(resource_dirty_cb), RESOURCE},
@@ -380,6 +386,23 @@ void select_resource(Name name) {
   }
 }
 
+/// Lets the fields be completed that name something.
+void complete_fields(Widget* record) {
+  for (const auto& [slot, member] : text_fields) {
+    for (const Field<WidgetDef>& field : widget_fields) {
+      if (field.text() && *field.text() == member && names_something(field.kind))
+        complete_value(record[slot], field.kind);
+    }
+  }
+  complete_value(record[POPUP], ValueKind::popup);
+  complete_page(record[PAGE]);
+}
+
+/// Goes to a resource of the list, as a click on it does.
+void go_to_resource(const std::string& name) {
+  if (widgetedit_choose_resource(name)) XmProcessTraversal(at(RESOURCE), XmTRAVERSE_CURRENT);
+}
+
 std::vector<std::string> resource_names(const WidgetDef& widget) {
   std::vector<std::string> names;
   for (const ResourceDef& resource : widget.resource_definitions) names.emplace_back(resource.name.view());
@@ -408,6 +431,9 @@ Widget* create_widgetedit_dialog(Widget parent) {
   for (const auto& [button, mode] : free_mode_buttons) {
     XtVaSetValues(record[button], XmNuserData, static_cast<XtArgVal>(mode), nullptr);
   }
+  complete_fields(record);
+  search_in(
+      record[RESOURCE_SEARCH], [] { return list_names(at(RESOURCE_LIST)); }, go_to_resource);
   return record;
 }
 

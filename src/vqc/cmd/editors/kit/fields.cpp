@@ -63,11 +63,15 @@ bool may_select(Widget field) {
 
 int settext(Widget w, Name text) {
   if (!w) return 0;
+  type_text(w, text);
+  forget_typing(w);
+  return 1;
+}
+
+void type_text(Widget w, Name text) {
   const std::string whole(text.view());
   set_characters(w, displayable(whole));
-  forget_typing(w);
   remember(w, {whole, characters_in(w)});
-  return 1;
 }
 
 void offer_name(Widget field, Name name) {

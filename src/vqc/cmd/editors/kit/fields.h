@@ -13,6 +13,9 @@ namespace vqc::editors {
 int settext(Widget w, Name text);
 inline int settextf(Widget w, Name text) { return settext(w, text); }
 
+/// The same, as if the user had typed it: he can take it back.
+void type_text(Widget w, Name text);
+
 /// Shows a name in a text field that the user may take as it is, or type over.
 void offer_name(Widget field, Name name);
 /// Selects what stands in a text field, so that typing replaces it, and gives it the keyboard.

@@ -108,6 +108,7 @@ bool start_session(int argc, char** argv) {
   if (!vqc_generate_options()) XtUnmanageChild(family_dialog[FAMILY_OPTIONS_CASCADE]);
   set_icon(shell);
   show_main_window(shell, XtParent(family_dialog[FAMILY_SELECTION]));
+  XmProcessTraversal(family_dialog[FAMILY_TEXT], XmTRAVERSE_CURRENT);
   guarded([shell] {
     load_first_document(shell);
     begin_history();
