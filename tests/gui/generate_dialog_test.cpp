@@ -209,6 +209,46 @@ TEST_F(GenerateDialog, WithoutFamiliesAFileIsWrittenTheSame) {
   EXPECT_TRUE(has_text(folder / "out.c", "XFamily_t xw_families[] = {\n"));
 }
 
+TEST_F(GenerateDialog, AllAndNoneTurnTheFamiliesOnAndOff) {
+  press("family_genconfigb");
+  choose_menu("gen_families_cascade", "gen_none_b");
+  EXPECT_EQ((std::vector<FamilyToggle>{{"toggleb", "A", false}, {"toggleb", "B", false}}), toggles_shown());
+  choose_file("gen_fsb", folder / "none.c");
+  EXPECT_FALSE(has_text(folder / "none.c", "\"A\""));
+  press("family_genconfigb");
+  choose_menu("gen_families_cascade", "gen_all_b");
+  EXPECT_EQ((std::vector<FamilyToggle>{{"toggleb", "A", true}, {"toggleb", "B", true}}), toggles_shown());
+  choose_file("gen_fsb", folder / "all.c");
+  EXPECT_TRUE(has_text(folder / "all.c", "\"B\""));
+}
+
+TEST_F(GenerateDialog, SearchGoesToAFamily) {
+  for (int i = 0; i < 30; ++i) add_family("Family" + std::to_string(i));
+  press("family_genconfigb");
+  ASSERT_TRUE(is_shown("gen_dialog"));
+  click("gen_search");
+  type("y29");
+  settle();
+  EXPECT_EQ(Items{"Family29"}, items("dropdown_list"));
+  key("Return");
+  settle();
+  EXPECT_TRUE(is_shown("gen_dialog"));
+  EXPECT_EQ(family_toggles().back(), XmGetFocusWidget(widget("gen_fsb")));
+  key("space");
+  settle();
+  EXPECT_FALSE(toggles_shown().back().on);
+}
+
+TEST_F(GenerateDialog, AHitIsTakenWithTheMouseToo) {
+  press("family_genconfigb");
+  click("gen_search");
+  type("b");
+  settle();
+  click_item("dropdown_list", "B");
+  settle();
+  EXPECT_EQ(family_toggles().back(), XmGetFocusWidget(widget("gen_fsb")));
+}
+
 TEST_F(GenerateDialog, NewForgetsTheNames) {
   press("family_genconfigb");
   choose_file("gen_fsb", folder / "out.c");

@@ -112,7 +112,7 @@ TEST_F(TabOrder, OfTheFileBoxes) {
 
 TEST_F(TabOrder, OfTheGenerateBox) {
   press("family_genconfigb");
-  expect_reading_order_in("gen_dialog", 7);
+  expect_reading_order_in("gen_dialog", 8);
 }
 
 TEST_F(TabOrder, OfTheOptions) {

@@ -17,6 +17,9 @@ inline void delete_gen_dialog(Widget* record) { delete_dialog(record); }
 void gencon_do_popup(Widget w, XtPointer, XtPointer);
 void gencode_do_popup(Widget w, XtPointer, XtPointer);
 void genstubs_do_popup(Widget w, XtPointer, XtPointer);
+/// Chooses all families, or none.
+void gen_do_all(Widget w, XtPointer, XtPointer);
+void gen_do_none(Widget w, XtPointer, XtPointer);
 void gen_do_generate(Widget w, XtPointer, XtPointer call);
 void gen_do_hide(Widget w, XtPointer, XtPointer);
 

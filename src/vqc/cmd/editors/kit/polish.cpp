@@ -83,6 +83,7 @@ void put_last_in_tab_order(Widget w) {
 /// Tab goes down the columns of a file box; left to the toolkit, it jumps between them. A box that shows whole paths
 /// has no field for the folder.
 void order_tabs(Widget file_box) {
+  if (Widget row = XtNameToWidget(file_box, "search_row")) put_last_in_tab_order(children_of(row).front());
   for (const char* part : {"DirText", "FilterText", "DirListSW", "*DirList", "ItemsListSW", "*ItemsList"}) {
     put_last_in_tab_order(XtNameToWidget(file_box, part));
   }
