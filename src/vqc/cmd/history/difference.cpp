@@ -2,7 +2,10 @@
 
 #include "vqc/cmd/history/difference.h"
 
+#include <set>
 #include <string_view>
+#include <tuple>
+#include <type_traits>
 #include <unordered_map>
 #include <utility>
 
@@ -40,11 +43,13 @@ bool is_reordered(const States& from, const States& to, const ByName<States>& in
   return false;
 }
 
+/// Finds differences, with the fields of what has changed or without.
+template <class Found>
 class Comparison {
  public:
   Comparison(const State& from, const State& to) : from_(from), to_(to) {}
 
-  std::vector<Difference> find() {
+  std::vector<Found> find() {
     compare(from_.families, to_.families, Part::family, {},
             [this](const FamilyState& a, const FamilyState& b) { compare_family(a, b); });
     compare(from_.widgets, to_.widgets, Part::widget, {},
@@ -59,7 +64,7 @@ class Comparison {
     compare_names(from_.family_headers, to_.family_headers, Part::family_header, {});
     compare_names(from_.config_headers, to_.config_headers, Part::config_header, {});
     compare_header();
-    std::vector<Difference> found;
+    std::vector<Found> found;
     for (auto& rank : ranks_) found.insert(found.end(), rank.begin(), rank.end());
     return found;
   }
@@ -68,7 +73,22 @@ class Comparison {
   /// From what matters most.
   enum Rank { FAMILIES, RECORDS, REFERENCES, OWNED, FIELDS, ORDER, HEADER, RANKS };
 
-  void add(Rank rank, Difference difference) { ranks_[rank].push_back(difference); }
+  void add(Rank rank, Difference difference) { ranks_[rank].push_back({difference}); }
+
+  /// Adds what has changed; `fields` says in which fields.
+  template <class ChangedFields>
+  void add_changed(Rank rank, Part part, Text name, Text of, ChangedFields fields) {
+    const Difference difference{Verb::changed, part, name, of};
+    if constexpr (std::is_same_v<Found, RecordDifference>) {
+      ranks_[rank].push_back({difference, fields()});
+    } else {
+      ranks_[rank].push_back(difference);
+    }
+  }
+  template <class Fields>
+  void add_changed(Rank rank, Part part, Text name, Text of, const Fields& before, const Fields& now) {
+    add_changed(rank, part, name, of, [&] { return changed_fields(before, now); });
+  }
 
   static Rank rank_of(Part part, Text of) {
     if (part == Part::family) return FAMILIES;
@@ -109,14 +129,19 @@ class Comparison {
 
   template <class Record>
   void compare_plain(const State::Records<Record>& from, const State::Records<Record>& to, Part part) {
-    compare(from, to, part, {}, [&](const Record& /*before*/, const Record& now) {
-      add(FIELDS, {Verb::changed, part, now.name});
-    });
+    compare(from, to, part, {},
+            [&](const Record& before, const Record& now) { add_changed(FIELDS, part, now.name, {}, before, now); });
   }
 
   bool compare_names(const State::Names& from, const State::Names& to, Part part, Text of) {
     if (from == to) return true;
     return compare_lists(from, to, part, of, [](Text, Text) {});
+  }
+
+  /// Compares the fields that a record has beside its lists.
+  template <class Fields>
+  void add_if_changed(Part part, Text name, const Fields& from, const Fields& to) {
+    if (!(from == to)) add_changed(FIELDS, part, name, {}, from, to);
   }
 
   void compare_family(const FamilyState& from, const FamilyState& to) {
@@ -125,39 +150,71 @@ class Comparison {
       in_order = compare_names(from.lists[i], to.lists[i], list_parts[i], to.name) && in_order;
     }
     if (!in_order) add(ORDER, {Verb::reordered, Part::family, to.name});
-    if (!(part<const FamilyInit>(from) == to)) add(FIELDS, {Verb::changed, Part::family, to.name});
+    add_if_changed<FamilyInit>(Part::family, to.name, from, to);
   }
 
   void compare_widget(const WidgetState& from, const WidgetState& to) {
     compare_lists(from.resources, to.resources, Part::resource, to.name,
-                  [&](const ResourceFields& /*before*/, const ResourceFields& now) {
-                    add(OWNED, {Verb::changed, Part::resource, now.name, to.name});
+                  [&](const ResourceFields& before, const ResourceFields& now) {
+                    add_changed(OWNED, Part::resource, now.name, to.name, before, now);
                   });
-    if (!(part<const WidgetFields>(from) == to)) add(FIELDS, {Verb::changed, Part::widget, to.name});
+    add_if_changed<WidgetFields>(Part::widget, to.name, from, to);
   }
 
   void compare_enumeration(const EnumState& from, const EnumState& to) {
     const bool in_order = compare_lists(from.entries, to.entries, Part::entry, to.name,
-                                        [&](const EnumEntryFields& /*before*/, const EnumEntryFields& now) {
-                                          add(OWNED, {Verb::changed, Part::entry, now.name, to.name});
+                                        [&](const EnumEntryFields& before, const EnumEntryFields& now) {
+                                          add_changed(OWNED, Part::entry, now.name, to.name, before, now);
                                         });
     if (!in_order) add(ORDER, {Verb::reordered, Part::enumeration, to.name});
-    if (!(part<const EnumFields>(from) == to)) add(FIELDS, {Verb::changed, Part::enumeration, to.name});
+    add_if_changed<EnumFields>(Part::enumeration, to.name, from, to);
   }
 
   void compare_header() {
-    if (!(from_.excluded_classes == to_.excluded_classes)) add(HEADER, {Verb::changed, Part::stop_list});
-    if (from_.names != to_.names) add(HEADER, {Verb::changed, Part::table_names});
-    if (!(from_.output_names == to_.output_names)) add(HEADER, {Verb::changed, Part::output_names});
+    const auto compare_with = [this](bool same, Part part, FieldChanges (*fields)(const State&, const State&)) {
+      if (!same) add_changed(HEADER, part, {}, {}, [&] { return fields(from_, to_); });
+    };
+    compare_with(from_.excluded_classes == to_.excluded_classes, Part::stop_list, changed_stop_list);
+    compare_with(from_.names == to_.names, Part::table_names, changed_table_names);
+    compare_with(from_.output_names == to_.output_names, Part::output_names, changed_output_names);
   }
 
   const State& from_;
   const State& to_;
-  std::vector<Difference> ranks_[RANKS];
+  std::vector<Found> ranks_[RANKS];
 };
+
+/// What a person counts: a family that refers to something else, or in another order, has changed.
+Difference with_its_family(const Difference& each) {
+  const bool is_owned = each.part == Part::resource || each.part == Part::entry;
+  if (each.of && !is_owned) return {Verb::changed, Part::family, each.of};
+  const bool is_order_in_it = each.verb == Verb::reordered && each.name;
+  return is_order_in_it ? Difference{Verb::changed, each.part, each.name} : each;
+}
 
 }  // namespace
 
-std::vector<Difference> differences(const State& from, const State& to) { return Comparison(from, to).find(); }
+std::vector<Difference> differences(const State& from, const State& to) {
+  return Comparison<Difference>(from, to).find();
+}
+
+std::vector<RecordDifference> field_differences(const State& from, const State& to) {
+  return Comparison<RecordDifference>(from, to).find();
+}
+
+std::vector<DifferenceCount> count_differences(std::span<const Difference> all) {
+  std::set<std::tuple<Part, Verb, std::string_view, std::string_view>> things;
+  for (const Difference& each : all) {
+    const auto [verb, part, name, of] = with_its_family(each);
+    things.emplace(part, verb, name.view(), of.view());
+  }
+  std::vector<DifferenceCount> counts;
+  for (const auto& [part, verb, name, of] : things) {
+    const bool goes_on = !counts.empty() && counts.back().part == part && counts.back().verb == verb;
+    if (!goes_on) counts.push_back({verb, part, 0});
+    ++counts.back().number;
+  }
+  return counts;
+}
 
 }  // namespace vqc

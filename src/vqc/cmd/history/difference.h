@@ -3,8 +3,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
+#include "vqc/cmd/history/changed_fields.h"
 #include "vqc/cmd/history/state.h"
 #include "vqc/cmd/model/part.h"
 
@@ -26,6 +28,29 @@ struct Difference {
 /// What has been done between two states, what matters most first: a family that has gone comes before what has gone
 /// with it.
 std::vector<Difference> differences(const State& from, const State& to);
+
+/// A difference, and the fields of what has changed.
+struct RecordDifference : Difference {
+  FieldChanges fields = {};
+
+  bool operator==(const RecordDifference&) const = default;
+};
+
+/// The same by record and field.
+std::vector<RecordDifference> field_differences(const State& from, const State& to);
+
+/// How many parts of a kind have become the same.
+struct DifferenceCount {
+  Verb verb;
+  Part part;
+  int number;
+
+  bool operator==(const DifferenceCount&) const = default;
+};
+
+/// Differences in numbers, in the order of the parts. A record that is in another order, and a family that refers to
+/// something else, has changed, and counts once.
+std::vector<DifferenceCount> count_differences(std::span<const Difference> all);
 
 }  // namespace vqc
 
