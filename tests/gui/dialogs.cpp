@@ -62,6 +62,7 @@ const Dialog dialogs[] = {
     {"uses_dialog", [] { press("family_usesb"); }},
     {"about_dialog", [] { press("family_helpaboutb"); }},
     {"error_dialog", [] { error_show("bad_save_file"); }},
+    {"versions_dialog", [] { press("family_versionsb"); }},
     {"gen_dialog", [] { press("family_genconfigb"); }, Rank::modal},
     {"resource_warn_dialog", ask_about_resource, Rank::modal},
     {"savechanges_dialog", ask_about_changes, Rank::modal},

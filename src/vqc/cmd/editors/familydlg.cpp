@@ -23,6 +23,7 @@
 #include "vqc/cmd/editors/session_history.h"
 #include "vqc/cmd/editors/stop.h"
 #include "vqc/cmd/editors/uses.h"
+#include "vqc/cmd/editors/versions_window.h"
 
 namespace vqc::editors {
 
@@ -42,6 +43,7 @@ const WidgetRow menu_rows[] = {
     {"family_recent_cascade",     XmCreateCascadeButton, "family_file_menu",     {}, FAMILY_RECENT_CASCADE},
     {"family_saveb",              XmCreatePushButton,    "family_file_menu",     on_press(save_do_popup)},
     {"family_saveasb",            XmCreatePushButton,    "family_file_menu",     on_press(saveas_do_popup)},
+    {"family_versionsb",          XmCreatePushButton,    "family_file_menu",     on_press(versions_do_popup)},
     {"separator4",                XmCreateSeparator,     "family_file_menu"},
     {"family_exitb",              XmCreatePushButton,    "family_file_menu",     on_press(do_exit)},
     {"family_file_cascade",       XmCreateCascadeButton, "family_menubar",       {{{XmNcascadingCallback, fill_recent_menu}}}},

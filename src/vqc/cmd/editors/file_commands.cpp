@@ -192,6 +192,15 @@ void show_document() {
   popuplist_display();
 }
 
+LoadResult restore_kept(std::string_view text, Reason reason) {
+  edited_document.clear();
+  const LoadResult result = load_kept(text, reason, edited_document);
+  dirty = true;
+  show_document();
+  options_dialog_load();
+  return result;
+}
+
 void do_new(Widget w, XtPointer, XtPointer) { unless_changed(w, SaveOp::start_new, really_do_new); }
 
 void really_do_new() {

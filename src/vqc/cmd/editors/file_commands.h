@@ -6,9 +6,12 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/keys.h"
+#include "vqc/cmd/history/versions.h"
+#include "vqc/cmd/savefile/load_result.h"
 
 namespace vqc::editors {
 
@@ -39,6 +42,9 @@ bool load_document();
 
 /// Shows what a load has left in the model, with no family current.
 void show_document();
+
+/// Makes a text that has been kept for that reason the document of the same file, from which it differs.
+LoadResult restore_kept(std::string_view text, Reason reason);
 
 // New and Exit.
 void do_new(Widget w, XtPointer, XtPointer);

@@ -6,8 +6,6 @@
 #include <Xm/MessageB.h>
 #include <Xm/PushB.h>
 
-#include <chrono>
-#include <ctime>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -19,11 +17,10 @@
 #include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/edited_document.h"
-#include "vqc/cmd/editors/options.h"
+#include "vqc/cmd/editors/kit/local_time.h"
 #include "vqc/cmd/editors/safety_net.h"
 #include "vqc/cmd/editors/title.h"
 #include "vqc/cmd/history/journal.h"
-#include "vqc/cmd/savefile/load.h"
 
 namespace vqc::editors {
 
@@ -58,16 +55,8 @@ bool is_for_open_document(const AbandonedJournal& journal) {
 /// Whether the file of a journal's document says the same.
 bool is_saved(const AbandonedJournal& journal) {
   Document left;
-  Diagnostics findings;
-  load_whole(Source::from_text(journal.text), left, findings);
+  load_kept(journal.text, Reason::crash, left);
   return *capture(left, nullptr) == *state_of_file(journal.document);
-}
-
-std::string local_time(std::chrono::system_clock::time_point time) {
-  const std::time_t seconds = std::chrono::system_clock::to_time_t(time);
-  std::tm parts{};
-  char text[64];
-  return std::string(text, std::strftime(text, sizeof text, "%c", localtime_r(&seconds, &parts)));
 }
 
 std::string question(const AbandonedJournal& journal) {
@@ -86,14 +75,9 @@ void ask(AbandonedJournal journal) {
 
 /// Makes what was left the document.
 void restore_offered() {
-  edited_document.clear();
-  Diagnostics findings;
-  load_whole(Source::from_text(offered->text), edited_document, findings);
   save_file = offered->document.empty() ? std::nullopt : std::optional(offered->document.string());
-  dirty = true;
   vqc_set_title(save_file_path());
-  show_document();
-  options_dialog_load();
+  restore_kept(offered->text, Reason::crash);
 }
 
 /// What was left stays among the versions of its document.

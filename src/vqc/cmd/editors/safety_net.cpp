@@ -52,6 +52,13 @@ std::string text_of_document() {
 
 }  // namespace
 
+LoadResult load_kept(std::string_view text, Reason reason, Document& document) {
+  const bool is_of_session = reason == Reason::crash || reason == Reason::not_saved;
+  const auto source = Source::from_text(text);
+  Diagnostics findings;
+  return is_of_session ? load_whole(source, document, findings) : load(source, document, findings);
+}
+
 std::shared_ptr<const State> state_of_file(const fs::path& path) {
   Document document;
   Diagnostics findings;

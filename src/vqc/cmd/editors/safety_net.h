@@ -14,6 +14,7 @@
 
 #include "vqc/cmd/history/state.h"
 #include "vqc/cmd/history/versions.h"
+#include "vqc/cmd/savefile/load_result.h"
 
 namespace vqc::editors {
 
@@ -34,6 +35,10 @@ std::vector<std::filesystem::path> recent_documents();
 
 /// Keeps the document if it says anything else than its file.
 void keep_unsaved();
+
+/// Reads a text that has been kept for that reason into an empty document: what a session has written of itself is
+/// there whole.
+LoadResult load_kept(std::string_view text, Reason reason, Document& document);
 
 /// What a document's file says, which is nothing where it cannot be read.
 std::shared_ptr<const State> state_of_file(const std::filesystem::path& path);

@@ -28,6 +28,8 @@ struct Version {
   Reason reason;
   std::uintmax_t size;
   std::string id;  // of the content: equal contents have the same
+
+  bool operator==(const Version&) const = default;
 };
 
 /// What files held before they were replaced, in a folder of their own. Each content is there once, under its hash; an

@@ -21,8 +21,9 @@ XmParseMapping mapping(const char* pattern, XmString component) {
 
 }  // namespace
 
-CompoundString CompoundString::of_lines(const char* text) {
-  return CompoundString(XmStringGenerate(const_cast<char*>(text), nullptr, XmCHARSET_TEXT, nullptr));
+CompoundString CompoundString::of_lines(const char* text, const char* rendition) {
+  return CompoundString(
+      XmStringGenerate(const_cast<char*>(text), nullptr, XmCHARSET_TEXT, const_cast<char*>(rendition)));
 }
 
 std::string text_of(XmString string) {

@@ -23,8 +23,8 @@ using ToolkitCharacters = std::unique_ptr<char, FreedByToolkit>;
 class CompoundString {
  public:
   explicit CompoundString(const char* text) : string_(XmStringCreateLocalized(const_cast<char*>(text ? text : ""))) {}
-  /// Of several lines.
-  static CompoundString of_lines(const char* text);
+  /// Of several lines; a rendition may be named.
+  static CompoundString of_lines(const char* text, const char* rendition = nullptr);
   CompoundString(CompoundString&& other) noexcept : string_(std::exchange(other.string_, nullptr)) {}
   CompoundString(const CompoundString&) = delete;
   CompoundString& operator=(CompoundString) = delete;

@@ -35,6 +35,7 @@
 #include "vqc/cmd/editors/session_history.h"
 #include "vqc/cmd/editors/title.h"
 #include "vqc/cmd/editors/uses.h"
+#include "vqc/cmd/editors/versions_window.h"
 #include "vqc/cmd/editors/widgetlist.h"
 
 extern "C" void XmRegisterConverters();  // only Motif's private headers declare it
@@ -47,6 +48,12 @@ XtAppContext context = nullptr;
 
 void show_uses_of(Widget w) { uses_do_popup(w, nullptr, nullptr); }
 
+/// What follows whatever the user does.
+void note_and_refresh() {
+  note_action();
+  refresh_versions();
+}
+
 /// Lets the lower layers speak to the editors, and the editors to the program. A batch run does without.
 void install_hooks() {
   message_sink = &error_box;
@@ -57,7 +64,7 @@ void install_hooks() {
   converter_kind.on_current = current_converter_changed;
   page_pool.on_current = current_page_changed;
   popup_pool.on_current = current_popup_changed;
-  session_hooks = {.acted = note_action, .end = ExitVQConfig, .help = show_help, .uses = show_uses_of};
+  session_hooks = {.acted = note_and_refresh, .end = ExitVQConfig, .help = show_help, .uses = show_uses_of};
 }
 
 void register_converters() {
