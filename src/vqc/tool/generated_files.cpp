@@ -3,19 +3,13 @@
 #include "vqc/tool/generated_files.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <filesystem>
 #include <functional>
 #include <stdexcept>
 #include <string_view>
-#include <system_error>
-#include <utility>
 
 #include "libkel/depfile.h"
 #include "libkel/nearest.h"
-#include "libkel/sink.h"
-#include "libkel/source.h"
-#include "vqc/cmd/generate/generate.h"
 #include "vqc/cmd/generate/includes.h"
 
 namespace vqc {
@@ -35,17 +29,11 @@ std::string path_of(const GenerateRequest& request, const std::optional<std::str
 /// The document's file, if it is one.
 Paths sources_of(const GenerateRequest& request) { return request.document == "-" ? Paths{} : Paths{request.document}; }
 
-bool leads_to_any(const std::string& path, const Paths& others) {
-  return std::ranges::any_of(others, [&](const std::string& other) { return same_file(other, path); });
-}
-
 void expect_different(const Paths& sources, const Paths& outputs) {
-  Paths before;
-  for (const std::string& output : outputs) {
-    if (leads_to_any(output, sources)) throw std::runtime_error(output + ": this is the document");
-    if (leads_to_any(output, before)) throw std::runtime_error(output + ": this file would be written twice");
-    before.push_back(output);
-  }
+  const auto clash = find_clash(sources, outputs);
+  if (!clash) return;
+  throw std::runtime_error(clash->path +
+                           (clash->is_source ? ": this is the document" : ": this file would be written twice"));
 }
 
 std::string no_such_family(const std::string& name, const Families& families) {
@@ -71,22 +59,6 @@ Families families_of(const GenerateRequest& request, const Document& document) {
   return families;
 }
 
-std::string generated(const Document& document, const Families& families, FileKind kind, Switches switches) {
-  StringSink out;
-  generate(document, families, kind, switches, out);
-  out.finish();
-  return std::move(out).text();
-}
-
-/// What a file holds by now: nothing when there is none, or a device or a pipe.
-std::string earlier_text(const std::string& path) {
-  std::error_code none;
-  if (!fs::is_regular_file(path, none)) return "";
-  const auto source = Source::read(path.c_str());
-  if (!source) throw std::system_error(errno, std::generic_category(), path);
-  return std::string(source->text());
-}
-
 std::string depfile_of(const GenerateRequest& request, const OutputPaths& paths, const Families& families) {
   const Paths outputs = {paths.config, paths.code};
   Paths headers = found_headers(families);
@@ -100,11 +72,10 @@ std::string depfile_of(const GenerateRequest& request, const OutputPaths& paths,
 OutputPaths output_paths(const GenerateRequest& request) {
   OutputPaths paths{.config = path_of(request, request.config, CONFIG_FILE),
                     .code = path_of(request, request.code, CODE_FILE),
-                    .stubs = path_of(request, request.stubs, STUBS_FILE),
-                    .depfile = request.depfile};
+                    .stubs = path_of(request, request.stubs, STUBS_FILE)};
   if (request.without_stubs) paths.stubs.reset();
   Paths all = {paths.config, paths.code};
-  for (const auto& path : {paths.stubs, paths.depfile}) {
+  for (const auto& path : {paths.stubs, request.depfile}) {
     if (path) all.push_back(*path);
   }
   expect_different(sources_of(request), all);
@@ -113,14 +84,8 @@ OutputPaths output_paths(const GenerateRequest& request) {
 
 GeneratedFiles generate_files(const GenerateRequest& request, const OutputPaths& paths, const Document& document) {
   const Families families = families_of(request, document);
-  const auto text_of = [&](FileKind kind) { return generated(document, families, kind, request.switches); };
-  GeneratedFiles made;
-  made.files = {{paths.config, text_of(CONFIG_FILE)}, {paths.code, text_of(CODE_FILE)}};
-  if (paths.stubs) {
-    made.stubs = keep_stubs(document, families, request.switches, earlier_text(*paths.stubs));
-    made.files.push_back({*paths.stubs, made.stubs.text.value_or("")});
-  }
-  if (paths.depfile) made.files.push_back({*paths.depfile, depfile_of(request, paths, families)});
+  GeneratedFiles made = generate_all(document, families, request.switches, paths);
+  if (request.depfile) made.files.push_back({*request.depfile, depfile_of(request, paths, families)});
   return made;
 }
 

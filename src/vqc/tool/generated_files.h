@@ -5,8 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "libkel/output_files.h"
-#include "vqc/cmd/generate/keep_stubs.h"
+#include "vqc/cmd/generate/all_files.h"
 #include "vqc/cmd/generate/switches.h"
 #include "vqc/cmd/model/document.h"
 
@@ -25,25 +24,11 @@ struct GenerateRequest {
   Switches switches;
 };
 
-/// Where the files go.
-struct OutputPaths {
-  std::string config;
-  std::string code;
-  std::optional<std::string> stubs;
-  std::optional<std::string> depfile;
-};
-
 /// Throws std::runtime_error when one path leads to the document or to the file of another, or cannot be followed.
 OutputPaths output_paths(const GenerateRequest& request);
 
-/// The files, which are not in their places yet.
-struct GeneratedFiles {
-  std::vector<OutputFile> files;  // the depfile is the last one, if there is one
-  KeptStubs stubs = {};           // nothing where no stubs file is made
-};
-
-/// Throws std::runtime_error when a family is wanted that the document does not have, or when the stubs file that is
-/// there cannot be read.
+/// The files that are wanted; the depfile is the last one, if there is one. Throws std::runtime_error when a family is
+/// wanted that the document does not have, or when the stubs file that is there cannot be read.
 GeneratedFiles generate_files(const GenerateRequest& request, const OutputPaths& paths, const Document& document);
 
 }  // namespace vqc
