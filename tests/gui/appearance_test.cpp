@@ -202,7 +202,7 @@ std::map<std::string, std::vector<int>> places_in(Widget w, const std::string& p
   std::map<std::string, std::vector<int>> places;
   const Area area = area_of(w);
   if (!XmIsList(w)) places[path] = {area.left, area.top, area.width, area.height};
-  if (path.ends_with("SW")) return places;
+  if (path.ends_with("SW") || path.ends_with("status_line")) return places;  // of texts that share its width
   for (Widget child : children_of(w)) places.merge(places_in(child, path + "." + XtName(child)));
   return places;
 }

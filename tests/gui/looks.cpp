@@ -97,6 +97,10 @@ std::string message(const std::string& box) { return label_resource(widget(box),
 
 std::string error_shown() { return is_shown("error_dialog") ? message("error_messageb") : ""; }
 
+std::string said(const std::string& window) { return label(window + "*status_said"); }
+
+std::string so(const std::string& window) { return label(window + "*status_so"); }
+
 std::string title(const std::string& shell) { return value_of<char*>(widget(shell), XmNtitle); }
 
 std::string title() { return value_of<char*>(main_shell(), XmNtitle); }

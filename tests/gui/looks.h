@@ -33,6 +33,9 @@ std::string label(const std::string& name);
 std::string message(const std::string& box);
 /// What the error box says, "" while it is not shown.
 std::string error_shown();
+/// What the status line of a window says has happened, and what is so. The window is named by its form or box.
+std::string said(const std::string& window = "family_form");
+std::string so(const std::string& window = "family_form");
 /// The title of a dialog, or of the main window.
 std::string title(const std::string& shell);
 std::string title();

@@ -31,7 +31,8 @@ class ShowSpot : public Session {
   ShowSpot() { open_document(document); }
 
   static bool shows(const Spot& spot) {
-    const bool shown = show_spot(spot);
+    bool shown = false;
+    act_for_user([&] { shown = show_spot(spot); });
     settle();
     return shown;
   }

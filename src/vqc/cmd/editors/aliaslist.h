@@ -11,6 +11,8 @@ namespace vqc::editors {
 
 /// Its part of the family dialog.
 DialogPart aliaslist_page();
+/// Marks from now on what has not been applied on it.
+void watch_aliaslist(Widget* record);
 
 extern ListEditor aliaslist_editor;
 inline constexpr XtCallbackProc aliaslist_do_add = do_add<aliaslist_editor>;

@@ -15,6 +15,9 @@
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/list_page.h"
+#include "vqc/cmd/editors/kit/part_names.h"
+#include "vqc/cmd/editors/kit/status_line.h"
+#include "vqc/cmd/editors/kit/unapplied.h"
 #include "vqc/cmd/editors/popuplist.h"
 
 namespace vqc::editors {
@@ -29,6 +32,7 @@ const WidgetRow field_rows[] = {
     {"converter_proc_l",         XmCreateLabel,        "converter_function_form"},
     {"converter_vq_tog",         XmCreateToggleButton, "converter_function_form", {}, CONVERTER_VQ},
     {"converter_code_tog",       XmCreateToggleButton, "converter_function_form", {}, CONVERTER_CODE},
+    {"converter_not_applied",    create_unapplied_note,        "converter_function_form", {}, CONVERTER_NOT_APPLIED},
     {"converter_popup_frame",    XmCreateFrame,        "converter_data_form"},
     {"converter_popup_form",     create_form,          "converter_popup_frame"},
     {"convert_popup_t",          XmCreateTextField,    "converter_popup_form",    {}, CONVERT_POPUP},
@@ -47,6 +51,7 @@ const ListPage converters = {.name = "converter",
                              .apply = converterlist_do_add,
                              .cancel = converterlist_do_delete,
                              .select = converterlist_do_display,
+                             .type = do_type<converterlist_editor>,
                              .up = converterlist_do_up,
                              .down = converterlist_do_down,
                              .quit = entity_do_hide,
@@ -73,6 +78,7 @@ void store_converter(ConverterDef& converter) {
   gettextf(entity_dialog[CONVERT_POPUP], &converter.dialog);
   gettoggle(entity_dialog[CONVERTER_VQ], &converter.add_in_vq);
   gettoggle(entity_dialog[CONVERTER_CODE], &converter.add_in_code);
+  note_applied(entity_dialog[CONVERTER_PROC]);
 }
 
 /// A converter that another family has given its procedure keeps what it has.
@@ -83,6 +89,7 @@ void converter_added(Name name) {
 }
 
 void update_converter(Name name) {
+  say_unless_changed("nothing_changed", {part_name(Part::converter, name).c_str()});
   dirty = true;
   store_converter(*converter_ptr(name));
 }
@@ -97,7 +104,12 @@ bool has_current_family() { return family_getcurrent() != nullptr; }
 
 DialogPart converterlist_page() { return list_page(converters); }
 
-ListEditor converterlist_editor{.dialog = entity_dialog,
+void watch_converter(Widget* record) {
+  watch_fields({XtNameToWidget(record[CONVERTER_BOX], "converter_data_form")}, record[CONVERTER_NOT_APPLIED]);
+}
+
+ListEditor converterlist_editor{.part = Part::converter,
+                                .dialog = entity_dialog,
                                 .box_slot = CONVERTER_BOX,
                                 .names = names_in_family<converter_kind>(),
                                 .added = converter_added,

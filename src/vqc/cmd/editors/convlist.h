@@ -14,6 +14,8 @@ namespace vqc::editors {
 DialogPart converterlist_page();
 /// Lets its fields, in the dialog's record, be completed.
 void complete_converter(Widget* record);
+/// Marks from now on what has not been applied on it.
+void watch_converter(Widget* record);
 
 extern ListEditor converterlist_editor;
 inline constexpr XtCallbackProc converterlist_do_add = do_add<converterlist_editor>;

@@ -4,8 +4,12 @@
 
 #include <memory>
 
+#include "libkel/leafnm.h"
 #include "libkel/message.h"
+#include "vqc/cmd/editors/facts.h"
 #include "vqc/cmd/editors/kit/edited_document.h"
+#include "vqc/cmd/editors/kit/status_line.h"
+#include "vqc/cmd/editors/outside_changes.h"
 #include "vqc/cmd/editors/safety_net.h"
 #include "vqc/cmd/savefile/load.h"
 #include "vqc/cmd/savefile/save.h"
@@ -25,6 +29,22 @@ void show_errors(const LoadResult& result, const Diagnostics& findings) {
   if (no_document) error_show("bad_save_file");
 }
 
+void note_fresh(const std::string& path, int unread_from) {
+  note_file_known(path);
+  note_unread_from(path, unread_from);
+}
+
+void say_what_was_read(const std::string& path, bool fresh, int unread_from) {
+  const char* name = leafnm(path.c_str());
+  if (fresh) {
+    say("opened", {name});
+  } else if (unread_from > 0) {
+    say("read_into_in_part", {name, unread_from});
+  } else {
+    say("read_into", {name});
+  }
+}
+
 }  // namespace
 
 int parseit(std::optional<std::string>& path, int fresh) {
@@ -39,7 +59,12 @@ int parseit(std::optional<std::string>& path, int fresh) {
   Diagnostics findings;
   const LoadResult result = load(source, edited_document, findings);
   show_errors(result, findings);
-  if (result.has_header) return 1;
+  const int unread_from = result.first_error ? result.first_error->line : 0;
+  if (fresh) note_fresh(*path, unread_from);
+  if (result.has_header) {
+    say_what_was_read(*path, fresh != 0, unread_from);
+    return 1;
+  }
   if (!fresh) return 0;
   edited_document.clear();  // of what the header said before it went wrong
   path = std::nullopt;
@@ -47,12 +72,15 @@ int parseit(std::optional<std::string>& path, int fresh) {
 }
 
 bool write_save_file(const char* path) {
-  keep_before(path, Reason::before_save);
+  const bool is_foreign = is_changed_outside(path);
+  keep_before(path, is_foreign ? Reason::changed_outside : Reason::before_save);
   const std::unique_ptr<FileSink> out = openfile(path);
   if (!out) return false;
   save(edited_document, *out);
   closefile(*out);
   dirty = false;
+  note_file_known(path);
+  say(is_foreign ? "kept_outside" : "saved_as", {leafnm(path)});
   return true;
 }
 

@@ -25,6 +25,7 @@
 #include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/search_field.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
+#include "vqc/cmd/editors/kit/status_line.h"
 #include "vqc/cmd/editors/title.h"
 #include "vqc/cmd/editors/widgetlist.h"
 
@@ -49,10 +50,13 @@ const WidgetRow frame_rows[] = {
     {"entity_view_separator",       XmCreateSeparator,     "view_pulldown"},
     {"entity_usesb",                XmCreatePushButton,    "view_pulldown", on_press(entity_do_uses)},
     {"entity_viewb",                XmCreateCascadeButton, "entity_menubar"},
-    {"search_row",                  create_form,           "entity_form"},
-    {"entity_search",               XmCreateTextField,     "search_row",    {}, ENTITY_SEARCH},
-    {"entity_search_l",             XmCreateLabel,         "search_row"},
-    {"entity_view_form",            create_form,           "entity_form"},
+};
+
+const WidgetRow view_rows[] = {
+    {"search_row",       create_form,       "entity_form"},
+    {"entity_search",    XmCreateTextField, "search_row",    {}, ENTITY_SEARCH},
+    {"entity_search_l",  XmCreateLabel,     "search_row"},
+    {"entity_view_form", create_form,       "entity_form"},
 };
 
 const WidgetLink frame_links[] = {
@@ -130,16 +134,20 @@ bool create_on_first_use() {
 }  // namespace
 
 Widget* create_entity_dialog(Widget parent) {
-  Widget* record = build_dialog(
-      parent,
-      {part(frame_rows, frame_links), codeheaderlist_page(), confheaderlist_page(), familyheaderlist_page(),
-       aliaslist_page(), enumlist_page(), widgetlist_page(), converterlist_page(), familyinit_page()},
-      ENTITY_SLOTS);
+  Widget* record =
+      build_dialog(parent,
+                   {part(frame_rows, frame_links), status_line("entity_form"), part(view_rows), codeheaderlist_page(),
+                    confheaderlist_page(), familyheaderlist_page(), aliaslist_page(), enumlist_page(),
+                    widgetlist_page(), converterlist_page(), familyinit_page()},
+                   ENTITY_SLOTS);
   if (!record) return nullptr;
   settoggle(record[ENTITY_VIEW_WIDGETS], true);
   for (const ListOnPage& row : lists) begin_at_list(record[row.page]);
   complete_converter(record);
   complete_familyinit(record);
+  watch_aliaslist(record);
+  watch_converter(record);
+  watch_familyinit(record);
   search_in(record[ENTITY_SEARCH], [] { return shown_list; });
   return record;
 }

@@ -10,14 +10,17 @@
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/list_page.h"
+#include "vqc/cmd/editors/kit/part_names.h"
 #include "vqc/cmd/editors/kit/search_field.h"
+#include "vqc/cmd/editors/kit/status_line.h"
+#include "vqc/cmd/editors/kit/unapplied.h"
 #include "vqc/cmd/editors/title.h"
 
 namespace vqc::editors {
 
 namespace {
 
-enum Slot { SHELL, BOX, TYPE, CODE_SYMBOL, RESFILE_SYMBOL, SEARCH, SLOTS };
+enum Slot { SHELL, BOX, TYPE, CODE_SYMBOL, RESFILE_SYMBOL, SEARCH, NOT_APPLIED, SLOTS };
 
 // clang-format off
 const WidgetRow shell_rows[] = {{"enumedit_dialog", XmCreateDialogShell, nullptr, {}, SHELL}};
@@ -32,6 +35,7 @@ const WidgetRow field_rows[] = {
     {"enumedit_code_symbol_l",    XmCreateLabel,     "enumedit_work_form"},
     {"enumedit_resfile_symbol",   XmCreateTextField, "enumedit_work_form", {}, RESFILE_SYMBOL},
     {"enumedit_resfile_symbol_l", XmCreateLabel,     "enumedit_work_form"},
+    {"enumedit_not_applied",      create_unapplied_note,     "enumedit_work_form", {}, NOT_APPLIED},
 };
 // clang-format on
 
@@ -43,10 +47,12 @@ const ListPage entries = {.name = "enumedit",
                           .apply = enumentry_do_add,
                           .cancel = enumentry_do_delete,
                           .select = enumentry_do_display,
+                          .type = do_type<enumentry_editor>,
                           .up = enumentry_do_up,
                           .down = enumentry_do_down,
                           .quit = enumedit_do_hide,
                           .form = "enumedit_work_form",
+                          .has_status_line = true,
                           .rows = field_rows};
 
 constexpr FieldOfWord fields[] = {
@@ -69,6 +75,7 @@ void store_symbols(Name name) {
   EnumEntry* entry = enumentry_ptr(current_enum(), name);
   gettextf(enumedit_dialog[CODE_SYMBOL], &entry->code_symbol);
   gettextf(enumedit_dialog[RESFILE_SYMBOL], &entry->resfile_symbol);
+  note_applied(enumedit_dialog[RESFILE_SYMBOL]);
 }
 
 void show_entry(Name name) {
@@ -92,6 +99,7 @@ std::vector<std::string> entry_names() {
 }  // namespace
 
 ListEditor enumentry_editor{
+    .part = Part::entry,
     .dialog = enumedit_dialog,
     .box_slot = BOX,
     .names = {.has = [](Name name) { return enumentry_ptr(current_enum(), name) != nullptr; },
@@ -109,7 +117,9 @@ ListEditor enumentry_editor{
 
 Widget* create_enumedit_dialog(Widget parent) {
   Widget* record = build_dialog(parent, {part(shell_rows), list_page(entries)}, SLOTS);
-  if (record) search_in(record[SEARCH], [] { return &enumentry_editor; });
+  if (!record) return nullptr;
+  search_in(record[SEARCH], [] { return &enumentry_editor; });
+  watch_fields({record[TYPE], record[CODE_SYMBOL], record[RESFILE_SYMBOL]}, record[NOT_APPLIED]);
   return record;
 }
 
@@ -142,7 +152,8 @@ Widget enumedit_field(Kw word) { return field_of_word(enumedit_dialog, fields, w
 
 void enumentry_do_update(Widget w, XtPointer, XtPointer call) {
   EnumDef* enumeration = current_enum();
-  if (!enumeration) return;
+  if (!enumeration) return say("no_enumeration");
+  say_unless_changed("nothing_changed", {part_name(Part::enumeration, enumeration->name).c_str()});
   dirty = true;
   gettextf(enumedit_dialog[TYPE], &enumeration->type_name);
   with_name(w, call, enumentry_editor, accept_name);

@@ -23,6 +23,7 @@ const ListPage enumerations = {.name = "enumlist",
                                .apply = enumlist_do_add,
                                .cancel = enumlist_do_delete,
                                .select = enumlist_do_select,
+                               .type = do_type<enumlist_editor>,
                                .quit = entity_do_hide,
                                .rows = separator_rows};
 
@@ -41,7 +42,8 @@ void edit_enum(Name name) {
 
 DialogPart enumlist_page() { return list_page(enumerations); }
 
-ListEditor enumlist_editor{.dialog = entity_dialog,
+ListEditor enumlist_editor{.part = Part::enumeration,
+                           .dialog = entity_dialog,
                            .box_slot = ENUMLIST_BOX,
                            .names = names_in_family<enum_kind>(),
                            .added = enum_added,

@@ -12,7 +12,10 @@
 #include "vqc/cmd/editors/field_words.h"
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_names.h"
+#include "vqc/cmd/editors/kit/part_names.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
+#include "vqc/cmd/editors/kit/status_line.h"
+#include "vqc/cmd/editors/kit/unapplied.h"
 
 namespace vqc::editors {
 
@@ -28,6 +31,7 @@ const WidgetRow rows[] = {
     {"familyinit_add_code_t",  XmCreateToggleButton, "familyinit_work_area", {}, FAMILYINIT_ADD_CODE},
     {"familyinit_add_stub_t",  XmCreateToggleButton, "familyinit_work_area", {}, FAMILYINIT_ADD_STUB},
     {"familyinit_pre_shell_t", XmCreateToggleButton, "familyinit_work_area", {}, FAMILYINIT_PRE_SHELL},
+    {"familyinit_not_applied", create_unapplied_note,        "familyinit_work_area", {}, FAMILYINIT_NOT_APPLIED},
     {"familyinit_applyb",      XmCreatePushButton,   "familyinit_form",      on_press(family_init_do_update)},
     {"familyinit_cancelb",     XmCreatePushButton,   "familyinit_form",      on_press(entity_do_hide)},
     {"familyinit_helpb",       XmCreatePushButton,   "familyinit_form",      on_press(vqc_do_help, "vqc_family_init")},
@@ -64,6 +68,10 @@ DialogPart familyinit_page() { return part(rows, links); }
 
 void complete_familyinit(Widget* record) { complete_value(record[FAMILYINIT_INIT], ValueKind::family_procedure); }
 
+void watch_familyinit(Widget* record) {
+  watch_fields({XtParent(record[FAMILYINIT_INIT])}, record[FAMILYINIT_NOT_APPLIED]);
+}
+
 void familyinit_setfamily(const Family* family) {
   if (!entity_dialog) return;
   settextf(entity_dialog[FAMILYINIT_INIT], family ? family->family_init : Text());
@@ -78,6 +86,8 @@ void family_init_do_update(Widget, XtPointer, XtPointer) {
   const std::string init = gettextf(entity_dialog[FAMILYINIT_INIT]);
   family->family_init = edited_document.keep(Name(init));  // an empty text is a text here
   for (const auto& [toggle, flag] : init_flags) gettoggle(entity_dialog[toggle], &(family->*flag));
+  note_applied(entity_dialog[FAMILYINIT_INIT]);
+  say_unless_changed("nothing_changed", {part_name(Part::family, family->name).c_str()});
 }
 
 }  // namespace vqc::editors

@@ -13,6 +13,8 @@ namespace vqc::editors {
 DialogPart familyinit_page();
 /// Lets its field, in the dialog's record, be completed.
 void complete_familyinit(Widget* record);
+/// Marks from now on what has not been applied on it.
+void watch_familyinit(Widget* record);
 
 /// Fills the page, if there is a dialog, from a family; null empties it.
 void familyinit_setfamily(const Family* family);

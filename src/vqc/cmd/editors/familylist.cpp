@@ -32,6 +32,7 @@ const ListPage families = {.name = "family",
                            .apply = family_do_add,
                            .cancel = family_do_delete,
                            .select = family_do_select,
+                           .type = do_type<family_editor>,
                            .up = family_do_up,
                            .down = family_do_down,
                            .rows = rows,
@@ -42,6 +43,7 @@ const ListPage families = {.name = "family",
 DialogPart familylist_page() { return list_page(families); }
 
 ListEditor family_editor{
+    .part = Part::family,
     .dialog = family_dialog,
     .box_slot = FAMILY_SELECTION,
     .names = {.has = [](Name name) { return family_ptr(name) != nullptr; },
@@ -50,7 +52,8 @@ ListEditor family_editor{
               .position = [](Name name) { return edited_document.families.position(name); },
               .move_up = [](Name name, bool) { return family_move_up(name); },
               .move_down = [](Name name, bool) { return family_move_down(name); },
-              .names = names_in_pool<family_pool>},
+              .names = names_in_pool<family_pool>,
+              .current = name_of_current<family_pool>},
     .added =
         [](Name name) {
           if (!family_getcurrent()) family_setcurrent(family_ptr(name));

@@ -11,6 +11,7 @@
 
 #include "libkel/message.h"
 #include "vqc/cmd/editors/document_files.h"
+#include "vqc/cmd/editors/facts.h"
 #include "vqc/cmd/editors/familylist.h"
 #include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/cursor.h"
@@ -148,6 +149,7 @@ void file_in_use() {
 void save_document() {
   if (!write_save_file(save_file_path())) return;
   note_saving();
+  note_unread_from(save_file, 0);
   file_in_use();
   run_save_op();
   save_op = SaveOp::none;
@@ -175,6 +177,7 @@ Widget* create_savechanges_dialog(Widget parent) {
 bool load_document() {
   const bool opened = parseit(save_file, 1) != 0;
   dirty = false;
+  note_loading();
   if (opened) file_in_use();
   return opened;
 }
@@ -209,6 +212,7 @@ void really_do_new() {
   options_dialog_reset();
   save_file = std::nullopt;
   dirty = false;
+  note_loading();
   show_document();
   vqc_set_title(nullptr);
 }

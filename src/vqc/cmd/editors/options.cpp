@@ -19,6 +19,7 @@
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_options.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
+#include "vqc/cmd/editors/kit/status_line.h"
 #include "vqc/cmd/savefile/fields.h"
 
 namespace vqc::editors {
@@ -44,9 +45,12 @@ enum Slot {
 };
 
 // clang-format off
+const WidgetRow frame_rows[] = {
+    {"options_shell", XmCreateDialogShell, nullptr,         {}, SHELL},
+    {"options_form",  create_form,         "options_shell", {{{XmNhelpCallback, options_help_callback}}}, FORM},
+};
+
 const WidgetRow rows[] = {
-    {"options_shell",           XmCreateDialogShell,  nullptr,             {}, SHELL},
-    {"options_form",            create_form,          "options_shell",     {{{XmNhelpCallback, options_help_callback}}}, FORM},
     {"options_ok",              XmCreatePushButton,   "options_form",      on_press(options_ok_callback)},
     {"options_reset",           XmCreatePushButton,   "options_form",      on_press(options_reset_callback)},
     {"options_cancel",          XmCreatePushButton,   "options_form",      on_press(options_cancel_callback)},
@@ -113,7 +117,9 @@ Text first_word(std::string text) {
 
 }  // namespace
 
-Widget* create_options_shell(Widget parent) { return build_dialog(parent, rows, SLOTS, links); }
+Widget* create_options_shell(Widget parent) {
+  return build_dialog(parent, {part(frame_rows), status_line("options_form"), part(rows, links)}, SLOTS);
+}
 
 void genopt_do_popup(Widget w, XtPointer, XtPointer) {
   const BusyCursor busy(w);

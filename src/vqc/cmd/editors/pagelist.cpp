@@ -12,6 +12,7 @@
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/list_page.h"
+#include "vqc/cmd/editors/kit/status_line.h"
 
 namespace vqc::editors {
 
@@ -41,6 +42,7 @@ const ListPage pages = {.name = "pageedit",
                         .cancel = pagelist_do_hide,
                         .select = pagelist_do_display,
                         .form = "pageedit_work_area",
+                        .has_status_line = true,
                         .rows = work_rows};
 
 }  // namespace
@@ -52,7 +54,10 @@ Widget* create_pageedit_dialog(Widget parent) {
 }
 
 Picker page_picker{
-    .editor = {.dialog = pageedit_dialog, .box_slot = BOX, .names = names_to_pick<page_kind, page_pool>()},
+    .editor = {.part = Part::page,
+               .dialog = pageedit_dialog,
+               .box_slot = BOX,
+               .names = names_to_pick<page_kind, page_pool>()},
     .create = create_pageedit_dialog,
     .exists = [](Name name) { return page_ptr(name) != nullptr; },
     .show = [](Name name) { page_setcurrent(page_ptr(name)); },
@@ -61,7 +66,7 @@ Picker page_picker{
 
 void pagelist_do_add(Widget w, XtPointer, XtPointer) {
   const std::string name = page_picker.name();
-  if (name.empty()) return;
+  if (name.empty()) return say("no_name");
   const BusyCursor busy(w);
   page_into_family(name);
 }

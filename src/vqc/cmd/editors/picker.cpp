@@ -6,6 +6,8 @@
 #include "vqc/cmd/editors/kit/dialog.h"
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_names.h"
+#include "vqc/cmd/editors/kit/part_names.h"
+#include "vqc/cmd/editors/kit/status_line.h"
 #include "vqc/cmd/generate/name_set.h"
 
 namespace vqc::editors {
@@ -63,19 +65,22 @@ void refresh_names(const Picker& picker) {
 
 void name_into_family(const Picker& picker, Name name) {
   const ListEditor& editor = picker.editor;
-  if (editor.names.has(name) || with_memory(editor.names.add(name)) != 0 || !editor.dialog) return;
+  if (editor.names.has(name)) return say_unless_changed("in_list", {part_name(editor.part, name).c_str()});
+  if (with_memory(editor.names.add(name)) != 0 || !editor.dialog) return;
   if (list_position(editor.list(), name) == 0) list_insert(editor.list(), name, place_in_list(editor, name));
 }
 
 void apply_picked(Widget w, const Picker& picker) {
-  if (!picker.has_target()) return;
+  if (!picker.has_target()) return say("no_target");
   const BusyCursor busy(w);
   dirty = true;
   settextf(picker.field, picker.name());
+  say("name_put", {part_name(picker.editor.part, Name(picker.name())).c_str()});
 }
 
 void show_picked(const Picker& picker, Name name) {
-  if (picker.exists(name)) picker.show(name);
+  if (!picker.exists(name)) return say("not_in_list", {part_name(picker.editor.part, name).c_str()});
+  picker.show(name);
 }
 
 void go_to_picked(const Picker& picker, const std::string& name) {
@@ -86,9 +91,11 @@ void go_to_picked(const Picker& picker, const std::string& name) {
 
 void remove_picked(Widget w, const Picker& picker) {
   const std::string name = picker.name();
-  if (name.empty() || check_builtin_name(name, picker.builtin_kind)) return;
+  if (name.empty()) return say("no_name");
+  const std::string part = part_name(picker.editor.part, Name(name));
+  if (check_builtin_name(name, picker.builtin_kind)) return say("predefined", {part.c_str()});
   const BusyCursor busy(w);
-  if (!picker.editor.names.has(name)) return;
+  if (!picker.editor.names.has(name)) return say("not_of_family", {part.c_str()});
   list_delete(picker.editor.list(), name);
   picker.editor.names.remove(name);
 }

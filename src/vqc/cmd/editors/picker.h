@@ -66,7 +66,8 @@ void go_to_picked(const Picker& picker, const std::string& name);
 template <Picker& picker>
 void search_picker(Widget field) {
   search_in(
-      field, [] { return list_names(picker.editor.list()); }, [](const std::string& name) { go_to_picked(picker, name); });
+      field, [] { return list_names(picker.editor.list()); },
+      [](const std::string& name) { go_to_picked(picker, name); });
 }
 
 // The buttons, as callbacks.

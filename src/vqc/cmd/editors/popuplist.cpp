@@ -13,12 +13,15 @@
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/list_page.h"
+#include "vqc/cmd/editors/kit/part_names.h"
+#include "vqc/cmd/editors/kit/status_line.h"
+#include "vqc/cmd/editors/kit/unapplied.h"
 
 namespace vqc::editors {
 
 namespace {
 
-enum Slot { SHELL, BOX, INIT, UPDATE, SEARCH, SLOTS };
+enum Slot { SHELL, BOX, INIT, UPDATE, SEARCH, NOT_APPLIED, SLOTS };
 
 // clang-format off
 const WidgetRow shell_rows[] = {{"popupedit_dialog", XmCreateDialogShell, nullptr, {}, SHELL}};
@@ -33,6 +36,7 @@ const WidgetRow work_rows[] = {
     {"converter_dialogue_update_l", XmCreateLabel,      "popupedit_work_area"},
     {"popupedit_applytb",           XmCreatePushButton, "popupedit_work_area", on_press(popuplist_do_add)},
     {"popupedit_deletetb",          XmCreatePushButton, "popupedit_work_area", on_press(popuplist_do_delete)},
+    {"popupedit_not_applied",       create_unapplied_note,      "popupedit_work_area", {}, NOT_APPLIED},
 };
 // clang-format on
 
@@ -44,6 +48,7 @@ const ListPage popups = {.name = "popupedit",
                          .cancel = popuplist_do_hide,
                          .select = popuplist_do_display,
                          .form = "popupedit_work_area",
+                         .has_status_line = true,
                          .rows = work_rows};
 
 constexpr FieldOfWord fields[] = {{Kw::dialog_init, INIT}, {Kw::dialog_update, UPDATE}};
@@ -58,11 +63,15 @@ Widget* create_popupedit_dialog(Widget parent) {
   complete_value(record[INIT], ValueKind::popup_init_procedure);
   complete_value(record[UPDATE], ValueKind::popup_update_procedure);
   search_picker<popup_picker>(record[SEARCH]);
+  watch_fields({record[INIT], record[UPDATE]}, record[NOT_APPLIED]);
   return record;
 }
 
 Picker popup_picker{
-    .editor = {.dialog = popupedit_dialog, .box_slot = BOX, .names = names_to_pick<popup_kind, popup_pool>()},
+    .editor = {.part = Part::popup,
+               .dialog = popupedit_dialog,
+               .box_slot = BOX,
+               .names = names_to_pick<popup_kind, popup_pool>()},
     .create = create_popupedit_dialog,
     .exists = [](Name name) { return popup_ptr(name) != nullptr; },
     .show = show_popup,
@@ -71,14 +80,18 @@ Picker popup_picker{
 
 void popuplist_do_add(Widget w, XtPointer, XtPointer) {
   const std::string name = popup_picker.name();
-  if (name.empty()) return;
+  if (name.empty()) return say("no_name");
   const BusyCursor busy(w);
-  if (check_builtin_name(name, BUILTIN_POPUP)) return show_popup(name);
+  if (check_builtin_name(name, BUILTIN_POPUP)) {
+    say("predefined", {part_name(Part::popup, Name(name)).c_str()});
+    return show_popup(name);
+  }
   name_into_family(popup_picker, name);
   if (!popuplist_ptr(family_getcurrent(), name)) return;
   PopupDef* popup = popup_ptr(name);
   gettextf(popupedit_dialog[INIT], &popup->dialog_init);
   gettextf(popupedit_dialog[UPDATE], &popup->dialog_update);
+  note_applied(popupedit_dialog[UPDATE]);
 }
 
 Widget popupedit_field(Kw word) { return field_of_word(popupedit_dialog, fields, word); }

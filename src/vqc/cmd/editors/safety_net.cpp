@@ -3,7 +3,6 @@
 #include "vqc/cmd/editors/safety_net.h"
 
 #include <chrono>
-#include <cstdio>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -11,6 +10,7 @@
 #include "libkel/message.h"
 #include "libkel/state_folder.h"
 #include "vqc/cmd/editors/kit/edited_document.h"
+#include "vqc/cmd/editors/kit/status_line.h"
 #include "vqc/cmd/history/journal_writer.h"
 #include "vqc/cmd/history/recent_documents.h"
 #include "vqc/cmd/savefile/load.h"
@@ -33,7 +33,8 @@ fs::path in_state_folder(const char* name) {
 void say_once(const std::error_code& failure) {
   static bool said = false;
   if (!failure || std::exchange(said, true)) return;
-  std::fprintf(stderr, "vqconfig: %s: %s\n", state_folder().c_str(), failure.message().c_str());
+  const std::string reason = failure.message();
+  say_above_all(filled(text_or_name("nothing_kept"), {state_folder().c_str(), reason.c_str()}));
 }
 
 /// Does something with the versions, if there is a place for them.

@@ -2,8 +2,10 @@
 
 #include "vqc/cmd/editors/session_history.h"
 
+#include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "libkel/message.h"
@@ -11,11 +13,13 @@
 #include "vqc/cmd/editors/convlist.h"
 #include "vqc/cmd/editors/enumedit.h"
 #include "vqc/cmd/editors/enumlist.h"
+#include "vqc/cmd/editors/facts.h"
 #include "vqc/cmd/editors/familylist.h"
 #include "vqc/cmd/editors/headerlists.h"
 #include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/status_line.h"
+#include "vqc/cmd/editors/kit/unapplied.h"
 #include "vqc/cmd/editors/options.h"
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
@@ -38,9 +42,13 @@ ListEditor* const lists[] = {&family_editor,         &widgetlist_editor,       &
                              &aliaslist_editor,      &converterlist_editor,    &codeheaderlist_editor,
                              &confheaderlist_editor, &familyheaderlist_editor, &enumentry_editor};
 
+/// What the file of the document says; null until the state is known that has just been read or written.
+std::shared_ptr<const State> in_file;
+bool just_loaded = false;
+
 Surroundings surroundings() {
-  Surroundings now{save_file, {}};
-  for (const ListEditor* editor : lists) now.selection.push_back(selected_name(*editor));
+  Surroundings now{save_file, {}, in_file};
+  for (const ListEditor* editor : lists) now.selection.push_back(shown_name(*editor));
   return now;
 }
 
@@ -65,6 +73,7 @@ void select_again(const std::vector<std::string>& selection) {
 
 void show_now() {
   save_file = timeline->now().path;
+  in_file = timeline->now().in_file;
   keep_state(timeline->now().state, save_file);
   vqc_set_title(save_file_path());
   refill_windows();
@@ -87,39 +96,57 @@ void show_steps() {
   name_item(FAMILY_REDO, "redo", "redo_step", on);
 }
 
+/// Goes back by a step or on again, and says which one it was.
+void go(Widget w, void (Timeline::*step)(Document&), const char* message, const std::string& name) {
+  const BusyCursor busy(w);
+  timeline->note_typed(unapplied_fields());
+  ((*timeline).*step)(edited_document);
+  show_now();
+  take_left_fields();
+  put_back(timeline->now().typed);
+  show_steps();
+  say(message, {name.c_str()});
+}
+
 }  // namespace
 
 void begin_history() {
   timeline.emplace(edited_document, surroundings());
+  note_loading();
+  note_action();
   show_steps();
 }
 
+void note_loading() { just_loaded = true; }
+
 void note_action() {
-  if (!timeline || !timeline->note(edited_document, surroundings())) return;
-  keep_state(timeline->now().state, save_file);
-  show_steps();
-  refresh_uses();
-  if (!has_spoken()) say_text(step_name(timeline->previous(), timeline->now()));
+  if (!timeline) return;
+  const bool is_step = timeline->note(edited_document, surroundings(), take_left_fields());
+  mark_unapplied();
+  if (std::exchange(just_loaded, false)) timeline->note_file(in_file = timeline->now().state);
+  if (is_step) {
+    keep_state(timeline->now().state, save_file);
+    show_steps();
+    refresh_uses();
+  }
+  end_action(is_step ? done_name(timeline->previous(), timeline->now()) : std::string());
+  show_facts(*timeline->now().state, in_file.get());
 }
 
 void note_saving() {
-  if (timeline) timeline->saved(edited_document, save_file);
+  if (!timeline) return;
+  timeline->saved(edited_document, save_file);
+  in_file = timeline->now().state;
 }
 
 void undo_do(Widget w, XtPointer, XtPointer) {
-  if (!timeline || !timeline->can_undo()) return;
-  const BusyCursor busy(w);
-  timeline->undo(edited_document);
-  show_now();
-  show_steps();
+  if (!timeline || !timeline->can_undo()) return say("nothing_to_undo");
+  go(w, &Timeline::undo, "undone", step_name(timeline->previous(), timeline->now()));
 }
 
 void redo_do(Widget w, XtPointer, XtPointer) {
-  if (!timeline || !timeline->can_redo()) return;
-  const BusyCursor busy(w);
-  timeline->redo(edited_document);
-  show_now();
-  show_steps();
+  if (!timeline || !timeline->can_redo()) return say("nothing_to_redo");
+  go(w, &Timeline::redo, "redone", step_name(timeline->now(), timeline->next()));
 }
 
 }  // namespace vqc::editors

@@ -11,6 +11,8 @@ namespace vqc::editors {
 void begin_history();
 /// Takes note of what the user has done, be it nothing.
 void note_action();
+/// The document has been read from its file, or is new: it says what the file says, from the next action noted.
+void note_loading();
 /// The document has been saved.
 void note_saving();
 

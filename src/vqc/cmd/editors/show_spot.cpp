@@ -166,7 +166,7 @@ bool show_entry(const Spot& spot) {
   if (!show_record(Part::enumeration, spot.of, {})) return false;
   enumedit_show();
   if (!enumentry_editor.names.has(spot.name)) return refuse("spot_gone", spot.name);
-  if (selected_name(enumentry_editor) != spot.name) choose_name(enumentry_editor, spot.name);
+  if (shown_name(enumentry_editor) != spot.name) choose_name(enumentry_editor, spot.name);
   return go_into(field_of(spot, enumedit_field), enumentry_editor.name_field());
 }
 

@@ -3,6 +3,7 @@
 #include "vqc/cmd/editors/stop.h"
 
 #include <Xm/DialogS.h>
+#include <Xm/Label.h>
 #include <Xm/PushB.h>
 #include <Xm/ScrolledW.h>
 #include <Xm/SeparatoG.h>
@@ -17,7 +18,10 @@
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_options.h"
+#include "vqc/cmd/editors/kit/part_names.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
+#include "vqc/cmd/editors/kit/status_line.h"
+#include "vqc/cmd/editors/kit/unapplied.h"
 #include "vqc/cmd/model/stop_list.h"
 
 namespace vqc::editors {
@@ -26,19 +30,23 @@ namespace {
 
 constexpr bool is_container(const StopClass& each) { return each.column <= 3 || each.column == 7; }
 
-enum Slot { SHELL, FORM, TOGGLES, SLOTS = TOGGLES + static_cast<int>(std::size(stop_classes)) };
+enum Slot { SHELL, FORM, CONTAINER, NOT_APPLIED, TOGGLES, SLOTS = TOGGLES + static_cast<int>(std::size(stop_classes)) };
 
 // clang-format off
 const WidgetRow frame_rows[] = {
     {"stop_list_shell",             XmCreateDialogShell,     nullptr,                     {}, SHELL},
     {"stop_list_form",              create_form,             "stop_list_shell",           on_help("vqc_stop_list"), FORM},
+};
+
+const WidgetRow button_rows[] = {
     {"stop_list_fake_separator",    XmCreateSeparatorGadget, "stop_list_form"},
     {"stop_list_apply",             XmCreatePushButton,      "stop_list_form",            on_press(stop_list_do_apply)},
     {"stop_list_close",             XmCreatePushButton,      "stop_list_form",            on_press(stop_list_do_popdown)},
     {"stop_list_help",              XmCreatePushButton,      "stop_list_form",            on_press(vqc_do_help, "vqc_stop_list")},
+    {"stop_list_not_applied",       create_unapplied_note,           "stop_list_form",            {}, NOT_APPLIED},
     {"stop_list_separator",         XmCreateSeparator,       "stop_list_form"},
     {"stop_list_scrolled_window",   XmCreateScrolledWindow,  "stop_list_form"},
-    {"stop_list_container",         create_form,             "stop_list_scrolled_window"},
+    {"stop_list_container",         create_form,             "stop_list_scrolled_window", {}, CONTAINER},
     {"stop_list_composites",        create_form,             "stop_list_container"},
 };
 
@@ -76,10 +84,13 @@ std::vector<const StopClass*> listed_classes() {
 }  // namespace
 
 Widget* create_stop_list_shell(Widget parent) {
-  return build_dialog(parent,
-                      {part(frame_rows, links), toggles_in("stop_list_composites", true), part(primitives_rows),
-                       toggles_in("stop_list_primitives", false)},
-                      SLOTS);
+  Widget* record = build_dialog(
+      parent,
+      {part(frame_rows), status_line("stop_list_form"), part(button_rows, links),
+       toggles_in("stop_list_composites", true), part(primitives_rows), toggles_in("stop_list_primitives", false)},
+      SLOTS);
+  if (record) watch_fields({record[CONTAINER]}, record[NOT_APPLIED]);
+  return record;
 }
 
 void stoplist_do_popup(Widget w, XtPointer, XtPointer) {
@@ -96,6 +107,8 @@ void stop_list_do_apply(Widget, XtPointer, XtPointer) {
     if (!classes.empty()) classes += ',';
     classes += each->name;
   }
+  note_applied(toggle_of(stop_classes[0]));
+  say_unless_changed("nothing_changed", {part_name(Part::stop_list, {}).c_str()});
   stop_list_set(classes.empty() ? Name(nullptr) : Name(classes));
 }
 

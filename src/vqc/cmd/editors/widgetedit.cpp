@@ -22,9 +22,12 @@
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_names.h"
+#include "vqc/cmd/editors/kit/part_names.h"
 #include "vqc/cmd/editors/kit/search_field.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/kit/shown_names.h"
+#include "vqc/cmd/editors/kit/status_line.h"
+#include "vqc/cmd/editors/kit/unapplied.h"
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
 #include "vqc/cmd/editors/title.h"
@@ -81,22 +84,30 @@ enum Slot {
   RESOURCE_DELETE,
   APPLY,
   UNDO,
+  WIDGET_FORM,
+  RESOURCE_FIELDS,
+  NOT_APPLIED,
+  NOT_UPDATED,
   SLOTS,
 };
 
 // clang-format off
+const WidgetRow frame_rows[] = {
+    {"widgetedit_dialog", XmCreateDialogShell, nullptr,             on_close(widgetedit_do_hide), SHELL},
+    {"widgetedit_form",   create_form,         "widgetedit_dialog", on_help("vqc_w_edit"), FORM},
+};
+
 const WidgetRow rows[] = {
-    {"widgetedit_dialog",    XmCreateDialogShell, nullptr,             on_close(widgetedit_do_hide), SHELL},
-    {"widgetedit_form",      create_form,         "widgetedit_dialog", on_help("vqc_w_edit"), FORM},
     {"widgetedit_applyb",    XmCreatePushButton,  "widgetedit_form",   on_press(widget_do_update), APPLY},
     {"widgetedit_undob",     XmCreatePushButton,  "widgetedit_form",   on_press(widget_do_undo), UNDO},
     {"widgetedit_closeb",    XmCreatePushButton,  "widgetedit_form",   on_press(widgetedit_do_hide)},
     {"widgetedit_helpb",     XmCreatePushButton,  "widgetedit_form",   on_press(vqc_do_help, "vqc_w_edit")},
+    {"widgetedit_not_applied", create_unapplied_note,     "widgetedit_form",   {}, NOT_APPLIED},
     {"widgetedit_separator", XmCreateSeparator,   "widgetedit_form"},
 
     {"widgetedit_widget_frame",         XmCreateFrame,        "widgetedit_form"},
     {"widgetedit_widget_l",             XmCreateLabel,        "widgetedit_widget_frame"},
-    {"widgetedit_widget_form",          create_form,          "widgetedit_widget_frame"},
+    {"widgetedit_widget_form",          create_form,          "widgetedit_widget_frame", {}, WIDGET_FORM},
     {"widgetedit_class_form",           create_form,          "widgetedit_widget_form"},
     {"widgetedit_include_filename",     XmCreateTextField,    "widgetedit_class_form", {}, INCLUDE_FILENAME},
     {"widgetedit_include_filename_l",   XmCreateLabel,        "widgetedit_class_form"},
@@ -145,7 +156,7 @@ const WidgetRow rows[] = {
     {"we_resource_search",         XmCreateTextField,    "search_row",                 {}, RESOURCE_SEARCH},
     {"we_resource_search_l",       XmCreateLabel,        "search_row"},
     {"we_resource_list",           XmCreateScrolledList, "widgetedit_resource_form",   on_select(we_select_cb), RESOURCE_LIST},
-    {"widgetedit_resource_fields", create_form,          "widgetedit_resource_form"},
+    {"widgetedit_resource_fields", create_form,          "widgetedit_resource_form",   {}, RESOURCE_FIELDS},
     {"we_resource_t",              XmCreateTextField,    "widgetedit_resource_fields", on_change(resource_dirty_cb), RESOURCE},
     {"we_resource_l",              XmCreateLabel,        "widgetedit_resource_fields"},
     {"widgetedit_counter_t",       XmCreateTextField,    "widgetedit_resource_fields", {}, COUNTER},
@@ -175,6 +186,7 @@ const WidgetRow rows[] = {
     {"widgetedit_get_t",           XmCreateToggleButton, "widgetedit_access",          {}, GET_TOGGLE},
     {"widgetedit_access_l",        XmCreateLabel,        "widgetedit_resource_fields"},
     {"we_resource_upd_b",          XmCreatePushButton,   "widgetedit_resource_fields", on_press(we_popup_update_cb), RESOURCE_UPDATE},
+    {"we_resource_not_updated",    create_unapplied_note,        "widgetedit_resource_fields", {}, NOT_UPDATED},
     {"we_resource_del_b",          XmCreatePushButton,   "widgetedit_resource_fields", on_press(we_popup_delete_cb), RESOURCE_DELETE},
 };
 
@@ -290,6 +302,7 @@ bool has_current_widget() { return widgetlist_getcurrent() != nullptr; }
 
 void show_free_mode(Slot menu, FreeMode mode) {
   const int button = menu + 1 + static_cast<int>(mode);
+  const ShowingField showing(at(menu));
   XtVaSetValues(at(menu), XmNmenuHistory, widgetedit_dialog[button], nullptr);
 }
 
@@ -361,13 +374,16 @@ void store_resource(ResourceDef& resource) {
 /// Adds the resource that the fields name, or rewrites it.
 void update_resource(WidgetDef& widget) {
   const std::string name = gettextf(at(RESOURCE));
-  if (name.empty()) return;
+  if (name.empty()) return say("no_name");
+  const std::string part = part_name(Part::resource, Name(name));
+  say_unless_changed("nothing_changed", {part.c_str()});
   dirty = true;
   if (!resource_ptr(&widget, name)) {
-    if (with_memory(we_resource_add(name, &widget)) != 0) return;
+    if (with_memory(we_resource_add(name, &widget)) != 0) return say("not_added", {part.c_str()});
     list_insert(at(RESOURCE_LIST), name, resource_index(&widget, name) + 1);
   }
   store_resource(*resource_ptr(&widget, name));
+  note_applied(at(RESOURCE));
   resource_changed = false;
 }
 
@@ -426,7 +442,7 @@ void show_widget(const WidgetDef* widget) {
 }  // namespace
 
 Widget* create_widgetedit_dialog(Widget parent) {
-  Widget* record = build_dialog(parent, rows, SLOTS, links);
+  Widget* record = build_dialog(parent, {part(frame_rows), status_line("widgetedit_form"), part(rows, links)}, SLOTS);
   if (!record) return nullptr;
   for (const auto& [button, mode] : free_mode_buttons) {
     XtVaSetValues(record[button], XmNuserData, static_cast<XtArgVal>(mode), nullptr);
@@ -434,6 +450,8 @@ Widget* create_widgetedit_dialog(Widget parent) {
   complete_fields(record);
   search_in(
       record[RESOURCE_SEARCH], [] { return list_names(at(RESOURCE_LIST)); }, go_to_resource);
+  watch_fields({record[WIDGET_FORM]}, record[NOT_APPLIED]);
+  watch_fields({record[RESOURCE_FIELDS]}, record[NOT_UPDATED]);
   return record;
 }
 
@@ -470,14 +488,19 @@ void widget_do_update(Widget w, XtPointer, XtPointer) {
   WidgetDef* widget = current_widget();
   if (!widget) return;
   const BusyCursor busy(w);
+  say_unless_changed("nothing_changed", {part_name(Part::widget, widget->name).c_str()});
   dirty = true;
   for (const auto& [field, text] : text_fields) gettextf(at(field), &(widget->*text));
   for (const auto& [toggle, flag] : toggles) gettoggle(at(toggle), &(widget->*flag));
+  note_applied(at(REALISE));
 }
 
 void widget_do_undo(Widget w, XtPointer, XtPointer) {
   const BusyCursor busy(w);
   widgetedit_setwidget(widgetlist_getcurrent());
+  if (const WidgetDef* widget = current_widget()) {
+    say("fields_shown_again", {part_name(Part::widget, widget->name).c_str()});
+  }
 }
 
 Widget widgetedit_field(Kw word) {
@@ -513,7 +536,7 @@ void we_popup_delete_cb(Widget w, XtPointer, XtPointer) {
   const BusyCursor busy(w);
   WidgetDef* widget = current_widget();
   const std::string name = gettextf(at(RESOURCE));
-  if (!resource_ptr(widget, name)) return;
+  if (!resource_ptr(widget, name)) return say("not_in_list", {part_name(Part::resource, Name(name)).c_str()});
   list_delete(at(RESOURCE_LIST), name);
   we_resource_delete(widget, name);
   clear_resource();

@@ -19,6 +19,7 @@ const ListPage widgets = {.name = "widgetlist",
                           .apply = widgetlist_do_add,
                           .cancel = widgetlist_do_delete,
                           .select = widgetlist_do_select,
+                          .type = do_type<widgetlist_editor>,
                           .up = widgetlist_do_up,
                           .down = widgetlist_do_down,
                           .quit = entity_do_hide};
@@ -38,7 +39,8 @@ void edit_widget(Name name) {
 
 DialogPart widgetlist_page() { return list_page(widgets); }
 
-ListEditor widgetlist_editor{.dialog = entity_dialog,
+ListEditor widgetlist_editor{.part = Part::widget,
+                             .dialog = entity_dialog,
                              .box_slot = WIDGETLIST_BOX,
                              .names = names_in_family<widget_kind>(),
                              .added = widget_added,

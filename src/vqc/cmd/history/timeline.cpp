@@ -11,10 +11,11 @@ namespace vqc {
 Timeline::Timeline(const Document& document, Surroundings surroundings)
     : moments_{{std::move(surroundings), capture(document, nullptr), document.dirty}} {}
 
-bool Timeline::note(const Document& document, Surroundings surroundings) {
+bool Timeline::note(const Document& document, Surroundings surroundings, Typed left) {
   auto state = capture(document, now().state);
-  const bool is_step = state != now().state;
+  const bool is_step = state != now().state || !left.empty();
   if (is_step) {
+    note_typed(std::move(left));
     moments_.resize(++now_);
     moments_.push_back({{}, std::move(state)});
   }
@@ -29,9 +30,10 @@ void Timeline::saved(const Document& document, const std::optional<std::string>&
   const auto is_other = [&](const Moment& moment) { return moment.path != before; };
   const auto here = moments_.begin() + static_cast<std::ptrdiff_t>(now_);
   const auto end = std::find_if(here, moments_.end(), is_other);
-  for (auto moment = here; moment != end; ++moment) moment->path = path;
-  for (auto moment = here; moment != moments_.begin() && !is_other(*std::prev(moment)); --moment) {
-    std::prev(moment)->path = path;
+  const auto begin = std::find_if(std::reverse_iterator(here), moments_.rend(), is_other).base();
+  for (auto moment = begin; moment != end; ++moment) {
+    moment->path = path;
+    moment->in_file = now().state;
   }
   for (Moment& moment : moments_) moment.dirty = moment.state != now().state;
 }

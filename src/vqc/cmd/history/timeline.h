@@ -5,23 +5,30 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "vqc/cmd/history/state.h"
 
 namespace vqc {
 
-/// What stands beside a document in a session: the file that it belongs to, and what is selected, in words of whoever
-/// keeps the history.
+/// What stands beside a document in a session: the file that it belongs to and what that says, and what is selected, in
+/// words of whoever keeps the history.
 struct Surroundings {
   std::optional<std::string> path = {};
   std::vector<std::string> selection = {};
+  std::shared_ptr<const State> in_file = {};  // null where that is unknown
 };
 
-/// Where a document stands in its history: what it says, what was beside it last, and whether it counts as changed.
+/// What has been typed and is in no record, by the names of fields.
+using Typed = std::vector<std::pair<std::string, std::string>>;
+
+/// Where a document stands in its history: what it says, what was beside it last, whether it counts as changed, and
+/// what was typed when it was left.
 struct Moment : Surroundings {
   std::shared_ptr<const State> state;
   bool dirty = false;
+  Typed typed = {};
 };
 
 /// What has become of a document in a session, one moment for each step, and which of them is now. Going back forgets
@@ -31,12 +38,18 @@ class Timeline {
   /// Begins with what there is.
   Timeline(const Document& document, Surroundings surroundings);
 
-  /// Takes note of what has been done. True when it was a step, which the document now is behind; what was undone
-  /// before can be redone no more then. Other surroundings or a mark of change alone are no step.
-  bool note(const Document& document, Surroundings surroundings);
+  /// Takes note of what has been done, and what has been `left` with it that was typed. True when it was a step, which
+  /// the document now is behind; what was undone before can be redone no more then. Other surroundings or a mark of
+  /// change alone are no step.
+  bool note(const Document& document, Surroundings surroundings, Typed left = {});
+  /// Remembers what is typed now, for who comes back here.
+  void note_typed(Typed typed) { moments_[now_].typed = std::move(typed); }
   /// The document has been saved as it is now: every other moment differs from its file. Those that had the same path
-  /// before get the new one.
+  /// before get the new one, and the file.
   void saved(const Document& document, const std::optional<std::string>& path);
+
+  /// The file of the document says that now; who has just read it knows.
+  void note_file(std::shared_ptr<const State> state) { moments_[now_].in_file = std::move(state); }
 
   bool can_undo() const { return now_ > 0; }
   bool can_redo() const { return now_ + 1 < moments_.size(); }

@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "vqc/cmd/editors/kit/compound.h"
+#include "vqc/cmd/editors/kit/unapplied.h"
 #include "vqc/cmd/editors/kit/undo.h"
 #include "vqc/cmd/editors/kit/widgets.h"
 
@@ -70,6 +71,7 @@ int settext(Widget w, Name text) {
 
 void type_text(Widget w, Name text) {
   const std::string whole(text.view());
+  const ShowingField showing(w);
   set_characters(w, displayable(whole));
   remember(w, {whole, characters_in(w)});
 }
@@ -107,6 +109,7 @@ std::string gettextf(Widget w, Text* field) {
 
 int settoggle(Widget w, bool on) {
   if (!w) return 0;
+  const ShowingField showing(w);
   if (XtIsSubclass(w, xmGadgetClass)) {
     XmToggleButtonGadgetSetState(w, on ? True : False, False);
   } else {

@@ -7,8 +7,39 @@
 #include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
+#include "vqc/cmd/editors/kit/part_names.h"
+#include "vqc/cmd/editors/kit/status_line.h"
+#include "vqc/cmd/editors/kit/widgets.h"
 
 namespace vqc::editors {
+
+namespace {
+
+/// What a button of a box says; empty where there is no such button.
+std::string label_of(const ListEditor& editor, const char* button) {
+  Widget w = XtNameToWidget(editor.box(), const_cast<char*>(button));
+  if (!w || !XtIsManaged(w)) return {};
+  XmString label = nullptr;
+  XtVaGetValues(w, XmNlabelString, &label, nullptr);
+  const std::string text = text_of(label);
+  XmStringFree(label);
+  return text;
+}
+
+/// What the buttons would do with a name.
+std::string hint_on(const ListEditor& editor, Name name) {
+  if (name.view().empty()) return {};
+  const std::string part = part_name(editor.part, name);
+  const std::string ok = label_of(editor, "OK");
+  const std::string add = label_of(editor, "Apply");
+  if (!editor.names.has(name))
+    return filled(text_or_name("hint_add"), {(add.empty() ? ok : add).c_str(), part.c_str()});
+  const std::string remove = label_of(editor, "Cancel");
+  if (!editor.accepted) return filled(text_or_name("hint_delete"), {remove.c_str(), part.c_str()});
+  return filled(text_or_name("hint_accept_delete"), {ok.c_str(), remove.c_str(), part.c_str()});
+}
+
+}  // namespace
 
 Widget ListEditor::list() const { return box() ? XmSelectionBoxGetChild(box(), XmDIALOG_LIST) : nullptr; }
 
@@ -33,13 +64,14 @@ void refill(const ListEditor& editor, bool has_owner) {
 }
 
 void add_name(const ListEditor& editor, Name name) {
-  if (editor.names.has(name) || with_memory(editor.names.add(name)) != 0) return;
+  if (editor.names.has(name)) return say("in_list", {part_name(editor.part, name).c_str()});
+  if (with_memory(editor.names.add(name)) != 0) return say("not_added", {part_name(editor.part, name).c_str()});
   if (editor.added) editor.added(name);
   list_insert(editor.list(), name, editor.names.position(name));
 }
 
 void delete_name(const ListEditor& editor, Name name) {
-  if (!editor.names.has(name)) return;
+  if (!editor.names.has(name)) return say("not_in_list", {part_name(editor.part, name).c_str()});
   list_delete(editor.list(), name);
   if (editor.delete_clears_name) editor.clear_name();
   editor.names.remove(name);
@@ -57,7 +89,10 @@ void select_name(const ListEditor& editor, Name name) {
   if (editor.selected) editor.selected(name);
 }
 
-std::string selected_name(const ListEditor& editor) { return list_selected(editor.list()); }
+std::string shown_name(const ListEditor& editor) {
+  const std::string current = editor.names.current ? editor.names.current() : std::string();
+  return current.empty() ? list_selected(editor.list()) : current;
+}
 
 void choose_name(const ListEditor& editor, Name name) {
   if (!editor.box() || !editor.names.has(name)) return;
@@ -69,9 +104,14 @@ void choose_name(const ListEditor& editor, Name name) {
 void with_name(Widget w, XtPointer call, const ListEditor& editor, void (*action)(const ListEditor&, Name)) {
   const auto* box_call = static_cast<XmSelectionBoxCallbackStruct*>(call);
   const std::string name = undistorted(editor.name_field(), text_of(box_call->value));
-  if (name.empty()) return;
+  if (name.empty()) return say("no_name");
   const BusyCursor busy(w);
   action(editor, name);
+}
+
+void hint_on_typed(Widget field, XtPointer call, const ListEditor& editor) {
+  const bool is_of_user = static_cast<XmAnyCallbackStruct*>(call)->event != nullptr;
+  if (is_of_user) hint(hint_on(editor, undistorted(field, characters_in(field))));
 }
 
 void with_clicked_name(Widget list, XtPointer call, const ListEditor& editor, void (*action)(const ListEditor&, Name)) {
@@ -80,12 +120,14 @@ void with_clicked_name(Widget list, XtPointer call, const ListEditor& editor, vo
   const BusyCursor busy(list);
   settextf(editor.name_field(), name);
   action(editor, name);
+  say_unless_changed(hint_on(editor, name));
   mark_text(editor.name_field());
 }
 
 void move_selected(Widget w, const ListEditor& editor, bool down) {
   const BusyCursor busy(w);
-  arrowlist_action(editor.list(), down ? editor.names.move_down : editor.names.move_up, down, false);
+  if (arrowlist_action(editor.list(), down ? editor.names.move_down : editor.names.move_up, down, false)) return;
+  say(list_selected(editor.list()).empty() ? "nothing_selected" : down ? "is_last" : "is_first");
 }
 
 }  // namespace vqc::editors

@@ -11,6 +11,7 @@
 #include "vqc/cmd/editors/kit/arrowlist.h"
 #include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/shown_names.h"
+#include "vqc/cmd/model/part.h"
 
 namespace vqc::editors {
 
@@ -24,7 +25,15 @@ struct NamesOf {
   Move move_down;
   std::vector<std::string> (*names)();
   void (*make_none_current)() = nullptr;  // null where nothing is ever current
+  std::string (*current)() = nullptr;     // likewise; empty for none
 };
+
+/// The name of the element of a kind that is current; empty for none.
+template <auto& kind>
+std::string name_of_current() {
+  const auto* element = kind.current();
+  return element ? std::string(name_of(*element).view()) : std::string();
+}
 
 /// A kind of list that the current family has.
 template <auto& kind>
@@ -45,6 +54,7 @@ NamesOf names_in_family() {
             return names;
           },
       .make_none_current = [] { kind.set_current(nullptr); },
+      .current = name_of_current<kind>,
   };
 }
 
@@ -58,6 +68,7 @@ std::vector<std::string> names_in_pool() {
 
 /// One editor. Null functions are what it does not do.
 struct ListEditor {
+  Part part;        // what the list has
   Widget*& dialog;  // the record that holds the box; null until the dialog exists
   int box_slot;
   NamesOf names;
@@ -87,13 +98,15 @@ void delete_name(const ListEditor& editor, Name name);
 void accept_name(const ListEditor& editor, Name name);
 void select_name(const ListEditor& editor, Name name);
 
-/// The name that is selected in the list; empty for none.
-std::string selected_name(const ListEditor& editor);
+/// The name of what an editor shows: the current element, or what is selected in the list; empty for none.
+std::string shown_name(const ListEditor& editor);
 /// Selects a name of the list, as a click on it does. Nothing for a name that is not there.
 void choose_name(const ListEditor& editor, Name name);
 
 /// Calls `action` with the name that a box's callback brings, if there is one.
 void with_name(Widget w, XtPointer call, const ListEditor& editor, void (*action)(const ListEditor&, Name));
+/// Says what the buttons would do with the name that the user has typed so far.
+void hint_on_typed(Widget field, XtPointer call, const ListEditor& editor);
 /// The same with the name that has been clicked in its list. It stands in the name field then, to be typed over.
 void with_clicked_name(Widget list, XtPointer call, const ListEditor& editor, void (*action)(const ListEditor&, Name));
 void move_selected(Widget w, const ListEditor& editor, bool down);
@@ -115,6 +128,10 @@ void do_accept(Widget w, XtPointer, XtPointer call) {
 template <ListEditor& editor>
 void do_select(Widget w, XtPointer, XtPointer call) {
   with_clicked_name(w, call, editor, select_name);
+}
+template <ListEditor& editor>
+void do_type(Widget w, XtPointer, XtPointer call) {
+  hint_on_typed(w, call, editor);
 }
 template <ListEditor& editor>
 void do_up(Widget w, XtPointer, XtPointer) {

@@ -7,9 +7,11 @@
 #include <Xm/PushB.h>
 #include <Xm/RowColumn.h>
 
+#include <algorithm>
 #include <string>
 
 #include "vqc/cmd/editors/kit/session_hooks.h"
+#include "vqc/cmd/editors/kit/status_line.h"
 
 namespace vqc::editors {
 
@@ -39,10 +41,12 @@ DialogPart list_page(const ListPage& page) {
   // clang-format off
   add({box,          create_editor_box, page.parent, callbacks_of_box(page), page.slot});
   add({"Help",       find_button,       box,         on_press(vqc_do_help, page.topic)});
+  if (page.type) add({"Text", find_child, box, on_change(page.type)});
   add({"*ItemsList", find_child,        box,         on_select(page.select)});
   if (!page.ok)    add({"OK",      unmanage_child, box});
   if (!page.apply) add({"Apply",   unmanage_child, box});
   if (page.form)   add({page.form, create_form,    box});
+  if (page.has_status_line) std::ranges::for_each(status_line(page.form).rows, add);
   if (page.up) {
     add({arrows,                     XmCreateRowColumn,   page.form ? page.form : box});
     add({name_on(page, "uparrow"),   XmCreateArrowButton, arrows, on_press(page.up)});

@@ -23,10 +23,12 @@ struct ListPage {
   XtCallbackProc apply = nullptr;
   XtCallbackProc cancel = nullptr;
   XtCallbackProc select = nullptr;
-  XtCallbackProc up = nullptr;  // null for a list without arrows
+  XtCallbackProc type = nullptr;  // into the name field
+  XtCallbackProc up = nullptr;    // null for a list without arrows
   XtCallbackProc down = nullptr;
   XtCallbackProc quit = nullptr;           // null where no button closes the dialog, or Cancel does
   const char* form = nullptr;              // has the arrows too; null for a list without
+  bool has_status_line = false;            // in the form: nothing else can be added to a box that is a whole window
   std::span<const WidgetRow> rows = {};    // what else there is
   std::span<const WidgetLink> links = {};  // of it
 };

@@ -12,7 +12,7 @@ namespace {
 constexpr const char* part_messages[] = {
     "part_family",   "part_widget",      "part_enumeration",   "part_alias",         "part_converter", "part_popup",
     "part_page",     "part_code_header", "part_family_header", "part_config_header", "part_resource",  "part_entry",
-    "part_families", "part_stop_list",   "part_table_names",   "part_output_names", "part_procedure",
+    "part_families", "part_stop_list",   "part_table_names",   "part_output_names",  "part_procedure",
 };
 
 }  // namespace

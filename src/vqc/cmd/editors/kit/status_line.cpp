@@ -6,7 +6,6 @@
 #include <Xm/List.h>
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -19,9 +18,16 @@ namespace {
 
 std::vector<Widget> said_labels;
 std::vector<Widget> so_labels;
-std::string said;
+std::string shown;
 std::string so;
-bool spoken = false;
+
+/// What is said about an action while it goes on, the weightiest last.
+struct Said {
+  std::string unless_changed;
+  std::string done;
+  std::string above_all;
+};
+Said said;
 
 /// Shows a text in one line.
 void show(Widget label, std::string text) {
@@ -49,19 +55,28 @@ std::string count_in(Widget label) {
   return filled(text_or_name("status_count"), {count});
 }
 
+/// Makes a label as wide as its text, but leaves room for what is said on the left.
+void fit(Widget label) {
+  XtWidgetGeometry preferred{};
+  XtQueryGeometry(label, nullptr, &preferred);
+  Dimension line = 0;
+  XtVaGetValues(XtParent(label), XmNwidth, &line, nullptr);
+  const auto most = static_cast<Dimension>(line * 6 / 10);
+  XtVaSetValues(label, XmNwidth, std::min(preferred.width, most), nullptr);
+}
+
 void show_so_in(Widget label) {
   const std::string count = count_in(label);
   show(label, so.empty() || count.empty() ? so + count : so + "   " + count);
+  fit(label);
 }
 
 void forget(Widget label, XtPointer labels, XtPointer) {
   std::erase(*static_cast<std::vector<Widget>*>(labels), label);
 }
 
-/// A label that keeps its size whatever it shows.
 Widget create_label(Widget parent, char* name, std::vector<Widget>& labels) {
-  Arg fixed[] = {{const_cast<char*>(XmNrecomputeSize), False}};
-  Widget label = XmCreateLabel(parent, name, fixed, XtNumber(fixed));
+  Widget label = XmCreateLabel(parent, name, nullptr, 0);
   XtAddCallback(label, XmNdestroyCallback, forget, &labels);
   labels.push_back(label);
   return label;
@@ -69,7 +84,7 @@ Widget create_label(Widget parent, char* name, std::vector<Widget>& labels) {
 
 Widget create_said(Widget parent, char* name, ArgList, Cardinal) {
   Widget label = create_label(parent, name, said_labels);
-  show(label, said);
+  show(label, shown);
   return label;
 }
 
@@ -94,13 +109,27 @@ void say(const char* message, std::initializer_list<MessageArgument> arguments) 
   say_text(filled(text_or_name(message), arguments));
 }
 
-void say_text(std::string text) {
-  said = std::move(text);
-  spoken = true;
-  for (Widget label : said_labels) show(label, said);
+void say_text(std::string text) { said.done = std::move(text); }
+
+void say_unless_changed(const char* message, std::initializer_list<MessageArgument> arguments) {
+  say_unless_changed(filled(text_or_name(message), arguments));
 }
 
-bool has_spoken() { return std::exchange(spoken, false); }
+void say_unless_changed(std::string text) { said.unless_changed = std::move(text); }
+
+void say_above_all(std::string text) { said.above_all = std::move(text); }
+
+void hint(std::string text) {
+  shown = std::move(text);
+  for (Widget label : said_labels) show(label, shown);
+}
+
+void end_action(std::string done) {
+  Said all = std::exchange(said, {});
+  for (std::string* text : {&all.above_all, &all.done, &done, &all.unless_changed}) {
+    if (!text->empty()) return hint(std::move(*text));
+  }
+}
 
 void show_so(std::string text) {
   so = std::move(text);

@@ -19,11 +19,17 @@ DialogPart status_line(const char* form);
 /// Says what an action has done, or why it has done nothing, in the words of a message. It stands in all windows until
 /// something else is said.
 void say(const char* message, std::initializer_list<MessageArgument> arguments = {});
-/// The same with the text itself; empty clears the lines.
 void say_text(std::string text);
+/// Says that only if nothing else is said about the action, and the document stays as it was.
+void say_unless_changed(const char* message, std::initializer_list<MessageArgument> arguments = {});
+void say_unless_changed(std::string text);
+/// Says, whatever else is said about the action, what the user has to know.
+void say_above_all(std::string text);
+/// Says what could be done next, while no action goes on.
+void hint(std::string text);
 
-/// Whether anything has been said since the last call.
-bool has_spoken();
+/// An action has ended, which has `done` something, or nothing. What has not been said about it is said now.
+void end_action(std::string done);
 
 /// Shows what is so. Each window adds how many things its list has.
 void show_so(std::string text);

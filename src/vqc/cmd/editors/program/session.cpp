@@ -25,6 +25,7 @@
 #include "vqc/cmd/editors/kit/memory.h"
 #include "vqc/cmd/editors/kit/placement.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
+#include "vqc/cmd/editors/outside_changes.h"
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
 #include "vqc/cmd/editors/program/exit.h"
@@ -103,6 +104,7 @@ bool start_session(int argc, char** argv) {
   std::signal(SIGPIPE, SIG_IGN);  // writing to a display that is lost is to end with Xlib's message
   register_converters();
   use_keys(display, file_command_keys());
+  watch_for_outside_changes(display);
   describe_windows(display);
   scroll_by_wheel(display);
   family_dialog = create_family_dialog(display, argv[0], argc, argv);
@@ -118,8 +120,8 @@ bool start_session(int argc, char** argv) {
   XmProcessTraversal(family_dialog[FAMILY_TEXT], XmTRAVERSE_CURRENT);
   guarded([shell] {
     load_first_document(shell);
-    begin_history();
     begin_safety_net(save_file);
+    begin_history();
     offer_recovery();
   });
   return true;

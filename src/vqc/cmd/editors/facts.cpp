@@ -1,0 +1,106 @@
+// Puts together what is so with the document.
+
+#include "vqc/cmd/editors/facts.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "libkel/leafnm.h"
+#include "libkel/message.h"
+#include "vqc/cmd/editors/kit/edited_document.h"
+#include "vqc/cmd/editors/kit/part_names.h"
+#include "vqc/cmd/editors/kit/status_line.h"
+#include "vqc/cmd/history/difference.h"
+
+namespace vqc::editors {
+
+namespace {
+
+struct Problems {
+  int errors = 0;
+  int warnings = 0;
+};
+Problems problems;
+
+/// It belongs to the file of that name: another document has been read whole.
+struct Unread {
+  int from_line = 0;
+  std::optional<std::string> path;
+};
+Unread unread;
+
+std::string unsaved;
+
+std::string name_of_document() { return save_file ? leafnm(save_file_path()) : text_or_name("no_document_name"); }
+
+/// Also where the user could write all the same, being who he is.
+bool is_read_only(const char* path) {
+  constexpr mode_t kWritable = S_IWUSR | S_IWGRP | S_IWOTH;
+  struct stat file {};
+  if (stat(path, &file) != 0) return false;
+  return (file.st_mode & kWritable) == 0 || access(path, W_OK) != 0;
+}
+
+/// What a change of that part is that the mark of change does not tell of.
+std::string unsaved_change(const State& now, const State* in_file) {
+  if (!in_file || in_file == &now) return {};
+  const std::vector<Difference> all = differences(*in_file, now);
+  if (all.empty()) return {};
+  const bool is_order = std::ranges::all_of(all, [](const Difference& each) { return each.verb == Verb::reordered; });
+  if (is_order) return text_or_name("order_not_saved");
+  return filled(text_or_name("part_not_saved"), {part_name(all.front().part, all.front().name).c_str()});
+}
+
+std::string number_of(int count, const char* one, const char* many) {
+  return filled(text_or_name(count == 1 ? one : many), {count});
+}
+
+std::string found_problems() {
+  std::string text;
+  if (problems.errors > 0) text = number_of(problems.errors, "one_error", "many_errors");
+  if (problems.warnings > 0) {
+    if (!text.empty()) text += ", ";
+    text += number_of(problems.warnings, "one_warning", "many_warnings");
+  }
+  return text;
+}
+
+std::vector<std::string> all_facts() {
+  std::string name = name_of_document();
+  if (dirty) name += std::string(" ") + text_or_name("changed_mark");
+  std::vector<std::string> facts{name, unsaved};
+  if (save_file && is_read_only(save_file_path())) facts.emplace_back(text_or_name("read_only"));
+  if (unread.from_line > 0 && unread.path == save_file) {
+    facts.push_back(filled(text_or_name("incomplete"), {unread.from_line}));
+  }
+  facts.push_back(found_problems());
+  std::erase(facts, "");
+  return facts;
+}
+
+void show() {
+  std::string text;
+  for (const std::string& fact : all_facts()) text += text.empty() ? fact : "   " + fact;
+  show_so(text);
+}
+
+}  // namespace
+
+void note_problems(int errors, int warnings) {
+  problems = {errors, warnings};
+  show();
+}
+
+void note_unread_from(const std::optional<std::string>& path, int line) { unread = {line, path}; }
+
+void show_facts(const State& now, const State* in_file) {
+  unsaved = dirty ? std::string() : unsaved_change(now, in_file);
+  show();
+}
+
+}  // namespace vqc::editors
