@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <ctime>
+#include <string>
+#include <string_view>
+#include <vector>
 
 using namespace vqc;
 
@@ -31,14 +33,6 @@ TEST(BestMatches, KeepTheOrderOfEquals) { EXPECT_EQ((Names{"ab", "aa", "ac", "3"
 
 TEST(BestMatches, SayHowManyThereAreBesideThoseGiven) {
   EXPECT_EQ((Names{"a", "abc", "3"}), found("a", {"abc", "a", "ab"}, 2));
-}
-
-TEST(BestMatches, OfTwentyThousandNamesTakeNoTime) {
-  Names names;
-  for (int i = 0; i < 20000; ++i) names.push_back("XmnWidgetOfSomeLength" + std::to_string(i));
-  const std::clock_t before = std::clock();
-  EXPECT_EQ(20000U, best_matches("wi", names, 100).count);
-  EXPECT_GT(0.05, static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC);
 }
 
 }  // namespace

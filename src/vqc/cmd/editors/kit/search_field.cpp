@@ -38,7 +38,7 @@ void search_in(Widget field, std::function<std::vector<std::string>()> names,
                   .while_typing = true});
 }
 
-void search_in(Widget field, std::function<const ListEditor*()> editor) {
+void search_in(Widget field, const std::function<const ListEditor*()>& editor) {
   search_in(
       field, [editor] { return editor() ? list_names(editor()->list()) : std::vector<std::string>(); },
       [editor](const std::string& name) {

@@ -19,7 +19,7 @@ void search_in(Widget field, std::function<std::vector<std::string>()> names,
                std::function<void(const std::string& name)> go_to);
 
 /// Lets it search the list of an editor, which may be another one each time; null for none.
-void search_in(Widget field, std::function<const ListEditor*()> editor);
+void search_in(Widget field, const std::function<const ListEditor*()>& editor);
 
 }  // namespace vqc::editors
 
