@@ -64,6 +64,7 @@ const Dialog dialogs[] = {
     {"error_dialog", [] { error_show("bad_save_file"); }},
     {"versions_dialog", [] { press("family_versionsb"); }},
     {"gen_dialog", [] { press("family_genconfigb"); }, Rank::modal},
+    {"genall_dialog", [] { press("family_genallb"); }, Rank::modal},
     {"resource_warn_dialog", ask_about_resource, Rank::modal},
     {"savechanges_dialog", ask_about_changes, Rank::modal},
     {"recovery_dialog", ask_about_last_session, Rank::modal},

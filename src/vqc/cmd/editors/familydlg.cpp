@@ -14,6 +14,7 @@
 #include "vqc/cmd/editors/aboutdlg.h"
 #include "vqc/cmd/editors/file_commands.h"
 #include "vqc/cmd/editors/gendlg.h"
+#include "vqc/cmd/editors/generate_all.h"
 #include "vqc/cmd/editors/kit/main_shell.h"
 #include "vqc/cmd/editors/kit/search_field.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
@@ -64,6 +65,8 @@ const WidgetRow menu_rows[] = {
     {"family_genconfigb",         XmCreatePushButton,    "family_generate_menu", on_press(gencon_do_popup)},
     {"family_gencodeb",           XmCreatePushButton,    "family_generate_menu", on_press(gencode_do_popup)},
     {"family_genstubs_b",         XmCreatePushButton,    "family_generate_menu", on_press(genstubs_do_popup)},
+    {"family_genall_separator",   XmCreateSeparator,     "family_generate_menu"},
+    {"family_genallb",            XmCreatePushButton,    "family_generate_menu", on_press(genall_do_popup)},
     {"family_generate_cascade",   XmCreateCascadeButton, "family_menubar"},
 
     {"family_help_menu",          XmCreatePulldownMenu,  "family_menubar"},

@@ -141,6 +141,8 @@ void gen_do_all(Widget, XtPointer, XtPointer) { set_toggles(true); }
 
 void gen_do_none(Widget, XtPointer, XtPointer) { set_toggles(false); }
 
+Switches chosen_switches() { return {.comment = vqc_comment_code(), .verbose = vqc_verbose_code()}; }
+
 void gencon_do_popup(Widget w, XtPointer, XtPointer) { gen_popup(w, CONFIG_FILE, "generate_config_title"); }
 
 void gencode_do_popup(Widget w, XtPointer, XtPointer) { gen_popup(w, CODE_FILE, "generate_code_title"); }
@@ -151,9 +153,8 @@ void gen_do_generate(Widget w, XtPointer, XtPointer call) {
   const BusyCursor busy(w);
   const std::string path = chosen_path(w, call);
   hide_dialog(gen_dialog[FSB]);  // first: a message could not be answered behind a modal dialog
-  const Switches switches{.comment = vqc_comment_code(), .verbose = vqc_verbose_code()};
   keep_before(path, Reason::before_generation);
-  generate_file(edited_document, path.c_str(), chosen_families(), pending_kind, switches);
+  generate_file(edited_document, path.c_str(), chosen_families(), pending_kind, chosen_switches());
 }
 
 void gen_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(gen_dialog[FSB]); }

@@ -14,6 +14,9 @@ inline Widget* gen_dialog = nullptr;
 Widget* create_gen_dialog(Widget parent);
 inline void delete_gen_dialog(Widget* record) { delete_dialog(record); }
 
+/// What the user wants written beside what is needed.
+Switches chosen_switches();
+
 void gencon_do_popup(Widget w, XtPointer, XtPointer);
 void gencode_do_popup(Widget w, XtPointer, XtPointer);
 void genstubs_do_popup(Widget w, XtPointer, XtPointer);

@@ -10,8 +10,6 @@
 #include <Xm/Separator.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <cwchar>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -26,6 +24,7 @@
 #include "vqc/cmd/editors/difference_words.h"
 #include "vqc/cmd/editors/file_commands.h"
 #include "vqc/cmd/editors/generated_paths.h"
+#include "vqc/cmd/editors/kit/columns.h"
 #include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/local_time.h"
@@ -166,18 +165,6 @@ std::string size_words(std::uintmax_t size) {
   return filled(text_or_name("versions_kilobytes"), {static_cast<int>((size + kKilobyte / 2) / kKilobyte)});
 }
 
-/// How many columns a text takes where all characters are as wide as one or two others.
-std::size_t columns_of(const std::string& text) {
-  std::wstring wide(text.size(), L'\0');
-  const std::size_t length = std::mbstowcs(wide.data(), text.c_str(), wide.size());
-  if (length == static_cast<std::size_t>(-1)) return text.size();
-  return static_cast<std::size_t>(std::max(wcswidth(wide.data(), length), 0));
-}
-
-std::string blanks(const std::string& text, std::size_t columns) {
-  return std::string(columns - std::min(columns, columns_of(text)), ' ');
-}
-
 std::string reason_words(const char* message) { return displayable(text_or_name(message)); }
 
 /// The columns that the longest of all reasons takes.
@@ -189,10 +176,9 @@ std::size_t reason_columns() {
 
 CompoundString row_of(const Version& version, const std::string& words) {
   constexpr std::size_t kSizeColumns = 12;
-  const std::string reason = reason_words(reason_messages[static_cast<std::size_t>(version.reason)]);
-  const std::string size = size_words(version.size);
-  const std::string row = local_time(version.time) + "  " + reason + blanks(reason, reason_columns()) +
-                          blanks(size, kSizeColumns) + size + "  " + words;
+  const char* reason = reason_messages[static_cast<std::size_t>(version.reason)];
+  const std::string row = local_time(version.time) + "  " + to_the_left(reason_words(reason), reason_columns()) +
+                          to_the_right(size_words(version.size), kSizeColumns) + "  " + words;
   return CompoundString::of_lines(displayable(row).c_str(), "versions_row");
 }
 

@@ -175,6 +175,11 @@ Widget create_form(Widget parent, char* name, ArgList, Cardinal) {
   return XmCreateForm(parent, name, stays_open, XtNumber(stays_open));
 }
 
+Widget create_modal_form(Widget parent, char* name, ArgList, Cardinal) {
+  Arg modal[] = {argument(XmNautoUnmanage, False), argument(XmNdialogStyle, XmDIALOG_FULL_APPLICATION_MODAL)};
+  return XmCreateForm(parent, name, modal, XtNumber(modal));
+}
+
 Widget create_editor_box(Widget parent, char* name, ArgList, Cardinal) {
   Arg stays_open[] = {argument(XmNautoUnmanage, False), argument(XmNmustMatch, False)};
   Widget box = XmCreateSelectionBox(parent, name, stays_open, XtNumber(stays_open));

@@ -78,6 +78,8 @@ Widget find_button(Widget parent, char* name, ArgList, Cardinal);
 Widget unmanage_child(Widget parent, char* name, ArgList, Cardinal);
 /// A form that stays where it is whatever is pressed in it.
 Widget create_form(Widget parent, char* name, ArgList, Cardinal);
+/// The same, and the user has to finish with it first.
+Widget create_modal_form(Widget parent, char* name, ArgList, Cardinal);
 /// A selection box with all of its buttons that stays open whatever is pressed.
 Widget create_editor_box(Widget parent, char* name, ArgList, Cardinal);
 /// A file selection box that stays open until its callbacks close it.
