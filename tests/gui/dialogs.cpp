@@ -59,6 +59,8 @@ const Dialog dialogs[] = {
     {"open_dialog", [] { press("family_openb"); }},
     {"read_dialog", [] { press("family_readb"); }},
     {"save_dialog", [] { press("family_saveasb"); }},
+    {"goto_dialog", [] { press("family_gotob"); }},
+    {"rename_dialog", [] { press("family_renameb"); }},
     {"uses_dialog", [] { press("family_usesb"); }},
     {"about_dialog", [] { press("family_helpaboutb"); }},
     {"error_dialog", [] { error_show("bad_save_file"); }},

@@ -30,7 +30,7 @@ inline const std::vector<Layer>& layers() {
       {"vqc/cmd/generate/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/"}},
       {"vqc/cmd/check/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/"}},
       {"vqc/cmd/history/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/"}},
-      {"vqc/cmd/lookup/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/"}},
+      {"vqc/cmd/lookup/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/check/"}},
       {"vqc/cmd/problems/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/check/", "vqc/cmd/history/"}},
       {"vqc/cmd/table/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/lookup/"}},
       {"vqc/tool/", {"libkel/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/generate/", "vqc/cmd/check/"}},

@@ -5,15 +5,12 @@
 #include <ostream>
 
 #include "support/document.h"
+#include "support/spots.h"
 #include "vqc/cmd/savefile/fields.h"
 
 using namespace vqc;
 
 namespace vqc {
-
-void PrintTo(const Spot& spot, std::ostream* out) {
-  *out << "part " << static_cast<int>(spot.part) << " '" << spot.name << "' of '" << spot.of << "', " << spot.field;
-}
 
 void PrintTo(const UseCounts& counts, std::ostream* out) {
   *out << counts.resources << " resources, " << counts.widgets << " widgets, " << counts.converters << " converters, "
@@ -23,8 +20,6 @@ void PrintTo(const UseCounts& counts, std::ostream* out) {
 }  // namespace vqc
 
 namespace {
-
-using Spots = std::vector<Spot>;
 
 class UsesTest : public DocumentTest {
  protected:

@@ -15,12 +15,14 @@
 #include "vqc/cmd/editors/file_commands.h"
 #include "vqc/cmd/editors/gendlg.h"
 #include "vqc/cmd/editors/generate_all.h"
+#include "vqc/cmd/editors/goto.h"
 #include "vqc/cmd/editors/kit/main_shell.h"
 #include "vqc/cmd/editors/kit/search_field.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/kit/status_line.h"
 #include "vqc/cmd/editors/options.h"
 #include "vqc/cmd/editors/recent_menu.h"
+#include "vqc/cmd/editors/rename.h"
 #include "vqc/cmd/editors/session_history.h"
 #include "vqc/cmd/editors/stop.h"
 #include "vqc/cmd/editors/uses.h"
@@ -53,7 +55,9 @@ const WidgetRow menu_rows[] = {
     {"family_undob",              XmCreatePushButton,    "family_edit_menu",     on_press(undo_do), FAMILY_UNDO},
     {"family_redob",              XmCreatePushButton,    "family_edit_menu",     on_press(redo_do), FAMILY_REDO},
     {"family_edit_separator",     XmCreateSeparator,     "family_edit_menu"},
+    {"family_gotob",              XmCreatePushButton,    "family_edit_menu",     on_press(goto_do_popup)},
     {"family_usesb",              XmCreatePushButton,    "family_edit_menu",     on_press(uses_do_popup)},
+    {"family_renameb",            XmCreatePushButton,    "family_edit_menu",     on_press(rename_do_popup)},
     {"family_stop_b",             XmCreatePushButton,    "family_edit_menu",     on_press(stoplist_do_popup)},
     {"family_edit_cascade",       XmCreateCascadeButton, "family_menubar"},
 

@@ -17,10 +17,10 @@ struct FieldOfWord {
   int slot;  // of the widget in the dialog's record
 };
 
-/// The widget for a word; null where no row has it.
+/// The widget for a word; null where no row has it, and while there is no dialog.
 inline Widget field_of_word(Widget* record, std::span<const FieldOfWord> fields, Kw word) {
   const auto field = std::ranges::find(fields, word, &FieldOfWord::word);
-  return field == fields.end() ? nullptr : record[field->slot];
+  return !record || field == fields.end() ? nullptr : record[field->slot];
 }
 
 }  // namespace vqc::editors

@@ -3,6 +3,7 @@
 
 #include "vqc/cmd/editors/file_commands.h"
 
+#include <X11/keysym.h>
 #include <Xm/DialogS.h>
 #include <Xm/PushB.h>
 
@@ -13,6 +14,7 @@
 #include "vqc/cmd/editors/document_files.h"
 #include "vqc/cmd/editors/facts.h"
 #include "vqc/cmd/editors/familylist.h"
+#include "vqc/cmd/editors/goto.h"
 #include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/file_box.h"
@@ -21,6 +23,7 @@
 #include "vqc/cmd/editors/options.h"
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
+#include "vqc/cmd/editors/rename.h"
 #include "vqc/cmd/editors/safety_net.h"
 #include "vqc/cmd/editors/session_history.h"
 #include "vqc/cmd/editors/stop.h"
@@ -183,9 +186,10 @@ bool load_document() {
 }
 
 std::span<const CommandKey> file_command_keys() {
-  static constexpr CommandKey keys[] = {{'o', open_do_popup}, {'s', save_do_popup}, {'S', saveas_do_popup},
-                                        {'q', do_exit},       {'z', undo_do},       {'Z', redo_do},
-                                        {'y', redo_do},       {'u', uses_do_popup}};
+  static constexpr CommandKey keys[] = {{'o', open_do_popup},    {'s', save_do_popup}, {'S', saveas_do_popup},
+                                        {'q', do_exit},          {'z', undo_do},       {'Z', redo_do},
+                                        {'y', redo_do},          {'k', goto_do_popup}, {'u', uses_do_popup},
+                                        {XK_F2, rename_do_popup}};
   return keys;
 }
 

@@ -18,6 +18,7 @@
 #include "vqc/cmd/editors/headerlists.h"
 #include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/cursor.h"
+#include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/status_line.h"
 #include "vqc/cmd/editors/kit/unapplied.h"
 #include "vqc/cmd/editors/options.h"
@@ -28,6 +29,7 @@
 #include "vqc/cmd/editors/stop.h"
 #include "vqc/cmd/editors/title.h"
 #include "vqc/cmd/editors/uses.h"
+#include "vqc/cmd/editors/widgetedit.h"
 #include "vqc/cmd/editors/widgetlist.h"
 #include "vqc/cmd/history/timeline.h"
 
@@ -108,7 +110,43 @@ void go(Widget w, void (Timeline::*step)(Document&), const char* message, const 
   say(message, {name.c_str()});
 }
 
+/// What the step is called that is being done; empty where that follows from it.
+std::string step_said;
+
+/// Shows the resource again that the widget editor showed, if it still does its widget.
+void choose_resource_again(const std::string& shown, const Spot& thing, const std::string& name) {
+  if (shown.empty()) return;
+  widgetedit_choose_resource(thing.part == Part::resource && shown == thing.name ? name : shown);
+}
+
+/// Lets a picker that is up show the name that it showed.
+void pick_again(const Picker& picker, const std::string& shown, bool is_renamed, const std::string& name) {
+  if (is_up(picker)) picker.show(is_renamed ? name : shown);
+}
+
 }  // namespace
+
+void name_step(std::string name) { step_said = std::move(name); }
+
+void show_renamed(const Spot& thing, const std::string& name) {
+  std::vector<std::string> selection = surroundings().selection;
+  const std::string resource = gettextf(resource_field(Kw::resource_definitions));
+  const std::string page = page_picker.name();
+  const std::string popup = popup_picker.name();
+  const Typed typed = unapplied_fields();
+  refill_windows();
+  std::size_t place = 0;
+  for (const ListEditor* editor : lists) {
+    std::string& selected = selection[place++];
+    if (selected == thing.name && !editor->names.has(selected)) selected = name;
+    choose_name(*editor, selected);
+  }
+  choose_resource_again(resource, thing, name);
+  pick_again(page_picker, page, thing.part == Part::page && page == thing.name, name);
+  pick_again(popup_picker, popup, thing.part == Part::popup && popup == thing.name, name);
+  take_left_fields();
+  put_back(typed);
+}
 
 void begin_history() {
   timeline.emplace(edited_document, surroundings());
@@ -125,6 +163,7 @@ void note_action() {
   mark_unapplied();
   if (std::exchange(just_loaded, false)) timeline->note_file(in_file = timeline->now().state);
   if (is_step) {
+    timeline->name_step(std::exchange(step_said, {}));
     keep_state(timeline->now().state, save_file);
     show_steps();
     refresh_uses();
@@ -138,6 +177,8 @@ void note_saving() {
   timeline->saved(edited_document, save_file);
   in_file = timeline->now().state;
 }
+
+std::shared_ptr<const State> document_state() { return timeline ? timeline->now().state : nullptr; }
 
 void undo_do(Widget w, XtPointer, XtPointer) {
   if (!timeline || !timeline->can_undo()) return say("nothing_to_undo");

@@ -51,7 +51,9 @@ std::string name_in(const Words& words, const Moment& before, const Moment& afte
 
 }  // namespace
 
-std::string step_name(const Moment& before, const Moment& after) { return name_in(to_do, before, after); }
+std::string step_name(const Moment& before, const Moment& after) {
+  return after.step.empty() ? name_in(to_do, before, after) : after.step;
+}
 
 std::string done_name(const Moment& before, const Moment& after) { return name_in(done, before, after); }
 

@@ -21,6 +21,7 @@
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/kit/status_line.h"
+#include "vqc/cmd/editors/kit/widgets.h"
 #include "vqc/cmd/editors/show_spot.h"
 #include "vqc/cmd/editors/spot_list.h"
 
@@ -129,6 +130,7 @@ Widget* create_uses_dialog(Widget parent) {
 }
 
 void uses_do_popup(Widget w, XtPointer, XtPointer) {
+  if (uses_dialog && shell_around(w) == at(SHELL)) return;  // in which nothing else can be chosen
   const BusyCursor busy(w);
   const std::optional<Spot> chosen = chosen_spot(w);
   if (!ensure_dialog(uses_dialog, create_uses_dialog)) return;

@@ -29,6 +29,7 @@ struct Moment : Surroundings {
   std::shared_ptr<const State> state;
   bool dirty = false;
   Typed typed = {};
+  std::string step = {};  // what the step that led here is called, where that does not follow from what has changed
 };
 
 /// What has become of a document in a session, one moment for each step, and which of them is now. Going back forgets
@@ -44,6 +45,8 @@ class Timeline {
   bool note(const Document& document, Surroundings surroundings, Typed left = {});
   /// Remembers what is typed now, for who comes back here.
   void note_typed(Typed typed) { moments_[now_].typed = std::move(typed); }
+  /// Says what the step that led here is called.
+  void name_step(std::string name) { moments_[now_].step = std::move(name); }
   /// The document has been saved as it is now: every other moment differs from its file. Those that had the same path
   /// before get the new one, and the file.
   void saved(const Document& document, const std::optional<std::string>& path);

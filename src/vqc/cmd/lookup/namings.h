@@ -18,6 +18,12 @@ struct Naming {
   Kw field;
 };
 
+/// Whether that thing is named. Resources of one name are in many widgets; all other names are the document's.
+inline bool names(const Naming& naming, const Spot& thing) {
+  const bool is_meant = thing.part != Part::resource || naming.of.view() == thing.of;
+  return naming.part == thing.part && is_meant && naming.name.view() == thing.name;
+}
+
 /// Whether a value is the name of a procedure.
 constexpr bool is_procedure(ValueKind kind) { return kind >= ValueKind::name_procedure; }
 

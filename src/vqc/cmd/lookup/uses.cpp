@@ -10,16 +10,11 @@ namespace vqc {
 
 namespace {
 
-/// Resources of one name are in many widgets; all other names are the document's.
-bool is_meant_in(const Naming& naming, const Spot& thing) {
-  return thing.part != Part::resource || naming.of.view() == thing.of;
-}
-
 /// Visits what names a thing.
 template <class Visit>
 void each_use(const Document& document, const Spot& thing, Visit visit) {
   each_naming(document, [&](const Naming& naming, const Text*) {
-    if (naming.part == thing.part && naming.name.view() == thing.name && is_meant_in(naming, thing)) visit(naming);
+    if (names(naming, thing)) visit(naming);
   });
 }
 

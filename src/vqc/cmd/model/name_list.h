@@ -112,6 +112,17 @@ class NameList {
     if (size_ == 0) rearranged_ = false;
   }
 
+  /// An element of this list, which was settled, has got another name: a sorted list puts it where that belongs, in
+  /// others it stays. Needs no memory.
+  void renamed(Element* element) {
+    index_.reset();
+    if (order == Order::appended || size_ == 1) return;
+    join(element->previous, element->next);
+    unsettled_after_ = tail_;
+    join(tail_, element);
+    join(element, nullptr);
+  }
+
   /// Swaps an element with the one after it; the last element stays.
   void move_down(Element* element) {
     settle();
