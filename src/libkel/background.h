@@ -8,6 +8,7 @@
 #include <mutex>
 #include <optional>
 #include <stop_token>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -36,7 +37,7 @@ class Background {
       outdated_.request_stop();
     }
     changed_.notify_one();
-    if (!thread_.joinable()) thread_ = std::jthread([this](const std::stop_token& stop) { serve(stop); });
+    if (!thread_.joinable()) begin();
   }
 
   /// Ends the work before the destructor does.
@@ -51,6 +52,11 @@ class Background {
   }
 
  private:
+  void begin() try {
+    thread_ = std::jthread([this](const std::stop_token& stop) { serve(stop); });
+  } catch (const std::system_error&) {  // NOLINT(bugprone-empty-catch): the next task tries again
+  }
+
   /// Signals are for the thread that serves the user.
   static void take_no_signals() {
     sigset_t all;

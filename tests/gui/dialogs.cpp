@@ -62,6 +62,7 @@ const Dialog dialogs[] = {
     {"goto_dialog", [] { press("family_gotob"); }},
     {"rename_dialog", [] { press("family_renameb"); }},
     {"uses_dialog", [] { press("family_usesb"); }},
+    {"problems_dialog", [] { press("family_problemsb"); }},
     {"about_dialog", [] { press("family_helpaboutb"); }},
     {"error_dialog", [] { error_show("bad_save_file"); }},
     {"versions_dialog", [] { press("family_versionsb"); }},

@@ -17,7 +17,7 @@ const char dial[] =
     "VQconfig\n"
     "widget 'Dial' { realise='make_dial' resource_definitions='value', , , True; }\n"
     "widget 'Knob' { }\n"
-    "enumeration 'Mode' { enumentry 'fast'{ } enumentry 'slow'{ } }\n"
+    "enumeration 'Mode' { enumentry 'fast'{ code_symbol='FAST' } enumentry 'slow'{ code_symbol='SLOW' } }\n"
     "family 'Athena' { widget='Dial' widget='Knob' enumeration='Mode' page='settings' }\n"
     "family 'Demo' { widget='Dial' }\n";
 

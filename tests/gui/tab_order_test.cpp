@@ -162,6 +162,11 @@ TEST_F(TabOrder, OfThePagesAndPopups) {
   expect_reading_order_in("popupedit_dialog", 8);
 }
 
+TEST_F(TabOrder, OfTheProblems) {
+  press("family_problemsb");
+  expect_reading_order_in("problems_dialog", 6);
+}
+
 TEST_F(TabOrder, OfTheQuestions) {
   open_widget_editor();
   enter("we_resource_t", "r");

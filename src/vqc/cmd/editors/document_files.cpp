@@ -6,6 +6,7 @@
 
 #include "libkel/leafnm.h"
 #include "libkel/message.h"
+#include "vqc/cmd/editors/document_check.h"
 #include "vqc/cmd/editors/facts.h"
 #include "vqc/cmd/editors/kit/edited_document.h"
 #include "vqc/cmd/editors/kit/status_line.h"
@@ -61,6 +62,7 @@ int parseit(std::optional<std::string>& path, int fresh) {
   show_errors(result, findings);
   const int unread_from = result.first_error ? result.first_error->line : 0;
   if (fresh) note_fresh(*path, unread_from);
+  if (fresh) note_unread(*path, unread_from > 0 ? source : nullptr);
   if (result.has_header) {
     say_what_was_read(*path, fresh != 0, unread_from);
     return 1;
@@ -80,6 +82,7 @@ bool write_save_file(const char* path) {
   closefile(*out);
   dirty = false;
   note_file_known(path);
+  note_unread(path, nullptr);
   say(is_foreign ? "kept_outside" : "saved_as", {leafnm(path)});
   return true;
 }

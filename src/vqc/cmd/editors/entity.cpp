@@ -49,6 +49,7 @@ const WidgetRow frame_rows[] = {
     {"entity_opt_widgets_t",        XmCreateToggleButton,  "view_pulldown", {}, ENTITY_VIEW_WIDGETS},
     {"entity_view_separator",       XmCreateSeparator,     "view_pulldown"},
     {"entity_usesb",                XmCreatePushButton,    "view_pulldown", on_press(entity_do_uses)},
+    {"entity_problemsb",            XmCreatePushButton,    "view_pulldown", on_press(entity_do_problems)},
     {"entity_viewb",                XmCreateCascadeButton, "entity_menubar"},
 };
 
@@ -176,6 +177,10 @@ void entity_do_show_page(Widget toggle, XtPointer page, XtPointer call) {
 
 void entity_do_uses(Widget item, XtPointer, XtPointer) {
   if (session_hooks.uses) session_hooks.uses(item);
+}
+
+void entity_do_problems(Widget item, XtPointer, XtPointer) {
+  if (session_hooks.problems) session_hooks.problems(item);
 }
 
 int entity_setfamily(Family* family) {

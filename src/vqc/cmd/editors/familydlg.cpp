@@ -21,6 +21,7 @@
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/kit/status_line.h"
 #include "vqc/cmd/editors/options.h"
+#include "vqc/cmd/editors/problems.h"
 #include "vqc/cmd/editors/recent_menu.h"
 #include "vqc/cmd/editors/rename.h"
 #include "vqc/cmd/editors/session_history.h"
@@ -58,6 +59,7 @@ const WidgetRow menu_rows[] = {
     {"family_gotob",              XmCreatePushButton,    "family_edit_menu",     on_press(goto_do_popup)},
     {"family_usesb",              XmCreatePushButton,    "family_edit_menu",     on_press(uses_do_popup)},
     {"family_renameb",            XmCreatePushButton,    "family_edit_menu",     on_press(rename_do_popup)},
+    {"family_problemsb",          XmCreatePushButton,    "family_edit_menu",     on_press(problems_do_popup)},
     {"family_stop_b",             XmCreatePushButton,    "family_edit_menu",     on_press(stoplist_do_popup)},
     {"family_edit_cascade",       XmCreateCascadeButton, "family_menubar"},
 

@@ -11,6 +11,7 @@
 #include "libkel/message.h"
 #include "vqc/cmd/editors/aliaslist.h"
 #include "vqc/cmd/editors/convlist.h"
+#include "vqc/cmd/editors/document_check.h"
 #include "vqc/cmd/editors/enumedit.h"
 #include "vqc/cmd/editors/enumlist.h"
 #include "vqc/cmd/editors/facts.h"
@@ -73,10 +74,16 @@ void select_again(const std::vector<std::string>& selection) {
   for (const ListEditor* editor : lists) choose_name(*editor, *name++);
 }
 
+/// To those who go on with it while the user does.
+void hand_on_state() {
+  keep_state(timeline->now().state, save_file);
+  check_document(timeline->now().state, save_file);
+}
+
 void show_now() {
   save_file = timeline->now().path;
   in_file = timeline->now().in_file;
-  keep_state(timeline->now().state, save_file);
+  hand_on_state();
   vqc_set_title(save_file_path());
   refill_windows();
   select_again(timeline->now().selection);
@@ -152,6 +159,7 @@ void begin_history() {
   timeline.emplace(edited_document, surroundings());
   note_loading();
   note_action();
+  check_document(timeline->now().state, save_file);
   show_steps();
 }
 
@@ -164,7 +172,7 @@ void note_action() {
   if (std::exchange(just_loaded, false)) timeline->note_file(in_file = timeline->now().state);
   if (is_step) {
     timeline->name_step(std::exchange(step_said, {}));
-    keep_state(timeline->now().state, save_file);
+    hand_on_state();
     show_steps();
     refresh_uses();
   }
@@ -176,6 +184,7 @@ void note_saving() {
   if (!timeline) return;
   timeline->saved(edited_document, save_file);
   in_file = timeline->now().state;
+  check_document(timeline->now().state, save_file);
 }
 
 std::shared_ptr<const State> document_state() { return timeline ? timeline->now().state : nullptr; }

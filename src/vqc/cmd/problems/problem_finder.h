@@ -13,13 +13,12 @@ namespace vqc {
 /// Finds the problems of a document while it is edited, in a thread of its own that lets others go first.
 class ProblemFinder {
  public:
-  /// Throws std::system_error where there is no pipe.
   ProblemFinder();
 
   /// Has the document looked at as it is now. What was being done for an earlier one is given up.
   void take(DocumentToCheck document) { background_.take(std::move(document)); }
 
-  /// Can be read from when something has been found, until found() is called.
+  /// Can be read from when something has been found, until found() is called. Negative where there can be no pipe.
   int descriptor() const { return out_.get(); }
   /// What has been found since the last call; null for nothing.
   std::shared_ptr<const Problems> found();

@@ -15,6 +15,7 @@ struct SessionHooks {
   void (*end)(int status) = nullptr;                    // ends the session
   void (*help)(Widget w, const char* topic) = nullptr;  // shows a page of help
   void (*uses)(Widget w) = nullptr;                     // shows who uses what is chosen in a window
+  void (*problems)(Widget w) = nullptr;                 // shows what is wrong with the document
 };
 inline SessionHooks session_hooks;
 

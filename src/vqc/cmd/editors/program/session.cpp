@@ -28,6 +28,7 @@
 #include "vqc/cmd/editors/outside_changes.h"
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
+#include "vqc/cmd/editors/problems.h"
 #include "vqc/cmd/editors/program/exit.h"
 #include "vqc/cmd/editors/program/help.h"
 #include "vqc/cmd/editors/program/resources.h"
@@ -48,6 +49,7 @@ namespace {
 XtAppContext context = nullptr;
 
 void show_uses_of(Widget w) { uses_do_popup(w, nullptr, nullptr); }
+void show_problems_from(Widget w) { problems_do_popup(w, nullptr, nullptr); }
 
 /// What follows whatever the user does.
 void note_and_refresh() {
@@ -65,7 +67,11 @@ void install_hooks() {
   converter_kind.on_current = current_converter_changed;
   page_pool.on_current = current_page_changed;
   popup_pool.on_current = current_popup_changed;
-  session_hooks = {.acted = note_and_refresh, .end = ExitVQConfig, .help = show_help, .uses = show_uses_of};
+  session_hooks = {.acted = note_and_refresh,
+                   .end = ExitVQConfig,
+                   .help = show_help,
+                   .uses = show_uses_of,
+                   .problems = show_problems_from};
 }
 
 void register_converters() {
