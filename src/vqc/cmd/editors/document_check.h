@@ -16,9 +16,9 @@ namespace vqc::editors {
 /// The document says that now, and belongs to the file of that path.
 void check_document(std::shared_ptr<const State> state, const std::optional<std::string>& path);
 
-/// A document has been read from the file of that path, or written to it. `unread` is what the file holds if it has not
-/// been read whole, else null.
-void note_unread(const std::string& path, std::shared_ptr<const Source> unread);
+/// A document has been read from the file of that path, or written to it. `file` is what that holds if it has not been
+/// read whole, else null.
+void note_unread(const std::string& path, std::shared_ptr<const Source> file);
 
 /// What has been found last.
 const std::shared_ptr<const Problems>& problems_found();

@@ -95,7 +95,7 @@ std::string counts_of(const Problems& problems) {
 }
 
 std::string summary_of(const Problems& problems) {
-  const std::string counts = counts_of(problems);
+  std::string counts = counts_of(problems);
   if (counts.empty()) return text_or_name("problems_none");
   if (problems.first.size() < Problems::kMost) return counts;
   return filled(text_or_name("problems_many"), {counts.c_str(), static_cast<int>(Problems::kMost)});
