@@ -5,7 +5,9 @@
 #include "gui/hands.h"
 #include "gui/looks.h"
 #include "gui/session.h"
+#include "libkel/sink.h"
 #include "vqc/cmd/editors/kit/given_names.h"
+#include "vqc/cmd/savefile/save.h"
 
 using namespace vqc;
 
@@ -14,6 +16,17 @@ using namespace vqc;
 namespace {
 
 constexpr int kSteps = 2500;
+constexpr int kUndoneSteps = 600;
+
+/// Whether all of some texts are among others, in their order.
+bool has_in_order(const std::vector<std::string>& all, const std::vector<std::string>& some) {
+  auto place = all.begin();
+  for (const std::string& text : some) {
+    place = std::find(place, all.end(), text);
+    if (place == all.end()) return false;
+  }
+  return true;
+}
 
 /// A list of all pages or popups. What has been removed from a family is missing, and what has been moved has another
 /// place, until the list is opened again.
@@ -84,6 +97,14 @@ class RandomWalk : public Session {
       default:
         return do_with_files();
     }
+  }
+
+  /// Goes back by a step or on again, after which all lists show the whole of what they are about.
+  void undo_step(const std::string& button) {
+    press(button);
+    pages_.open();
+    popups_.open();
+    expect_lists_show_the_model();
   }
 
   void expect_lists_show_the_model() const {
@@ -243,6 +264,31 @@ class RandomWalk : public Session {
   Picker pages_{"pageedit_selection"};
   Picker popups_{"popupedit_selection"};
 };
+
+/// What Save would write.
+std::string document() {
+  StringSink text;
+  save(edited_document, text);
+  text.finish();
+  return text.text();
+}
+
+TEST_F(RandomWalk, UndoneToItsStartAndRedoneToItsEndItHasTheSameBytesAtEveryStep) {
+  start({"-xrm", "VQconfig*generateOptions: True"});
+  std::vector<std::string> seen{document()};
+  for (int step = 0; step < kUndoneSteps; ++step) {
+    act();
+    if (seen.back() != document()) seen.push_back(document());
+  }
+  std::vector<std::string> undone{document()};
+  for (; is_sensitive("family_undob"); undone.push_back(document())) undo_step("family_undob");
+  std::ranges::reverse(undone);
+  ASSERT_LT(seen.size(), undone.size() + 1);
+  EXPECT_TRUE(has_in_order(undone, seen));
+  std::vector<std::string> redone{document()};
+  for (; is_sensitive("family_redob"); redone.push_back(document())) undo_step("family_redob");
+  EXPECT_TRUE(undone == redone);
+}
 
 TEST_F(RandomWalk, TheListsAlwaysShowTheModel) {
   start({"-xrm", "VQconfig*generateOptions: True"});

@@ -1,6 +1,8 @@
+#include <algorithm>
 #include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <thread>
 #include <vector>
 
@@ -164,6 +166,49 @@ TEST_F(SafetyNet, AKilledProgramLosesAtMostTheLastAction) {
   ASSERT_EQ(1U, left.size());
   EXPECT_EQ(path, left.front().document);
   EXPECT_NE(std::string::npos, left.front().text.find("family 'motif'"));
+}
+
+/// How many of the families that were added are in a state that was left; -1 when others are, or in another order.
+int families_in(const std::string& text, int added) {
+  Document document;
+  Diagnostics findings;
+  load_whole(Source::from_text(text), document, findings);
+  int count = 0;
+  for (const Family& family : document.families) {
+    if (family.name.view() != std::string(1, static_cast<char>('a' + count))) return -1;
+    ++count;
+  }
+  return count <= added ? count : -1;
+}
+
+TEST_F(SafetyNet, AKillAtAnyMomentLosesNoMoreThanWhatWasDoneLast) {
+  using Clock = std::chrono::steady_clock;
+  const std::string path = folder.with("document.vqc", "VQconfig\n");
+  std::mt19937 random{20261122};
+  for (int round = 0; round < 10; ++round) {
+    OtherDisplay display;
+    std::vector<Clock::time_point> actions;
+    Clock::time_point killed;
+    {
+      RunningProgram program({path}, display.name());
+      ASSERT_NE(Window{0}, display.wait_for_window("vqconfig: document.vqc"));
+      display.focus("vqconfig: document.vqc");
+      const auto end = Clock::now() + std::chrono::milliseconds(500 + random() % 5500);
+      while (Clock::now() < end) {
+        display.key("a", true);
+        display.type(std::string(1, static_cast<char>('a' + actions.size())));
+        display.key("Return");
+        actions.push_back(Clock::now());
+        std::this_thread::sleep_for(std::chrono::milliseconds(250));
+      }
+      killed = Clock::now();
+    }
+    const auto is_kept = [&](Clock::time_point time) { return killed - time > std::chrono::milliseconds(2500); };
+    const auto left = Journal::abandoned(journals_folder());
+    const int found = left.empty() ? 0 : families_in(left.front().text, static_cast<int>(actions.size()));
+    EXPECT_GE(found, static_cast<int>(std::ranges::count_if(actions, is_kept))) << "round " << round;
+    for (const AbandonedJournal& journal : left) journal.remove();
+  }
 }
 
 }  // namespace

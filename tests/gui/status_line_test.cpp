@@ -1,5 +1,6 @@
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <chrono>
 #include <filesystem>
 #include <fstream>
@@ -142,7 +143,27 @@ TEST_F(StatusLine, HeadersAreAddedByTheOnlyButtonThatDoes) {
   EXPECT_EQ("Add: code header one.h (new)", said("entity_form"));
   key("Return");
   click_item("codeheaderlist_selection", "one.h");
-  EXPECT_EQ("Delete: code header one.h", said("entity_form"));
+  EXPECT_EQ("Delete: code header one.h, used by 1 family", said("entity_form"));
+}
+
+TEST_F(StatusLine, SaysWhoUsesWhatIsAboutToBeDeleted) {
+  start_on_dial();
+  edit_family("Athena");
+  click_item("widgetlist_selection", "Dial");
+  EXPECT_EQ("Edit, Delete: widget Dial, used by 2 families", said("entity_form"));
+}
+
+TEST_F(StatusLine, SaysHowManyLinesAGenerationHasWritten) {
+  start_on_dial();
+  const std::string path = folder.with("stubs.c", "one\ntwo\n");
+  press("family_genstubs_b");
+  choose_file("gen_fsb", path);
+  const std::string text = read_file(path);
+  const std::string lines = std::to_string(std::ranges::count(text, '\n'));
+  EXPECT_EQ("Wrote stubs.c: " + lines + " lines, " + lines + " changed", said());
+  press("family_genstubs_b");
+  choose_file("gen_fsb", path);
+  EXPECT_EQ("Wrote stubs.c: " + lines + " lines, 0 changed", said());
 }
 
 TEST_F(StatusLine, ShowsTheDocumentItsMarkAndTheNumberOfThings) {

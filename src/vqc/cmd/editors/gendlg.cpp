@@ -16,13 +16,17 @@
 #include <string>
 #include <vector>
 
+#include "libkel/leafnm.h"
+#include "libkel/source.h"
 #include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/cursor.h"
+#include "vqc/cmd/editors/kit/diff_text.h"
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/file_box.h"
 #include "vqc/cmd/editors/kit/given_names.h"
 #include "vqc/cmd/editors/kit/given_options.h"
 #include "vqc/cmd/editors/kit/search_field.h"
+#include "vqc/cmd/editors/kit/status_line.h"
 #include "vqc/cmd/editors/safety_net.h"
 
 namespace vqc::editors {
@@ -127,6 +131,18 @@ void gen_popup(Widget w, FileKind kind, const char* title) {
   show_file_box(box, save_file_path(), offered);
 }
 
+/// Comparing takes its time: of larger files only the lines are counted.
+constexpr std::size_t kMostCompared = 1'000'000;
+
+void say_what_was_written(const std::string& path, const Source* before) {
+  const auto after = Source::read(path.c_str());
+  if (!after) return;
+  const char* name = leafnm(path.c_str());
+  const auto lines = static_cast<int>(std::ranges::count(after->text(), '\n'));
+  if (!before || before->text().size() + after->text().size() > kMostCompared) return say("wrote", {name, lines});
+  say("wrote_changed", {name, lines, count_lines(changed_lines(before->text(), after->text()), Tint::added)});
+}
+
 }  // namespace
 
 Widget* create_gen_dialog(Widget parent) {
@@ -154,7 +170,9 @@ void gen_do_generate(Widget w, XtPointer, XtPointer call) {
   const std::string path = chosen_path(w, call);
   hide_dialog(gen_dialog[FSB]);  // first: a message could not be answered behind a modal dialog
   keep_before(path, Reason::before_generation);
-  generate_file(edited_document, path.c_str(), chosen_families(), pending_kind, chosen_switches());
+  const auto before = Source::read(path.c_str());
+  if (!generate_file(edited_document, path.c_str(), chosen_families(), pending_kind, chosen_switches())) return;
+  say_what_was_written(path, before.get());
 }
 
 void gen_do_hide(Widget, XtPointer, XtPointer) { hide_dialog(gen_dialog[FSB]); }

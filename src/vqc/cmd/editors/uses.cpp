@@ -129,6 +129,10 @@ Widget* create_uses_dialog(Widget parent) {
   return build_dialog(parent, {part(frame_rows), status_line("uses_form"), part(rows, links)}, SLOTS);
 }
 
+std::string users_in_words(Part part, Text name) {
+  return counts_name(count_uses(edited_document, {part, std::string(name.view())}));
+}
+
 void uses_do_popup(Widget w, XtPointer, XtPointer) {
   if (uses_dialog && shell_around(w) == at(SHELL)) return;  // in which nothing else can be chosen
   const BusyCursor busy(w);

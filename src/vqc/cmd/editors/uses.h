@@ -3,7 +3,11 @@
 
 // The window that lists who uses something.
 
+#include <string>
+
+#include "libkel/text.h"
 #include "vqc/cmd/editors/kit/dialog.h"
+#include "vqc/cmd/model/part.h"
 
 namespace vqc::editors {
 
@@ -12,6 +16,9 @@ inline Widget* uses_dialog = nullptr;
 
 Widget* create_uses_dialog(Widget parent);
 inline void delete_uses_dialog(Widget* record) { delete_dialog(record); }
+
+/// Who uses a thing, such as "42 resources, 1 family"; empty for nobody.
+std::string users_in_words(Part part, Text name);
 
 /// Shows who uses what has been chosen in the window of `w`.
 void uses_do_popup(Widget w, XtPointer, XtPointer);

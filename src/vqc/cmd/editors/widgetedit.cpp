@@ -19,6 +19,7 @@
 
 #include "vqc/cmd/editors/completion.h"
 #include "vqc/cmd/editors/field_words.h"
+#include "vqc/cmd/editors/kit/compound.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/given_names.h"
@@ -399,6 +400,9 @@ void select_resource(Name name) {
     ask_about_resource(Pending::show_resource);
   } else {
     show_resource(name);
+    say_unless_changed("hint_accept_delete",
+                       {label_text(at(RESOURCE_UPDATE)).c_str(), label_text(at(RESOURCE_DELETE)).c_str(),
+                        part_name(Part::resource, Name(name)).c_str()});
   }
 }
 

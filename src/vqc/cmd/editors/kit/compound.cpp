@@ -37,6 +37,14 @@ std::string text_of(XmString string) {
   return plain ? plain.get() : "";
 }
 
+std::string label_text(Widget w) {
+  XmString label = nullptr;
+  XtVaGetValues(w, XmNlabelString, &label, nullptr);
+  const std::string text = text_of(label);
+  XmStringFree(label);
+  return text;
+}
+
 std::string displayable(const std::string& whole) {
   std::string_view text = whole;
   std::string result;

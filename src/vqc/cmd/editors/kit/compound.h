@@ -43,6 +43,9 @@ class CompoundString {
 /// The plain text of a compound string, lines and all; empty when there is none.
 std::string text_of(XmString string);
 
+/// What a label or button says.
+std::string label_text(Widget w);
+
 /// The text with a question mark for each byte that is no character of the locale.
 std::string displayable(const std::string& whole);
 

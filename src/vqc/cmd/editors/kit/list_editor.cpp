@@ -8,6 +8,7 @@
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/part_names.h"
+#include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/kit/status_line.h"
 #include "vqc/cmd/editors/kit/widgets.h"
 
@@ -18,18 +19,13 @@ namespace {
 /// What a button of a box says; empty where there is no such button.
 std::string label_of(const ListEditor& editor, const char* button) {
   Widget w = XtNameToWidget(editor.box(), const_cast<char*>(button));
-  if (!w || !XtIsManaged(w)) return {};
-  XmString label = nullptr;
-  XtVaGetValues(w, XmNlabelString, &label, nullptr);
-  const std::string text = text_of(label);
-  XmStringFree(label);
-  return text;
+  return w && XtIsManaged(w) ? label_text(w) : std::string();
 }
 
 /// What the buttons would do with a name.
 std::string hint_on(const ListEditor& editor, Name name) {
   if (name.view().empty()) return {};
-  const std::string part = part_name(editor.part, name);
+  const std::string part = part_with_users(editor.part, name);
   const std::string ok = label_of(editor, "OK");
   const std::string add = label_of(editor, "Apply");
   if (!editor.names.has(name))
@@ -40,6 +36,12 @@ std::string hint_on(const ListEditor& editor, Name name) {
 }
 
 }  // namespace
+
+std::string part_with_users(Part part, Name name) {
+  const std::string called = part_name(part, name);
+  const std::string users = session_hooks.used_by ? session_hooks.used_by(part, name) : std::string();
+  return users.empty() ? called : filled(text_or_name("used_by"), {called.c_str(), users.c_str()});
+}
 
 Widget ListEditor::list() const { return box() ? XmSelectionBoxGetChild(box(), XmDIALOG_LIST) : nullptr; }
 

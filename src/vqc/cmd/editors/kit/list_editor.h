@@ -98,6 +98,9 @@ void delete_name(const ListEditor& editor, Name name);
 void accept_name(const ListEditor& editor, Name name);
 void select_name(const ListEditor& editor, Name name);
 
+/// What a thing is called, and who uses it.
+std::string part_with_users(Part part, Name name);
+
 /// The name of what an editor shows: the current element, or what is selected in the list; empty for none.
 std::string shown_name(const ListEditor& editor);
 /// Selects a name of the list, as a click on it does. Nothing for a name that is not there.

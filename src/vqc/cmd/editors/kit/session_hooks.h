@@ -5,17 +5,22 @@
 
 #include <Xm/Xm.h>
 
+#include <string>
+
+#include "libkel/text.h"
 #include "vqc/cmd/editors/kit/memory.h"
+#include "vqc/cmd/model/part.h"
 
 namespace vqc::editors {
 
 /// What the editors leave to the application. Each may be null.
 struct SessionHooks {
-  void (*acted)() = nullptr;                            // hears that the user has done something
-  void (*end)(int status) = nullptr;                    // ends the session
-  void (*help)(Widget w, const char* topic) = nullptr;  // shows a page of help
-  void (*uses)(Widget w) = nullptr;                     // shows who uses what is chosen in a window
-  void (*problems)(Widget w) = nullptr;                 // shows what is wrong with the document
+  void (*acted)() = nullptr;                               // hears that the user has done something
+  void (*end)(int status) = nullptr;                       // ends the session
+  void (*help)(Widget w, const char* topic) = nullptr;     // shows a page of help
+  std::string (*used_by)(Part part, Text name) = nullptr;  // who uses a thing, such as "42 resources"; empty for nobody
+  void (*uses)(Widget w) = nullptr;                        // shows who uses what is chosen in a window
+  void (*problems)(Widget w) = nullptr;                    // shows what is wrong with the document
 };
 inline SessionHooks session_hooks;
 

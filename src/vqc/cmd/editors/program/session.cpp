@@ -70,6 +70,7 @@ void install_hooks() {
   session_hooks = {.acted = note_and_refresh,
                    .end = ExitVQConfig,
                    .help = show_help,
+                   .used_by = users_in_words,
                    .uses = show_uses_of,
                    .problems = show_problems_from};
 }
