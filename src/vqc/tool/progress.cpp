@@ -26,7 +26,7 @@ void Progress::wait(const std::stop_token& stop, std::chrono::milliseconds momen
   std::unique_lock lock(mutex_);
   if (end_.wait_for(lock, stop, moment, [&] { return stop.stop_requested(); })) return;
   due_ = true;
-  draw();
+  if (!what_.empty()) draw();
 }
 
 void Progress::draw() const {
