@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "libkel/message.h"
+#include "vqc/cmd/editors/kit/counts.h"
 #include "vqc/cmd/editors/kit/part_names.h"
 
 namespace vqc::editors {
@@ -40,9 +41,7 @@ constexpr const char* verb_messages[] = {"differs_more", "differs_fewer", "diffe
 constexpr const char* marks[] = {"+ ", "- ", "  ", "~ "};
 constexpr Tint tints[] = {Tint::added, Tint::removed, Tint::plain, Tint::plain};
 
-std::string number_of(int number, const Plural& words) {
-  return filled(text_or_name(number == 1 ? words.one : words.several), {number});
-}
+std::string number_of(int number, const Plural& words) { return in_words({number, words.one, words.several}); }
 
 std::string with_verb(Verb verb, const std::string& what) {
   return filled(text_or_name(verb_messages[static_cast<std::size_t>(verb)]), {what.c_str()});

@@ -12,6 +12,7 @@
 
 #include "libkel/leafnm.h"
 #include "libkel/message.h"
+#include "vqc/cmd/editors/kit/counts.h"
 #include "vqc/cmd/editors/kit/edited_document.h"
 #include "vqc/cmd/editors/kit/part_names.h"
 #include "vqc/cmd/editors/kit/status_line.h"
@@ -56,18 +57,10 @@ std::string unsaved_change(const State& now, const State* in_file) {
   return filled(text_or_name("part_not_saved"), {part_name(all.front().part, all.front().name).c_str()});
 }
 
-std::string number_of(int count, const char* one, const char* many) {
-  return filled(text_or_name(count == 1 ? one : many), {count});
-}
-
 std::string found_problems() {
-  std::string text;
-  if (problems.errors > 0) text = number_of(problems.errors, "one_error", "many_errors");
-  if (problems.warnings > 0) {
-    if (!text.empty()) text += ", ";
-    text += number_of(problems.warnings, "one_warning", "many_warnings");
-  }
-  return text;
+  const Count counts[] = {{problems.errors, "one_error", "many_errors"},
+                          {problems.warnings, "one_warning", "many_warnings"}};
+  return in_words(counts);
 }
 
 std::vector<std::string> all_facts() {
@@ -98,8 +91,15 @@ void note_problems(int errors, int warnings) {
 
 void note_unread_from(const std::optional<std::string>& path, int line) { unread = {line, path}; }
 
-void show_facts(const State& now, const State* in_file) {
-  unsaved = dirty ? std::string() : unsaved_change(now, in_file);
+void show_facts(const std::shared_ptr<const State>& now, const std::shared_ptr<const State>& in_file) {
+  static std::pair<std::shared_ptr<const State>, std::shared_ptr<const State>> compared;  // most actions change neither
+  if (dirty) {
+    unsaved.clear();
+    compared = {};
+  } else if (std::pair both{now, in_file}; both != compared) {
+    unsaved = unsaved_change(*now, in_file.get());
+    compared = std::move(both);
+  }
   show();
 }
 

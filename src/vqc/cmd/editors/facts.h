@@ -3,6 +3,7 @@
 
 // What is so with the document, on the right of the status lines.
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -16,7 +17,7 @@ void note_problems(int errors, int warnings);
 void note_unread_from(const std::optional<std::string>& path, int line);
 
 /// Shows all of it, with what the document says now and what its file says, null where that is unknown.
-void show_facts(const State& now, const State* in_file);
+void show_facts(const std::shared_ptr<const State>& now, const std::shared_ptr<const State>& in_file);
 
 }  // namespace vqc::editors
 

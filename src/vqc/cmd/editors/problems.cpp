@@ -17,6 +17,7 @@
 #include "libkel/message.h"
 #include "vqc/cmd/editors/document_check.h"
 #include "vqc/cmd/editors/kit/compound.h"
+#include "vqc/cmd/editors/kit/counts.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
@@ -85,13 +86,11 @@ std::string row_of(const Problem& problem) {
 
 /// "1 error, 2 warnings"
 std::string counts_of(const Problems& problems) {
-  std::string counts;
+  std::vector<Count> counts;
   for (std::size_t i = 0; i < problems.counts.size(); ++i) {
-    const int count = static_cast<int>(problems.counts[i]);
-    const char* words = count == 1 ? severities[i].one : severities[i].several;
-    if (count > 0) counts += (counts.empty() ? "" : ", ") + filled(text_or_name(words), {count});
+    counts.push_back({static_cast<int>(problems.counts[i]), severities[i].one, severities[i].several});
   }
-  return counts;
+  return in_words(counts);
 }
 
 std::string summary_of(const Problems& problems) {

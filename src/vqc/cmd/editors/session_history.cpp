@@ -177,7 +177,7 @@ void note_action() {
     refresh_uses();
   }
   end_action(is_step ? done_name(timeline->previous(), timeline->now()) : std::string());
-  show_facts(*timeline->now().state, in_file.get());
+  show_facts(timeline->now().state, in_file);
 }
 
 void note_saving() {

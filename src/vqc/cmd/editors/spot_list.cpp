@@ -5,6 +5,7 @@
 #include <Xm/List.h>
 
 #include "libkel/message.h"
+#include "vqc/cmd/editors/kit/counts.h"
 #include "vqc/cmd/editors/kit/part_names.h"
 #include "vqc/cmd/editors/kit/shown_names.h"
 
@@ -18,22 +19,12 @@ std::string spot_name(const Spot& spot) {
 }
 
 std::string counts_name(const UseCounts& counts) {
-  struct Row {
-    int count;
-    const char* one;
-    const char* several;
-  };
-  const Row table[] = {{counts.resources, "count_resource", "count_resources"},
+  const Count all[] = {{counts.resources, "count_resource", "count_resources"},
                        {counts.widgets, "count_widget", "count_widgets"},
                        {counts.converters, "count_converter", "count_converters"},
                        {counts.popups, "count_popup", "count_popups"},
                        {counts.families, "count_family", "count_families"}};
-  std::string name;
-  for (const auto& [count, one, several] : table) {
-    if (count == 0) continue;
-    name += (name.empty() ? "" : ", ") + filled(text_or_name(count == 1 ? one : several), {count});
-  }
-  return name;
+  return in_words(all);
 }
 
 void list_spots(Widget list, const std::vector<Spot>& spots) {

@@ -1,0 +1,21 @@
+// Puts numbers of things into words.
+
+#include "vqc/cmd/editors/kit/counts.h"
+
+#include "libkel/message.h"
+
+namespace vqc::editors {
+
+std::string in_words(const Count& count) {
+  return filled(text_or_name(count.number == 1 ? count.one : count.several), {count.number});
+}
+
+std::string in_words(std::span<const Count> counts) {
+  std::string words;
+  for (const Count& count : counts) {
+    if (count.number > 0) words += (words.empty() ? "" : ", ") + in_words(count);
+  }
+  return words;
+}
+
+}  // namespace vqc::editors
