@@ -71,6 +71,12 @@ std::shared_ptr<const Source> Source::read(const char* path) {
   return source;
 }
 
+std::shared_ptr<const Source> Source::read_regular(const char* path) {
+  struct stat file {};
+  const bool is_regular = stat(path, &file) == 0 && S_ISREG(file.st_mode);
+  return is_regular ? read(path) : nullptr;
+}
+
 std::shared_ptr<const Source> Source::read(int descriptor, std::string name) {
   Growing read(size_of(descriptor) + kLeast);
   if (!read_all(descriptor, read)) return nullptr;

@@ -49,6 +49,8 @@ class Source {
  public:
   /// The file at `path`. Null when it cannot be read; errno says why.
   static std::shared_ptr<const Source> read(const char* path);
+  /// The same of regular files alone: a device may have no end. Null for anything else.
+  static std::shared_ptr<const Source> read_regular(const char* path);
   /// What an open file gives up to its end. It stays open.
   static std::shared_ptr<const Source> read(int descriptor, std::string name);
   /// A text that is in memory already.

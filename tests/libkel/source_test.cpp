@@ -29,6 +29,13 @@ TEST_F(SourceTest, IsWhatTheFileHolds) {
   EXPECT_EQ(folder / "file", source->name());
 }
 
+TEST_F(SourceTest, CanBeOfRegularFilesAlone) {
+  EXPECT_EQ("text", Source::read_regular(folder.with("file", "text").c_str())->text());
+  EXPECT_EQ(nullptr, Source::read_regular("/dev/zero"));
+  EXPECT_EQ(nullptr, Source::read_regular(folder.path().c_str()));
+  EXPECT_EQ(nullptr, Source::read_regular((folder / "missing").c_str()));
+}
+
 TEST_F(SourceTest, MayBeEmpty) { EXPECT_EQ("", read("")->text()); }
 
 TEST_F(SourceTest, TakesBytesAsTheyAre) {

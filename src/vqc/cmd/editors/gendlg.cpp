@@ -135,7 +135,7 @@ void gen_popup(Widget w, FileKind kind, const char* title) {
 constexpr std::size_t kMostCompared = 1'000'000;
 
 void say_what_was_written(const std::string& path, const Source* before) {
-  const auto after = Source::read(path.c_str());
+  const auto after = Source::read_regular(path.c_str());
   if (!after) return;
   const char* name = leafnm(path.c_str());
   const auto lines = static_cast<int>(std::ranges::count(after->text(), '\n'));
@@ -170,7 +170,7 @@ void gen_do_generate(Widget w, XtPointer, XtPointer call) {
   const std::string path = chosen_path(w, call);
   hide_dialog(gen_dialog[FSB]);  // first: a message could not be answered behind a modal dialog
   keep_before(path, Reason::before_generation);
-  const auto before = Source::read(path.c_str());
+  const auto before = Source::read_regular(path.c_str());
   if (!generate_file(edited_document, path.c_str(), chosen_families(), pending_kind, chosen_switches())) return;
   say_what_was_written(path, before.get());
 }

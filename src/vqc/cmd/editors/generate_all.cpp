@@ -30,6 +30,7 @@
 #include "vqc/cmd/editors/kit/diff_text.h"
 #include "vqc/cmd/editors/kit/edited_document.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
+#include "vqc/cmd/editors/kit/shown_names.h"
 #include "vqc/cmd/editors/kit/status_line.h"
 #include "vqc/cmd/editors/safety_net.h"
 #include "vqc/cmd/generate/all_files.h"
@@ -133,7 +134,7 @@ std::string words_of(const FilePlan& plan) {
 }
 
 FilePlan plan_for(OutputFile file) {
-  const auto source = Source::read(file.path.c_str());
+  const auto source = Source::read_regular(file.path.c_str());
   FilePlan plan{std::move(file), source ? std::optional(std::string(source->text())) : std::nullopt};
   plan.changes = changed_lines(plan.before.value_or(""), plan.file.text);
   plan.words = words_of(plan);
@@ -177,12 +178,7 @@ std::optional<Plan> make_plan() try {
   return {};
 }
 
-int selected_row() {
-  const int* places = nullptr;
-  int count = 0;
-  XtVaGetValues(genall_dialog[LIST], XmNselectedPositions, &places, XmNselectedPositionCount, &count, nullptr);
-  return count > 0 ? places[0] : 0;
-}
+int selected_row() { return list_selected_place(genall_dialog[LIST]); }
 
 void show_selected() {
   const auto row = static_cast<std::size_t>(selected_row());

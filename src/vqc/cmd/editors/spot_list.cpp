@@ -8,6 +8,7 @@
 #include "vqc/cmd/editors/kit/counts.h"
 #include "vqc/cmd/editors/kit/part_names.h"
 #include "vqc/cmd/editors/kit/shown_names.h"
+#include "vqc/cmd/editors/kit/status_line.h"
 
 namespace vqc::editors {
 
@@ -32,13 +33,9 @@ void list_spots(Widget list, const std::vector<Spot>& spots) {
   names.reserve(spots.size());
   for (const Spot& spot : spots) names.push_back(spot_name(spot));
   list_show(list, names);
+  recount();
 }
 
-int selected_place(Widget list) {
-  int* places = nullptr;
-  int count = 0;
-  XtVaGetValues(list, XmNselectedPositions, &places, XmNselectedPositionCount, &count, nullptr);
-  return count == 0 ? -1 : places[0] - 1;
-}
+int selected_place(Widget list) { return list_selected_place(list) - 1; }
 
 }  // namespace vqc::editors

@@ -30,6 +30,7 @@
 #include "vqc/cmd/editors/kit/local_time.h"
 #include "vqc/cmd/editors/kit/memory.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
+#include "vqc/cmd/editors/kit/shown_names.h"
 #include "vqc/cmd/editors/kit/status_line.h"
 #include "vqc/cmd/editors/safety_net.h"
 
@@ -116,7 +117,7 @@ Now now_of(Choice choice, const fs::path& path) {
 }
 
 std::string text_in_file() {
-  const auto source = Source::read(shown.path.c_str());
+  const auto source = Source::read_regular(shown.path.c_str());
   return source ? std::string(source->text()) : std::string();
 }
 
@@ -182,12 +183,7 @@ CompoundString row_of(const Version& version, const std::string& words) {
   return CompoundString::of_lines(displayable(row).c_str(), "versions_row");
 }
 
-int selected_row() {
-  const int* places = nullptr;
-  int count = 0;
-  XtVaGetValues(versions_dialog[LIST], XmNselectedPositions, &places, XmNselectedPositionCount, &count, nullptr);
-  return count > 0 ? places[0] : 0;
-}
+int selected_row() { return list_selected_place(versions_dialog[LIST]); }
 
 const Version* selected_version() {
   const auto row = static_cast<std::size_t>(selected_row());

@@ -97,12 +97,18 @@ int list_position(Widget list, Name name) {
   return place == shown.end() ? 0 : static_cast<int>(place - shown.begin()) + 1;
 }
 
-std::string list_selected(Widget list) {
+int list_selected_place(Widget list) {
   int* places = nullptr;
   int count = 0;
-  if (!list || !XmListGetSelectedPos(list, &places, &count)) return {};
-  const auto place = static_cast<std::size_t>(places[0]);
+  if (!XmListGetSelectedPos(list, &places, &count)) return 0;
+  const int place = places[0];
   XtFree(reinterpret_cast<char*>(places));
+  return place;
+}
+
+std::string list_selected(Widget list) {
+  const auto place = static_cast<std::size_t>(list ? list_selected_place(list) : 0);
+  if (place == 0) return {};
   const std::vector<std::string>& names = names_in(list);
   return place <= names.size() ? names[place - 1] : std::string();
 }

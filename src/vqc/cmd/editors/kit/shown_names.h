@@ -24,6 +24,8 @@ void list_move(Widget list, int from, int to);
 const std::vector<std::string>& list_names(Widget list);
 /// The place of a name; 0 when it is absent.
 int list_position(Widget list, Name name);
+/// The place of what is selected; 0 for none.
+int list_selected_place(Widget list);
 /// The name that is selected; empty for none, and where there is no list.
 std::string list_selected(Widget list);
 /// Selects a name and scrolls so that it is seen; calls nobody.
