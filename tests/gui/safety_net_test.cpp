@@ -132,6 +132,27 @@ TEST_F(SafetyNet, OffersWhatHadNoFileToASessionWithoutOne) {
   EXPECT_EQ("vqconfig", title());
 }
 
+TEST_F(SafetyNet, OpeningADocumentAsksAboutWhatAKilledSessionHasLeftOfIt) {
+  const std::string path = folder.with("other.vqc", two_families);
+  leave_state(path, "VQconfig\nfamily 'Motif' { }\n");
+  open_document("VQconfig\n");
+  EXPECT_FALSE(is_shown("recovery_dialog"));
+  open_file(path);
+  EXPECT_TRUE(is_shown("recovery_dialog"));
+  press_ok("recovery_messagebox");
+  EXPECT_EQ(Items{"Motif"}, items("family_selection"));
+  EXPECT_TRUE(dirty);
+}
+
+TEST_F(SafetyNet, OpeningADocumentSaysThatAnotherSessionIsThere) {
+  const std::string path = folder.with("other.vqc", two_families);
+  const Journal other(journals_folder(), path);
+  open_document("VQconfig\n");
+  EXPECT_EQ("", error_shown());
+  open_file(path);
+  EXPECT_EQ(filled("other_session", path.c_str()), error_shown());
+}
+
 TEST_F(SafetyNet, SaysThatAnotherSessionIsThere) {
   const std::string path = folder.with("document.vqc", two_families);
   const Journal other(journals_folder(), path);

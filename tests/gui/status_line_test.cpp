@@ -151,6 +151,7 @@ TEST_F(StatusLine, SaysWhoUsesWhatIsAboutToBeDeleted) {
   edit_family("Athena");
   click_item("widgetlist_selection", "Dial");
   EXPECT_EQ("Edit, Delete: widget Dial, used by 2 families", said("entity_form"));
+  EXPECT_EQ("Opened document.vqc", said()) << "where there is no such list";
 }
 
 TEST_F(StatusLine, SaysHowManyLinesAGenerationHasWritten) {

@@ -119,6 +119,7 @@ void replace_document(const std::string& path) {
   load_document();
   show_document();
   options_dialog_load();
+  if (session_hooks.opened) session_hooks.opened();
 }
 
 /// The document that is to be opened without being asked for.

@@ -48,7 +48,8 @@ void say_what_is_new() {
   const std::optional<Stamp> now = stamp_of(*save_file);
   if (known.said == now) return;
   known.said = now;
-  hint(filled(text_or_name("changed_outside"), {leafnm(save_file_path())}));
+  say("changed_outside", {leafnm(save_file_path())});
+  end_action({});
 }
 
 Boolean dispatch_focus(XEvent* event) {

@@ -48,7 +48,7 @@ void open_picker_on(Picker& picker, Name name) {
   show_dialog(picker.editor.box(), Place::over);
   list_select(picker.editor.list(), name);
   picker.show(name);
-  say_unless_changed(part_with_users(picker.editor.part, name));
+  hint_after_action(picker.editor.box(), part_with_users(picker.editor.part, name));
 }
 
 int show_all_names(const Picker& picker) {

@@ -63,7 +63,7 @@ LoadResult load_kept(std::string_view text, Reason reason, Document& document) {
 std::shared_ptr<const State> state_of_file(const fs::path& path) {
   Document document;
   Diagnostics findings;
-  if (const auto source = Source::read(path.c_str())) load(source, document, findings);
+  if (const auto source = Source::read_regular(path.c_str())) load(source, document, findings);
   return capture(document, nullptr);
 }
 
@@ -75,8 +75,13 @@ void begin_safety_net(const std::optional<std::string>& path) {
   const fs::path folder = journals_folder();
   if (folder.empty()) return;
   journal.emplace(Journal(folder, path.value_or("")));
-  if (path && journal->journal().others_on(*path)) error_show_1s("other_session", path->c_str());
+  warn_of_other_session();
   with_versions([](const Versions& versions, Versions::Time now) { return versions.thin(now); });
+}
+
+void warn_of_other_session() {
+  if (!journal || !save_file || !journal->journal().others_on(*save_file)) return;
+  error_show_1s("other_session", save_file_path());
 }
 
 void end_safety_net() {

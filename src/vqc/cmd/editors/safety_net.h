@@ -20,6 +20,8 @@ namespace vqc::editors {
 
 /// Begins with the session, on the document of that path.
 void begin_safety_net(const std::optional<std::string>& path);
+/// Says if there is another session on the document that is open.
+void warn_of_other_session();
 /// The session ends well: nothing of it is left but what it has not saved.
 void end_safety_net();
 

@@ -400,9 +400,10 @@ void select_resource(Name name) {
     ask_about_resource(Pending::show_resource);
   } else {
     show_resource(name);
-    say_unless_changed("hint_accept_delete",
-                       {label_text(at(RESOURCE_UPDATE)).c_str(), label_text(at(RESOURCE_DELETE)).c_str(),
-                        part_name(Part::resource, Name(name)).c_str()});
+    hint_after_action(at(FORM),
+                      filled(text_or_name("hint_accept_delete"),
+                             {label_text(at(RESOURCE_UPDATE)).c_str(), label_text(at(RESOURCE_DELETE)).c_str(),
+                              part_name(Part::resource, Name(name)).c_str()}));
   }
 }
 

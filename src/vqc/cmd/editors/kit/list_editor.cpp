@@ -113,7 +113,7 @@ void with_name(Widget w, XtPointer call, const ListEditor& editor, void (*action
 
 void hint_on_typed(Widget field, XtPointer call, const ListEditor& editor) {
   const bool is_of_user = static_cast<XmAnyCallbackStruct*>(call)->event != nullptr;
-  if (is_of_user) hint(hint_on(editor, undistorted(field, characters_in(field))));
+  if (is_of_user) hint(field, hint_on(editor, undistorted(field, characters_in(field))));
 }
 
 void with_clicked_name(Widget list, XtPointer call, const ListEditor& editor, void (*action)(const ListEditor&, Name)) {
@@ -122,7 +122,7 @@ void with_clicked_name(Widget list, XtPointer call, const ListEditor& editor, vo
   const BusyCursor busy(list);
   settextf(editor.name_field(), name);
   action(editor, name);
-  say_unless_changed(hint_on(editor, name));
+  hint_after_action(list, hint_on(editor, name));
   mark_text(editor.name_field());
 }
 

@@ -16,6 +16,7 @@ namespace vqc::editors {
 /// What the editors leave to the application. Each may be null.
 struct SessionHooks {
   void (*acted)() = nullptr;                               // hears that the user has done something
+  void (*opened)() = nullptr;                              // hears that he has opened another document
   void (*end)(int status) = nullptr;                       // ends the session
   void (*help)(Widget w, const char* topic) = nullptr;     // shows a page of help
   std::string (*used_by)(Part part, Text name) = nullptr;  // who uses a thing, such as "42 resources"; empty for nobody

@@ -24,6 +24,7 @@ std::string so;
 /// What is said about an action while it goes on, the weightiest last.
 struct Said {
   std::string unless_changed;
+  Widget where = nullptr;  // the window that it is said in; null for all
   std::string done;
   std::string above_all;
 };
@@ -33,6 +34,11 @@ Said said;
 void show(Widget label, std::string text) {
   std::ranges::replace(text, '\n', ' ');
   XtVaSetValues(label, XmNlabelString, CompoundString(displayable(text).c_str()).get(), nullptr);
+}
+
+void show_in_all(std::string text) {
+  shown = std::move(text);
+  for (Widget label : said_labels) show(label, shown);
 }
 
 /// The list of a window that can be seen; null for none.
@@ -112,27 +118,37 @@ void say(const char* message, std::initializer_list<MessageArgument> arguments) 
 void say_text(std::string text) { said.done = std::move(text); }
 
 void say_unless_changed(const char* message, std::initializer_list<MessageArgument> arguments) {
-  say_unless_changed(filled(text_or_name(message), arguments));
+  said.unless_changed = filled(text_or_name(message), arguments);
 }
-
-void say_unless_changed(std::string text) { said.unless_changed = std::move(text); }
 
 void say_above_all(std::string text) { said.above_all = std::move(text); }
 
-void hint(std::string text) {
-  shown = std::move(text);
-  for (Widget label : said_labels) show(label, shown);
+void hint(Widget w, std::string text) {
+  for (Widget label : said_labels) {
+    if (shell_around(label) == shell_around(w)) show(label, text);
+  }
+}
+
+void hint_after_action(Widget w, std::string text) {
+  said.unless_changed = std::move(text);
+  said.where = w;
 }
 
 void end_action(std::string done) {
   Said all = std::exchange(said, {});
-  for (std::string* text : {&all.above_all, &all.done, &done, &all.unless_changed}) {
-    if (!text->empty()) return hint(std::move(*text));
+  for (std::string* text : {&all.above_all, &all.done, &done}) {
+    if (!text->empty()) return show_in_all(std::move(*text));
   }
+  if (all.where) return hint(all.where, std::move(all.unless_changed));
+  if (!all.unless_changed.empty()) show_in_all(std::move(all.unless_changed));
 }
 
 void show_so(std::string text) {
   so = std::move(text);
+  recount();
+}
+
+void recount() {
   for (Widget label : so_labels) show_so_in(label);
 }
 

@@ -22,17 +22,20 @@ void say(const char* message, std::initializer_list<MessageArgument> arguments =
 void say_text(std::string text);
 /// Says that only if nothing else is said about the action, and the document stays as it was.
 void say_unless_changed(const char* message, std::initializer_list<MessageArgument> arguments = {});
-void say_unless_changed(std::string text);
 /// Says, whatever else is said about the action, what the user has to know.
 void say_above_all(std::string text);
-/// Says what could be done next, while no action goes on.
-void hint(std::string text);
+/// Says in the window of a widget what could be done next there: at once, or after an action that nothing else is said
+/// about.
+void hint(Widget w, std::string text);
+void hint_after_action(Widget w, std::string text);
 
 /// An action has ended, which has `done` something, or nothing. What has not been said about it is said now.
 void end_action(std::string done);
 
 /// Shows what is so. Each window adds how many things its list has.
 void show_so(std::string text);
+/// A list has got others without an action.
+void recount();
 
 }  // namespace vqc::editors
 

@@ -48,6 +48,11 @@ namespace {
 
 XtAppContext context = nullptr;
 
+void document_opened() {
+  warn_of_other_session();
+  offer_recovery();
+}
+
 void show_uses_of(Widget w) { uses_do_popup(w, nullptr, nullptr); }
 void show_problems_from(Widget w) { problems_do_popup(w, nullptr, nullptr); }
 
@@ -68,6 +73,7 @@ void install_hooks() {
   page_pool.on_current = current_page_changed;
   popup_pool.on_current = current_popup_changed;
   session_hooks = {.acted = note_and_refresh,
+                   .opened = document_opened,
                    .end = ExitVQConfig,
                    .help = show_help,
                    .used_by = users_in_words,
