@@ -199,8 +199,9 @@ void select_row(int row) {
 void replace_row(int row, const CompoundString& item) {
   const int selected = selected_row();
   XmString items[] = {item};
+  XmListDeselectAllItems(versions_dialog[LIST]);  // replacing forgets what is selected, and never frees it
   XmListReplaceItemsPosUnselected(versions_dialog[LIST], items, 1, row);
-  if (row == selected) select_row(row);
+  if (selected > 0) select_row(selected);
 }
 
 bool all_words_known() { return !versions_dialog || shown.words.size() == shown.versions.size(); }
