@@ -63,6 +63,7 @@ const Dialog dialogs[] = {
     {"rename_dialog", [] { press("family_renameb"); }},
     {"uses_dialog", [] { press("family_usesb"); }},
     {"problems_dialog", [] { press("family_problemsb"); }},
+    {"resources_dialog", [] { press("family_resourcesb"); }},
     {"about_dialog", [] { press("family_helpaboutb"); }},
     {"error_dialog", [] { error_show("bad_save_file"); }},
     {"versions_dialog", [] { press("family_versionsb"); }},

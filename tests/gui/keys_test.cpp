@@ -16,7 +16,7 @@ using namespace vqc;
 namespace {
 
 /// All that have no use; the main window has menu items for three more.
-const std::string unused_letters = "bdefghijmty";
+const std::string unused_letters = "bdefghijmy";
 const std::string letters_of_menus = "lnr";
 
 /// The error box too, while a question waits for its answer.

@@ -7,8 +7,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <Xm/CutPaste.h>
+
 #include <chrono>
 #include <filesystem>
+#include <memory>
 #include <stdexcept>
 #include <thread>
 
@@ -62,6 +65,30 @@ void leave_state(const std::string& document, const std::string& text) {
   int status = -1;
   waitpid(child, &status, 0);
   if (status != 0) throw std::runtime_error("no state could be left");
+}
+
+void put_into_clipboard(std::string text) {
+  Display* display = XtDisplay(main_shell());
+  const Window window = XtWindow(main_shell());
+  XmString label = XmStringCreateLocalized(const_cast<char*>("copied"));
+  long item = 0;
+  XmClipboardStartCopy(display, window, label, CurrentTime, nullptr, nullptr, &item);
+  XmClipboardCopy(display, window, item, const_cast<char*>("STRING"), text.data(), text.size(), 0, nullptr);
+  XmClipboardEndCopy(display, window, item);
+  XmStringFree(label);
+}
+
+std::string pasted_outside() {
+  const std::unique_ptr<Display, int (*)(Display*)> connection(XOpenDisplay(XDisplayString(XtDisplay(main_shell()))),
+                                                               XCloseDisplay);
+  Display* display = connection.get();
+  const Window window = XCreateSimpleWindow(display, DefaultRootWindow(display), 0, 0, 1, 1, 0, 0, 0);
+  const Atom text = XInternAtom(display, "UTF8_STRING", False);
+  XConvertSelection(display, XInternAtom(display, "CLIPBOARD", False), text, text, window, CurrentTime);
+  XFlush(display);
+  XEvent event;
+  if (!wait_for([&] { return XCheckTypedWindowEvent(display, window, SelectionNotify, &event) != False; })) return {};
+  return property(display, window, "UTF8_STRING");
 }
 
 std::vector<pid_t> processes(const std::string& program, const std::string& display_name) {

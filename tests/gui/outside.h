@@ -18,6 +18,11 @@ bool wait_until_true(const std::function<bool()>& condition);
 /// What a session on a document leaves that is killed.
 void leave_state(const std::string& document, const std::string& text);
 
+/// Another program's copy of a text.
+void put_into_clipboard(std::string text);
+/// The text that another program gets when it pastes.
+std::string pasted_outside();
+
 /// The processes that run the file of a program on a display.
 std::vector<pid_t> processes(const std::string& program, const std::string& display_name);
 

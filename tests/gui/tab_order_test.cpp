@@ -44,17 +44,24 @@ std::vector<Stop> walk(Widget shell, const std::string& tab) {
   return stops;
 }
 
+bool is_same_row(const Area& a, const Area& b) { return b.top < a.bottom() && a.top < b.bottom(); }
+
 /// Whether a reader comes to `b` before `a`: it is above it in the same column, or left of it in the same row.
 bool is_read_before(const Area& b, const Area& a) {
   const bool same_column = b.left < a.right() && a.left < b.right();
-  const bool same_row = b.top < a.bottom() && a.top < b.bottom();
-  return (same_column && b.bottom() <= a.top) || (same_row && b.right() <= a.left);
+  return (same_column && b.bottom() <= a.top) || (is_same_row(a, b) && b.right() <= a.left);
 }
 
+/// In the row of what is highest, with what is leftmost.
 void start_at_the_top(std::vector<Stop>& stops) {
-  const auto first =
-      std::ranges::min_element(stops, {}, [](const Stop& s) { return std::pair(s.area.top, s.area.left); });
-  std::ranges::rotate(stops, first);
+  const Area top =
+      std::ranges::min_element(stops, {}, [](const Stop& s) { return std::pair(s.area.top, s.area.left); })->area;
+  const auto is_first = [&](const Stop& s) {
+    return is_same_row(s.area, top) && std::ranges::none_of(stops, [&](const Stop& other) {
+             return is_same_row(other.area, top) && is_read_before(other.area, s.area);
+           });
+  };
+  std::ranges::rotate(stops, std::ranges::find_if(stops, is_first));
 }
 
 void expect_reading_order(std::vector<Stop> stops) {
@@ -165,6 +172,11 @@ TEST_F(TabOrder, OfThePagesAndPopups) {
 TEST_F(TabOrder, OfTheProblems) {
   press("family_problemsb");
   expect_reading_order_in("problems_dialog", 6);
+}
+
+TEST_F(TabOrder, OfTheTableOfResources) {
+  press("family_resourcesb");
+  expect_reading_order_in("resources_dialog", 17);
 }
 
 TEST_F(TabOrder, OfTheQuestions) {

@@ -41,7 +41,7 @@ inline const std::vector<Layer>& layers() {
         "vqc/cmd/history/", "vqc/cmd/lookup/", "vqc/cmd/problems/", "vqc/cmd/application/", "vqc/cmd/editors/"}},
       {"vqc/cmd/editors/",
        {"libkel/", "desktop/", "vqc/cmd/model/", "vqc/cmd/savefile/", "vqc/cmd/generate/", "vqc/cmd/history/",
-        "vqc/cmd/lookup/", "vqc/cmd/problems/", "vqc/cmd/editors/kit/"}},
+        "vqc/cmd/lookup/", "vqc/cmd/problems/", "vqc/cmd/table/", "vqc/cmd/editors/kit/"}},
   };
   return all;
 }

@@ -18,14 +18,15 @@ class ResourceTable : public DocumentTest {
         "widget 'Dial' {\nresource_definitions='face', 'face_popup', 'faces', True, VQC_FREE, VQC_FREE_DEFAULT"
         " access 3 counter 'count',\n'value', , 'settings', False, VQC_DONT_FREE, VQC_FREE;\n}\n"
         "widget 'Knob' {\nresource_definitions='face', , 'faces', True;\n}\n"
-        "family 'F' {\nwidget='Knob'\n}\n");
+        "widget 'Lamp' { }\nwidget 'two words' { }\n"
+        "family 'F' {\nwidget='Knob'\n}\nfamily 'G' {\nwidget='Lamp'\n}\n");
     document.dirty = false;
   }
 
   /// What rows say in a column.
   static Texts in(Column column, const ResourceRows& rows) {
     Texts texts;
-    for (const ResourceRow& row : rows) texts.push_back(cell(row, column));
+    for (const ResourceRow& row : rows) texts.emplace_back(cell(row, column));
     return texts;
   }
   ResourceRow row(const char* widget, const char* name) {
@@ -117,15 +118,55 @@ TEST_F(ResourceTable, TellsNoAccessFromNoneGiven) {
   EXPECT_EQ(ACCESS_NOT_GIVEN, dial.resource->access);
 }
 
-TEST_F(ResourceTable, CopiesAResourceToAnotherWidget) {
-  WidgetDef& knob = *document.widgets.find(Text("Knob"));
-  EXPECT_TRUE(copy_resource(document, *row("Dial", "value").resource, knob));
-  EXPECT_TRUE(copy_resource(document, *row("Dial", "face").resource, knob));
-  EXPECT_FALSE(copy_resource(document, *row("Dial", "face").resource, knob));
+TEST_F(ResourceTable, CopiesRowsToOtherWidgets) {
+  WidgetDef* const widgets[] = {document.widgets.find(Text("Knob")), document.widgets.find(Text("Lamp"))};
+  const ResourceRow dial[] = {row("Dial", "face"), row("Dial", "value")};
+  Changes changes = copy_rows(document, dial, widgets);
+  EXPECT_EQ(3U, changes.added);
+  EXPECT_EQ(1U, changes.changed) << "Knob has a face, another one";
   EXPECT_TRUE(document.dirty);
-  EXPECT_EQ(2U, knob.resource_definitions.size());
   EXPECT_EQ("face_popup", cell(row("Knob", "face"), Column::popup));
-  EXPECT_EQ("settings", cell(row("Knob", "value"), Column::page));
+  EXPECT_EQ("settings", cell(row("Lamp", "value"), Column::page));
+  changes = copy_rows(document, dial, widgets);
+  EXPECT_EQ(0U, changes.added + changes.changed) << "they have them all";
+}
+
+TEST_F(ResourceTable, SetsACellOfManyRows) {
+  const ResourceRows rows = resource_rows(document);
+  EXPECT_EQ(1U, set_cells(document, rows, Column::page, "faces").changed) << "two say so already";
+  EXPECT_EQ((Texts{"faces", "faces", "faces"}), in(Column::page, rows));
+}
+
+TEST_F(ResourceTable, PutsThePagesOfRowsIntoTheFamiliesOfTheirWidgets) {
+  const auto has_page = [this](const char* family, const char* page) {
+    return document.families.find(Text(family))->pages.find(Text(page)) != nullptr;
+  };
+  set_cells(document, resource_rows(document), Column::counter, "n");
+  EXPECT_FALSE(has_page("F", "faces")) << "no page has been set";
+  set_cells(document, resource_rows(document), Column::page, "new");
+  EXPECT_TRUE(has_page("F", "new"));
+  EXPECT_FALSE(has_page("G", "new")) << "it has none of the widgets";
+  WidgetDef* const lamp[] = {document.widgets.find(Text("Lamp"))};
+  copy_rows(document, resource_rows(document), lamp);
+  EXPECT_TRUE(has_page("G", "new"));
+}
+
+TEST_F(ResourceTable, FindsWidgetsByTheirNames) {
+  EXPECT_EQ(2U, widgets_named(document, " Dial  Lamp ").widgets.size());
+  EXPECT_EQ("Piano", widgets_named(document, "Dial Piano").unknown);
+  EXPECT_TRUE(widgets_named(document, "Dial Piano").widgets.empty());
+  EXPECT_TRUE(widgets_named(document, "").widgets.empty());
+  EXPECT_EQ(1U, widgets_named(document, "two words").widgets.size()) << "a name may have a blank in it";
+}
+
+TEST_F(ResourceTable, KnowsTheValuesOfColumnsThatTakeNoOthers) {
+  for (const Column column : all_columns) {
+    for (const std::string& value : known_values(column)) EXPECT_TRUE(is_value(column, value)) << value;
+  }
+  EXPECT_EQ((Texts{"False", "True"}), known_values(Column::visible));
+  EXPECT_EQ(3U, known_values(Column::free_set).size());
+  EXPECT_EQ(8U, known_values(Column::access).size());
+  EXPECT_EQ(Texts(), known_values(Column::page));
 }
 
 TEST_F(ResourceTable, NamesItsColumns) {

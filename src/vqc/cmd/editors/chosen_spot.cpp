@@ -146,17 +146,10 @@ const Window windows[] = {
     {popupedit_dialog, in_popup_editor},   {pageedit_dialog, in_page_editor},
 };
 
-/// The shell in which a command is given. A menu has one of its own.
-Widget window_of(Widget w) {
-  Widget shell = shell_around(w);
-  while (shell && XmIsMenuShell(shell)) shell = shell_around(XtParent(shell));
-  return shell;
-}
-
 }  // namespace
 
 std::optional<Spot> chosen_spot(Widget w) {
-  Widget shell = window_of(w);
+  Widget shell = window_around(w);
   for (const auto& [dialog, chosen] : windows) {
     if (dialog && dialog[0] == shell) return chosen(XmGetFocusWidget(shell));
   }

@@ -50,6 +50,7 @@ const WidgetRow frame_rows[] = {
     {"entity_view_separator",       XmCreateSeparator,     "view_pulldown"},
     {"entity_usesb",                XmCreatePushButton,    "view_pulldown", on_press(entity_do_uses)},
     {"entity_problemsb",            XmCreatePushButton,    "view_pulldown", on_press(entity_do_problems)},
+    {"entity_resourcesb",           XmCreatePushButton,    "view_pulldown", on_press(entity_do_resources)},
     {"entity_viewb",                XmCreateCascadeButton, "entity_menubar"},
 };
 
@@ -181,6 +182,10 @@ void entity_do_uses(Widget item, XtPointer, XtPointer) {
 
 void entity_do_problems(Widget item, XtPointer, XtPointer) {
   if (session_hooks.problems) session_hooks.problems(item);
+}
+
+void entity_do_resources(Widget item, XtPointer, XtPointer) {
+  if (session_hooks.resources) session_hooks.resources(item);
 }
 
 int entity_setfamily(Family* family) {

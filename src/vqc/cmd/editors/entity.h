@@ -25,6 +25,8 @@ void entity_do_show_page(Widget toggle, XtPointer page, XtPointer call);
 void entity_do_uses(Widget item, XtPointer, XtPointer);
 /// Shows what is wrong with the document.
 void entity_do_problems(Widget item, XtPointer, XtPointer);
+/// Shows the resources of its widgets.
+void entity_do_resources(Widget item, XtPointer, XtPointer);
 
 /// Fills every page for a family; null for none. 0 while there is no dialog, else 1.
 int entity_setfamily(Family* family);

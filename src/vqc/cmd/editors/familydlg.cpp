@@ -24,6 +24,7 @@
 #include "vqc/cmd/editors/problems.h"
 #include "vqc/cmd/editors/recent_menu.h"
 #include "vqc/cmd/editors/rename.h"
+#include "vqc/cmd/editors/resource_window.h"
 #include "vqc/cmd/editors/session_history.h"
 #include "vqc/cmd/editors/stop.h"
 #include "vqc/cmd/editors/uses.h"
@@ -60,6 +61,7 @@ const WidgetRow menu_rows[] = {
     {"family_usesb",              XmCreatePushButton,    "family_edit_menu",     on_press(uses_do_popup)},
     {"family_renameb",            XmCreatePushButton,    "family_edit_menu",     on_press(rename_do_popup)},
     {"family_problemsb",          XmCreatePushButton,    "family_edit_menu",     on_press(problems_do_popup)},
+    {"family_resourcesb",         XmCreatePushButton,    "family_edit_menu",     on_press(resources_do_popup)},
     {"family_stop_b",             XmCreatePushButton,    "family_edit_menu",     on_press(stoplist_do_popup)},
     {"family_edit_cascade",       XmCreateCascadeButton, "family_menubar"},
 

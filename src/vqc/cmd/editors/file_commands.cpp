@@ -25,6 +25,7 @@
 #include "vqc/cmd/editors/popuplist.h"
 #include "vqc/cmd/editors/problems.h"
 #include "vqc/cmd/editors/rename.h"
+#include "vqc/cmd/editors/resource_window.h"
 #include "vqc/cmd/editors/safety_net.h"
 #include "vqc/cmd/editors/session_history.h"
 #include "vqc/cmd/editors/stop.h"
@@ -191,7 +192,7 @@ std::span<const CommandKey> file_command_keys() {
   static constexpr CommandKey keys[] = {{'o', open_do_popup},     {'s', save_do_popup},    {'S', saveas_do_popup},
                                         {'q', do_exit},           {'z', undo_do},          {'Z', redo_do},
                                         {'y', redo_do},           {'k', goto_do_popup},    {'u', uses_do_popup},
-                                        {'p', problems_do_popup}, {XK_F2, rename_do_popup}};
+                                        {'p', problems_do_popup}, {'t', resources_do_popup}, {XK_F2, rename_do_popup}};
   return keys;
 }
 

@@ -155,6 +155,8 @@ void show_renamed(const Spot& thing, const std::string& name) {
   put_back(typed);
 }
 
+void show_changed() { show_renamed({}, {}); }
+
 void begin_history() {
   timeline.emplace(edited_document, surroundings());
   note_loading();

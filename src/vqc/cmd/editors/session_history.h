@@ -23,6 +23,8 @@ void note_loading();
 void name_step(std::string name);
 /// A thing has another name now: fills the windows from the document, with what was selected in them.
 void show_renamed(const Spot& thing, const std::string& name);
+/// Things have been changed that other windows show: fills those in the same way.
+void show_changed();
 /// The document has been saved.
 void note_saving();
 

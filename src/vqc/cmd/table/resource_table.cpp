@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <sstream>
+#include <unordered_map>
 #include <utility>
 
 #include "vqc/cmd/lookup/match.h"
@@ -18,11 +20,11 @@ constexpr std::array<std::string_view, all_columns.size()> kWords = {
 
 constexpr std::array<std::string_view, 2> kFlagWords = {"False", "True"};
 
-struct AccessWord {
-  Access access;
-  std::string_view word;
-};
-constexpr AccessWord kAccessWords[] = {{ACCESS_CREATE, "create"}, {ACCESS_GET, "get"}, {ACCESS_SET, "set"}};
+/// For each access, which is three bits, its words.
+constexpr std::array<std::string_view, 8> kAccessTexts = {"none", "create",     "get",     "create get",
+                                                          "set",  "create set", "get set", "create get set"};
+
+constexpr int kAccessBits[] = {ACCESS_CREATE, ACCESS_GET, ACCESS_SET};
 
 /// The place of a word among others; none where it is not there.
 template <class Words>
@@ -32,25 +34,21 @@ std::optional<std::size_t> place_of(const Words& words, std::string_view word) {
   return static_cast<std::size_t>(found - std::begin(words));
 }
 
-std::string access_text(int access) {
-  std::string text;
-  if (access == ACCESS_NOT_GIVEN) return text;
-  for (const auto& [bit, word] : kAccessWords) {
-    if (access & bit) text.append(text.empty() ? "" : " ").append(word);
-  }
-  return text.empty() ? "none" : text;
+std::string_view access_text(int access) {
+  if (access == ACCESS_NOT_GIVEN) return {};
+  return kAccessTexts[static_cast<std::size_t>(access) % kAccessTexts.size()];
 }
 
-/// The access that words say; nothing where one is no such word.
+/// The access that words say, in any order; nothing where one is no such word.
 std::optional<int> access_of(std::string_view text) {
   if (text.empty()) return ACCESS_NOT_GIVEN;
-  if (text == "none") return 0;
+  if (text == kAccessTexts[0]) return 0;
   int access = 0;
   while (!text.empty()) {
     const std::string_view word = text.substr(0, text.find(' '));
-    const auto known = std::ranges::find(kAccessWords, word, &AccessWord::word);
-    if (known == std::end(kAccessWords)) return std::nullopt;
-    access |= known->access;
+    const auto known = std::ranges::find(kAccessBits, word, access_text);
+    if (known == std::end(kAccessBits)) return std::nullopt;
+    access |= *known;
     text.remove_prefix(std::min(word.size() + 1, text.size()));
   }
   return access;
@@ -89,6 +87,16 @@ bool store(Document& document, ResourceDef& resource, const ResourceFields& fiel
   return true;
 }
 
+/// Gives a widget a resource like this one.
+ResourceRow copy(Document& document, const ResourceFields& resource, WidgetDef& widget, Changes& changes) {
+  const bool is_new = widget.resource_definitions.find(resource.name) == nullptr;
+  ResourceDef* own = document.ensure(widget.resource_definitions, resource.name);
+  const bool is_other = store(document, *own, resource);
+  changes.added += is_new ? 1 : 0;
+  changes.changed += !is_new && is_other ? 1 : 0;
+  return {&widget, own};
+}
+
 }  // namespace
 
 std::string_view column_word(Column column) { return kWords[static_cast<std::size_t>(column)]; }
@@ -110,20 +118,20 @@ ResourceRows resource_rows(const Family& family) {
   return rows;
 }
 
-std::string cell(const ResourceRow& row, Column column) {
+std::string_view cell(const ResourceRow& row, Column column) {
   const ResourceDef& resource = *row.resource;
-  if (const auto member = text_of(column)) return std::string((resource.*member).view());
+  if (const auto member = text_of(column)) return (resource.*member).view();
   switch (column) {
     case Column::widget:
-      return std::string(row.widget->name.view());
+      return row.widget->name.view();
     case Column::name:
-      return std::string(resource.name.view());
+      return resource.name.view();
     case Column::visible:
-      return std::string(kFlagWords[resource.visible]);
+      return kFlagWords[resource.visible];
     case Column::free_get:
-      return std::string(free_word(resource.free_get));
+      return free_word(resource.free_get);
     case Column::free_set:
-      return std::string(free_word(resource.free_set));
+      return free_word(resource.free_set);
     case Column::access:
       return access_text(resource.access);
     default:
@@ -140,18 +148,19 @@ ResourceRows matching_rows(std::span<const ResourceRow> rows, Column column, std
 }
 
 void sort_rows(ResourceRows& rows, Column column, bool descending) {
-  std::vector<std::pair<std::string, ResourceRow>> keyed;
+  std::vector<std::pair<std::string_view, ResourceRow>> keyed;
+  keyed.reserve(rows.size());
   for (const ResourceRow& row : rows) keyed.emplace_back(cell(row, column), row);
-  std::ranges::stable_sort(
-      keyed, [descending](const auto& a, const auto& b) { return descending ? b.first < a.first : a.first < b.first; });
+  const auto comes_first = [descending](const auto& a, const auto& b) {
+    return descending ? b.first < a.first : a.first < b.first;
+  };
+  if (std::ranges::is_sorted(keyed, comes_first)) return;
+  std::ranges::stable_sort(keyed, comes_first);
   std::ranges::transform(keyed, rows.begin(), [](const auto& each) { return each.second; });
 }
 
 bool is_value(Column column, std::string_view text) {
   switch (column) {
-    case Column::widget:
-    case Column::name:
-      return false;
     case Column::visible:
       return place_of(kFlagWords, text).has_value();
     case Column::free_get:
@@ -160,7 +169,22 @@ bool is_value(Column column, std::string_view text) {
     case Column::access:
       return access_of(text).has_value();
     default:
-      return true;
+      return is_settable(column);
+  }
+}
+
+std::vector<std::string> known_values(Column column) {
+  const auto all = [](const auto& words) { return std::vector<std::string>(std::begin(words), std::end(words)); };
+  switch (column) {
+    case Column::visible:
+      return all(kFlagWords);
+    case Column::free_get:
+    case Column::free_set:
+      return all(free_mode_words);
+    case Column::access:
+      return all(kAccessTexts);
+    default:
+      return {};
   }
 }
 
@@ -168,11 +192,48 @@ bool set_cell(Document& document, ResourceDef& resource, Column column, std::str
   return is_value(column, text) && store(document, resource, with_cell(document, resource, column, text));
 }
 
-bool copy_resource(Document& document, const ResourceFields& resource, WidgetDef& widget) {
-  ResourceFields copied = resource;  // which may be one that moves when the list grows
-  const bool is_new = widget.resource_definitions.find(copied.name) == nullptr;
-  ResourceDef* own = document.ensure(widget.resource_definitions, copied.name);
-  return store(document, *own, copied) || is_new;
+Changes set_cells(Document& document, std::span<const ResourceRow> rows, Column column, std::string_view text) {
+  Changes changes;
+  for (const ResourceRow& row : rows) changes.changed += set_cell(document, *row.resource, column, text) ? 1 : 0;
+  if (column == Column::page) pages_into_families(document, rows);
+  return changes;
+}
+
+Changes copy_rows(Document& document, std::span<const ResourceRow> rows, std::span<WidgetDef* const> widgets) {
+  Changes changes;
+  ResourceRows copies;
+  for (WidgetDef* widget : widgets) {
+    for (const ResourceRow& row : rows) copies.push_back(copy(document, *row.resource, *widget, changes));
+  }
+  pages_into_families(document, copies);
+  return changes;
+}
+
+void pages_into_families(Document& document, std::span<const ResourceRow> rows) {
+  std::unordered_map<const WidgetDef*, std::vector<Text>> pages;
+  for (const auto& [widget, resource] : rows) {
+    if (resource->page) pages[widget].push_back(resource->page);
+  }
+  if (pages.empty()) return;
+  for (Family& family : document.families) {
+    for (const auto& reference : family.widgets) {
+      const auto named = pages.find(reference.record);
+      if (named == pages.end()) continue;
+      for (const Text page : named->second) document.ensure(family.pages, document.pages, page);
+    }
+  }
+}
+
+NamedWidgets widgets_named(Document& document, const std::string& text) {
+  if (WidgetDef* widget = document.widgets.find(Text(std::string_view(text)))) return {{widget}, {}};
+  NamedWidgets named;
+  std::istringstream words(text);
+  for (std::string word; words >> word;) {
+    WidgetDef* widget = document.widgets.find(Text(std::string_view(word)));
+    if (!widget) return {{}, word};
+    named.widgets.push_back(widget);
+  }
+  return named;
 }
 
 }  // namespace vqc

@@ -9,8 +9,8 @@ namespace vqc {
 
 namespace {
 
-std::string quoted(const std::string& cell) {
-  if (cell.find_first_of("\t\n\r\"") == std::string::npos) return cell;
+std::string quoted(std::string_view cell) {
+  if (cell.find_first_of("\t\n\r\"") == std::string_view::npos) return std::string(cell);
   std::string text = "\"";
   for (const char c : cell) text.append(c == '"' ? 2 : 1, c);
   return text + '"';
@@ -19,8 +19,7 @@ std::string quoted(const std::string& cell) {
 template <class Say>
 std::string line_of(Say say) {
   std::string line;
-  for (const Column column : all_columns)
-    line.append(line.empty() ? "" : "\t").append(quoted(std::string(say(column))));
+  for (const Column column : all_columns) line.append(line.empty() ? "" : "\t").append(quoted(say(column)));
   return line + '\n';
 }
 
@@ -88,6 +87,7 @@ class Paste {
     std::erase_if(lines_, [](const Line& line) { return line.cells.size() == 1 && line.cells[0].empty(); });
     if (pasted_.problems.empty()) std::ranges::for_each(lines_, [this](const Line& line) { check(line); });
     if (pasted_.problems.empty()) std::ranges::for_each(lines_, [this](const Line& line) { put(line); });
+    pages_into_families(document_, rows_);
     return std::move(pasted_);
   }
 
@@ -123,29 +123,29 @@ class Paste {
     return document_.widgets.find(Text(std::string_view(cell(line, Column::widget))));
   }
 
-  static bool is_key(Column column) { return column == Column::widget || column == Column::name; }
-
   void check(const Line& line) {
     if (!line.is_closed) return complain(TextError::unclosed_quote, line);
     if (line.cells.size() != columns_.size()) return complain(TextError::number_of_cells, line);
     if (!widget_of(line)) complain(TextError::unknown_widget, line, cell(line, Column::widget));
     if (cell(line, Column::name).empty()) complain(TextError::no_name, line);
     for (std::size_t i = 0; i < columns_.size(); ++i) {
-      const bool is_wrong = !is_key(columns_[i]) && !is_value(columns_[i], line.cells[i]);
+      const bool is_wrong = is_settable(columns_[i]) && !is_value(columns_[i], line.cells[i]);
       if (is_wrong) complain(TextError::no_value, line, line.cells[i]);
     }
   }
 
   void put(const Line& line) {
-    auto& resources = widget_of(line)->resource_definitions;
+    WidgetDef* widget = widget_of(line);
+    auto& resources = widget->resource_definitions;
     ResourceDef* resource = resources.find(Text(std::string_view(cell(line, Column::name))));
     const bool is_new = !resource;
     if (is_new)
       resource = document_.ensure(resources, document_.keep(Text(std::string_view(cell(line, Column::name)))));
     bool is_changed = false;
     for (std::size_t i = 0; i < columns_.size(); ++i) {
-      if (!is_key(columns_[i])) is_changed |= set_cell(document_, *resource, columns_[i], line.cells[i]);
+      if (is_settable(columns_[i])) is_changed |= set_cell(document_, *resource, columns_[i], line.cells[i]);
     }
+    rows_.push_back({widget, resource});
     pasted_.added += is_new ? 1 : 0;
     pasted_.changed += !is_new && is_changed ? 1 : 0;
   }
@@ -154,6 +154,7 @@ class Paste {
   CellReader reader_;
   std::vector<Column> columns_;
   std::vector<Line> lines_;
+  ResourceRows rows_;  // that have been put there
   Pasted pasted_;
 };
 

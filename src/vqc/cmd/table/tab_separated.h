@@ -39,10 +39,8 @@ struct TextProblem {
 };
 
 /// What has been put into a document, or why nothing has.
-struct Pasted {
+struct Pasted : Changes {
   std::vector<TextProblem> problems;
-  std::size_t added = 0;    // resources
-  std::size_t changed = 0;  // of those that were there
 };
 
 /// Puts the resources of a text into a document, each into the widget that its line names. Columns may stand in any

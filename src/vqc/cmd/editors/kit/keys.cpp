@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <unordered_map>
 
 #include "vqc/cmd/editors/kit/modal.h"
 #include "vqc/cmd/editors/kit/session_hooks.h"
@@ -21,6 +22,7 @@ namespace {
 std::span<const CommandKey> command_keys;
 XtEventDispatchProc usual_dispatch = nullptr;
 int menus_up = 0;
+std::unordered_map<Widget, void (*)(char letter)> answers;
 
 char lower(char letter) { return static_cast<char>(std::tolower(letter)); }
 
@@ -36,7 +38,7 @@ char letter_with_control(XKeyEvent& key) {
   return is_letter ? static_cast<char>(byte - 1 + (key.state & ShiftMask ? 'A' : 'a')) : '\0';
 }
 
-/// Does to a field what a letter with Ctrl does. False when that is nothing.
+/// Does to a field, or another widget, what a letter with Ctrl does. False when that is nothing.
 bool edit(Widget field, char letter, XEvent* event) {
   struct Action {
     char letter;
@@ -49,6 +51,7 @@ bool edit(Widget field, char letter, XEvent* event) {
   const auto action = std::ranges::find(actions, lower(letter), &Action::letter);
   if (action == std::end(actions)) return false;
   if (is_text(field)) XtCallActionProc(field, action->name, event, nullptr, 0);
+  if (const auto found = answers.find(field); found != answers.end()) found->second(lower(letter));
   return true;
 }
 
@@ -142,5 +145,7 @@ void use_keys(Display* display, std::span<const CommandKey> commands) {
   usual_dispatch = XtSetEventDispatcher(display, KeyPress, dispatch_key);
   XtAddCallback(XtHooksOfDisplay(display), XtNcreateHook, watch, nullptr);
 }
+
+void answer_letters(Widget w, void (*answer)(char letter)) { answers.insert_or_assign(w, answer); }
 
 }  // namespace vqc::editors

@@ -21,6 +21,9 @@ struct CommandKey {
 /// commands where there is nothing of that. What else is typed with Ctrl is left to menus, and never becomes text.
 void use_keys(Display* display, std::span<const CommandKey> commands);
 
+/// Lets a widget that is no text, and lives as long as the program, answer A, C, X and V with Ctrl.
+void answer_letters(Widget w, void (*answer)(char letter));
+
 }  // namespace vqc::editors
 
 #endif

@@ -22,6 +22,7 @@ struct SessionHooks {
   std::string (*used_by)(Part part, Text name) = nullptr;  // who uses a thing, such as "42 resources"; empty for nobody
   void (*uses)(Widget w) = nullptr;                        // shows who uses what is chosen in a window
   void (*problems)(Widget w) = nullptr;                    // shows what is wrong with the document
+  void (*resources)(Widget w) = nullptr;                   // shows the resources of the current family
 };
 inline SessionHooks session_hooks;
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "vqc/cmd/editors/kit/compound.h"
+#include "vqc/cmd/editors/kit/long_list.h"
 #include "vqc/cmd/editors/kit/widgets.h"
 
 namespace vqc::editors {
@@ -56,9 +57,10 @@ Widget list_in(Widget w) {
 std::string count_in(Widget label) {
   Widget list = list_in(shell_around(label));
   if (!list) return {};
-  int count = 0;
-  XtVaGetValues(list, XmNitemCount, &count, nullptr);
-  return filled(text_or_name("status_count"), {count});
+  int items = 0;
+  XtVaGetValues(list, XmNitemCount, &items, nullptr);
+  const auto rows = count_rows(list);
+  return filled(text_or_name("status_count"), {rows ? static_cast<int>(*rows) : items});
 }
 
 /// Makes a label as wide as its text, but leaves room for what is said on the left.

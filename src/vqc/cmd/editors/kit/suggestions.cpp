@@ -39,9 +39,13 @@ void show_list(Widget field, const Suggestions& suggestions, std::vector<std::st
   show_dropdown(field, items, std::move(take), std::move(escaped));
 }
 
+/// What stands in a field before its last word.
+std::string before_last_word(const std::string& text) { return text.substr(0, text.rfind(' ') + 1); }
+
 /// Shows the names that match. A list that opens by itself does not where nothing has been typed.
 void show_matching(Widget field, const Suggestions& suggestions) {
-  const std::string typed = characters_in(field);
+  std::string typed = characters_in(field);
+  if (suggestions.of_words) typed.erase(0, before_last_word(typed).size());
   if (suggestions.while_typing && typed.empty()) return hide_dropdown();
   const std::vector<std::string> names = suggestions.names();
   const Matches matches = best_matches(typed, names, kMostShown);
@@ -69,6 +73,10 @@ void put_into_field(Widget field, const std::string& name) {
   XmTextFieldSetInsertionPosition(field, XmTextFieldGetLastPosition(field));
 }
 
+void put_for_last_word(Widget field, const std::string& name) {
+  put_into_field(field, before_last_word(characters_in(field)) + name);
+}
+
 }  // namespace
 
 void suggest(Widget field, const Suggestions& suggestions) {
@@ -79,6 +87,10 @@ void suggest(Widget field, const Suggestions& suggestions) {
 
 void complete_from(Widget field, std::function<std::vector<std::string>()> names) {
   suggest(field, {.names = std::move(names), .take = put_into_field});
+}
+
+void complete_words_from(Widget field, std::function<std::vector<std::string>()> names) {
+  suggest(field, {.names = std::move(names), .take = put_for_last_word, .of_words = true});
 }
 
 }  // namespace vqc::editors

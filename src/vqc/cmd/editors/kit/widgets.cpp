@@ -16,6 +16,12 @@ Widget shell_around(Widget w) {
   return w;
 }
 
+Widget window_around(Widget w) {
+  Widget shell = shell_around(w);
+  while (shell && XmIsMenuShell(shell)) shell = shell_around(XtParent(shell));
+  return shell;
+}
+
 std::span<const Widget> children_of(Widget w) {
   WidgetList children = nullptr;
   Cardinal count = 0;

@@ -13,6 +13,9 @@ namespace vqc::editors {
 /// The innermost shell that a widget is in, or is; null for none.
 Widget shell_around(Widget w);
 
+/// The shell of the window that a widget is in, which may be in a menu of it.
+Widget window_around(Widget w);
+
 /// The children of a widget, in their order; none of one that cannot have any.
 std::span<const Widget> children_of(Widget w);
 

@@ -33,6 +33,7 @@
 #include "vqc/cmd/editors/program/help.h"
 #include "vqc/cmd/editors/program/resources.h"
 #include "vqc/cmd/editors/recovery.h"
+#include "vqc/cmd/editors/resource_window.h"
 #include "vqc/cmd/editors/safety_net.h"
 #include "vqc/cmd/editors/session_history.h"
 #include "vqc/cmd/editors/title.h"
@@ -55,11 +56,13 @@ void document_opened() {
 
 void show_uses_of(Widget w) { uses_do_popup(w, nullptr, nullptr); }
 void show_problems_from(Widget w) { problems_do_popup(w, nullptr, nullptr); }
+void show_resources_from(Widget w) { resources_do_popup(w, nullptr, nullptr); }
 
 /// What follows whatever the user does.
 void note_and_refresh() {
   note_action();
   refresh_versions();
+  refresh_resources();
 }
 
 /// Lets the lower layers speak to the editors, and the editors to the program. A batch run does without.
@@ -78,7 +81,8 @@ void install_hooks() {
                    .help = show_help,
                    .used_by = users_in_words,
                    .uses = show_uses_of,
-                   .problems = show_problems_from};
+                   .problems = show_problems_from,
+                   .resources = show_resources_from};
 }
 
 void register_converters() {
