@@ -69,6 +69,20 @@ TEST_F(GoTo, ChoosesByTheArrowKeysWhileTheFieldHasTheKeyboard) {
   EXPECT_EQ("yodel", text("we_resource_t"));
 }
 
+TEST_F(GoTo, TellsApartWhatIsCalledTheSame) {
+  open_file(folder.with(
+      "twins.vqc",
+      "VQconfig\nwidget 'A' { resource_definitions='hue of B', , , True; }\n"
+      "widget 'B of A' { resource_definitions='hue', , , True; }\nfamily 'F' { widget='A' widget='B of A' }\n"));
+  enter("goto_name", "hue");
+  expect_hits({"resource hue of B of A", "resource hue of B of A"});
+  click("goto_name");
+  key("Down");
+  key("Return");
+  ASSERT_TRUE(has_keyboard("widgetedit_dialog"));
+  EXPECT_EQ("hue of B", text("we_resource_t")) << "the shorter name comes first";
+}
+
 TEST_F(GoTo, ClosesOnEscape) {
   ASSERT_TRUE(has_keyboard("goto_dialog"));
   type("asc");

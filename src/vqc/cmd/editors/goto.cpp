@@ -9,7 +9,6 @@
 #include <Xm/PushB.h>
 #include <Xm/TextF.h>
 
-#include <algorithm>
 #include <memory>
 #include <optional>
 #include <string>
@@ -49,7 +48,7 @@ const WidgetRow rows[] = {
     {"goto_name",   create_goto_field,    "goto_form",   {}, NAME},
     {"goto_name_l", XmCreateLabel,        "goto_form"},
     {"goto_found",  XmCreateLabel,        "goto_form",   {}, FOUND},
-    {"goto_list",   XmCreateScrolledList, "goto_form",   {{{XmNbrowseSelectionCallback, goto_do_click}, {XmNdefaultActionCallback, goto_do_go}}}, LIST},
+    {"goto_list",   XmCreateScrolledList, "goto_form",   {{{XmNbrowseSelectionCallback, do_on_click<goto_do_go>}, {XmNdefaultActionCallback, goto_do_go}}}, LIST},
 };
 
 const WidgetLink links[] = {
@@ -86,20 +85,12 @@ std::string words_for(const Directory::Hits& found) {
                       : filled(text_or_name("goto_found_best"), {all, shown});
 }
 
-void choose(int place) {
-  const std::vector<std::string>& names = list_names(at(LIST));
-  if (names.empty()) return;
-  const int last = static_cast<int>(names.size()) - 1;
-  XmListDeselectAllItems(at(LIST));
-  list_select(at(LIST), names[static_cast<std::size_t>(std::clamp(place, 0, last))]);
-}
-
 void show_hits() {
   Directory::Hits found = names_now().find(gettextf(at(NAME)), kMostShown);
   XtVaSetValues(at(FOUND), XmNlabelString, CompoundString(words_for(found).c_str()).get(), nullptr);
   hits = std::move(found.best);
   list_spots(at(LIST), hits);
-  choose(0);
+  list_select_place(at(LIST), 1);
 }
 
 /// Typing is no action of which the history takes note.
@@ -130,7 +121,7 @@ void choose_by_key(Widget, XtPointer, XEvent* event, Boolean* goes_on) {
   const int step = step_of(event->xkey);
   if (step == 0) return;
   *goes_on = False;
-  guarded([step] { choose(selected_place(at(LIST)) + step); });
+  guarded([step] { list_select_place(at(LIST), list_selected_place(at(LIST)) + step); });
 }
 
 Widget create_goto_field(Widget parent, char* name, ArgList arguments, Cardinal count) {
@@ -153,12 +144,6 @@ void goto_do_popup(Widget w, XtPointer, XtPointer) {
   show_dialog(at(FORM), Place::over);
   offer_text(at(NAME));
   give_keyboard(at(NAME));
-}
-
-/// The arrow keys only select.
-void goto_do_click(Widget w, XtPointer, XtPointer call) {
-  const XEvent* event = static_cast<XmListCallbackStruct*>(call)->event;
-  if (event && event->type == ButtonRelease) goto_do_go(w, nullptr, nullptr);
 }
 
 void goto_do_go(Widget w, XtPointer, XtPointer) {

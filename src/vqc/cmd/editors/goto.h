@@ -15,7 +15,6 @@ inline void delete_goto_dialog(Widget* record) { delete_dialog(record); }
 
 void goto_do_popup(Widget w, XtPointer, XtPointer);
 /// Goes to the hit that has been clicked, or is selected, and closes the window.
-void goto_do_click(Widget w, XtPointer, XtPointer call);
 void goto_do_go(Widget w, XtPointer, XtPointer);
 void goto_do_hide(Widget w, XtPointer, XtPointer);
 

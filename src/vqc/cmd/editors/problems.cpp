@@ -45,7 +45,7 @@ const WidgetRow rows[] = {
     {"problems_helpb",    XmCreatePushButton,   "problems_form",   on_press(vqc_do_help, "vqc_problems")},
     {"problems_text",     XmCreateScrolledText, "problems_form",   {}, TEXT},
     {"problems_found",    XmCreateLabel,        "problems_form",   {}, FOUND},
-    {"problems_list",     XmCreateScrolledList, "problems_form",   on_select(problems_do_click), LIST},
+    {"problems_list",     XmCreateScrolledList, "problems_form",   on_select(do_on_click<problems_do_go>), LIST},
 };
 
 const WidgetLink links[] = {
@@ -108,10 +108,7 @@ const Problem* selected_problem() {
 
 void select_again(const Problem& problem) {
   const auto again = std::ranges::find(shown->first, problem);
-  if (again == shown->first.end()) return;
-  const int place = static_cast<int>(again - shown->first.begin()) + 1;
-  XmListSelectPos(at(LIST), place, False);
-  XmListSetBottomPos(at(LIST), place);
+  if (again != shown->first.end()) list_select_place(at(LIST), static_cast<int>(again - shown->first.begin()) + 1);
 }
 
 void list_problems() {
@@ -149,12 +146,6 @@ void problems_do_popup(Widget w, XtPointer, XtPointer) {
   on_problems = show_problems;
   show_dialog(at(FORM));
   show_problems();
-}
-
-/// The arrow keys only select.
-void problems_do_click(Widget w, XtPointer, XtPointer call) {
-  const XEvent* event = static_cast<XmListCallbackStruct*>(call)->event;
-  if (event && event->type == ButtonRelease) problems_do_go(w, nullptr, nullptr);
 }
 
 void problems_do_go(Widget w, XtPointer, XtPointer) {

@@ -16,7 +16,6 @@ inline void delete_problems_dialog(Widget* record) { delete_dialog(record); }
 void problems_do_popup(Widget w, XtPointer, XtPointer);
 
 // What its list and its buttons do: go where a problem is, and say what it means.
-void problems_do_click(Widget w, XtPointer, XtPointer call);
 void problems_do_go(Widget w, XtPointer, XtPointer);
 void problems_do_explain(Widget w, XtPointer, XtPointer);
 void problems_do_hide(Widget w, XtPointer, XtPointer);

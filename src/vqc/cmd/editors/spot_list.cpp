@@ -38,4 +38,9 @@ void list_spots(Widget list, const std::vector<Spot>& spots) {
 
 int selected_place(Widget list) { return list_selected_place(list) - 1; }
 
+bool is_click(XtPointer call) {
+  const XEvent* event = static_cast<XmListCallbackStruct*>(call)->event;
+  return event && event->type == ButtonRelease;
+}
+
 }  // namespace vqc::editors

@@ -23,6 +23,14 @@ void list_spots(Widget list, const std::vector<Spot>& spots);
 /// The place of a list's selected item, counted from 0; -1 where none is selected.
 int selected_place(Widget list);
 
+/// Whether a list calls because an item has been clicked, and not because a key has selected it.
+bool is_click(XtPointer call);
+/// Acts on an item that is clicked. The arrow keys only select.
+template <XtCallbackProc act>
+void do_on_click(Widget list, XtPointer, XtPointer call) {
+  if (is_click(call)) act(list, nullptr, nullptr);
+}
+
 }  // namespace vqc::editors
 
 #endif

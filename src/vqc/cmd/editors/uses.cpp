@@ -45,7 +45,7 @@ const WidgetRow rows[] = {
     {"uses_name",   XmCreateTextField,    "uses_form",   {}, NAME},
     {"uses_name_l", XmCreateLabel,        "uses_form"},
     {"uses_found",  XmCreateLabel,        "uses_form",   {}, FOUND},
-    {"uses_list",   XmCreateScrolledList, "uses_form",   {{{XmNbrowseSelectionCallback, uses_do_click}, {XmNdefaultActionCallback, uses_do_go}}}, LIST},
+    {"uses_list",   XmCreateScrolledList, "uses_form",   {{{XmNbrowseSelectionCallback, do_on_click<uses_do_go>}, {XmNdefaultActionCallback, uses_do_go}}}, LIST},
 };
 
 const WidgetLink links[] = {
@@ -153,12 +153,6 @@ void uses_do_show(Widget w, XtPointer, XtPointer) {
   const std::string name = gettextf(at(NAME));
   if (name != name_asked) thing_asked = std::nullopt;
   ask_for(name, thing_asked);
-}
-
-/// The arrow keys only select.
-void uses_do_click(Widget w, XtPointer, XtPointer call) {
-  const XEvent* event = static_cast<XmListCallbackStruct*>(call)->event;
-  if (event && event->type == ButtonRelease) uses_do_go(w, nullptr, nullptr);
 }
 
 void uses_do_go(Widget w, XtPointer, XtPointer) {

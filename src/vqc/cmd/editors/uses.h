@@ -28,7 +28,6 @@ void refresh_uses();
 /// Shows who uses whatever has the name that has been typed.
 void uses_do_show(Widget w, XtPointer, XtPointer);
 /// Goes to the user that has been clicked, or is selected.
-void uses_do_click(Widget w, XtPointer, XtPointer call);
 void uses_do_go(Widget w, XtPointer, XtPointer);
 void uses_do_hide(Widget w, XtPointer, XtPointer);
 

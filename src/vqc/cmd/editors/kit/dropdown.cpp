@@ -48,44 +48,26 @@ void item_clicked(Widget, XtPointer, XtPointer call) {
   if (open_list) take(static_cast<std::size_t>(static_cast<XmListCallbackStruct*>(call)->item_position) - 1);
 }
 
-/// Counted from 1.
-int selected_place() {
-  int* places = nullptr;
-  int count = 0;
-  if (!XmListGetSelectedPos(open_list->list, &places, &count)) return 0;
-  const int place = places[0];
-  XtFree(reinterpret_cast<char*>(places));
-  return place;
-}
+int selected_place() { return list_selected_place(open_list->list); }
 
-void select(int place) {
-  int count = 0;
-  int top = 0;
-  int rows = 0;
-  Widget list = open_list->list;
-  XtVaGetValues(list, XmNitemCount, &count, XmNtopItemPosition, &top, XmNvisibleItemCount, &rows, nullptr);
-  place = std::clamp(place, 1, count);
-  XmListSelectPos(list, place, False);
-  if (place < top) XmListSetPos(list, place);
-  if (place >= top + rows) XmListSetBottomPos(list, place);
-}
+void move_selection(int rows) { list_select_place(open_list->list, selected_place() + rows); }
 
 /// Does what a key does in the list. False when that is nothing.
 bool act_on(KeySym key) {
   switch (key) {
     case XK_Down:
     case XK_KP_Down:
-      select(selected_place() + 1);
+      move_selection(1);
       return true;
     case XK_Up:
     case XK_KP_Up:
-      select(selected_place() - 1);
+      move_selection(-1);
       return true;
     case XK_Page_Down:
-      select(selected_place() + kMostRows);
+      move_selection(kMostRows);
       return true;
     case XK_Page_Up:
-      select(selected_place() - kMostRows);
+      move_selection(-kMostRows);
       return true;
     case XK_Return:
     case XK_KP_Enter:
@@ -172,7 +154,7 @@ void show_dropdown(Widget field, const std::vector<std::string>& items, TakeItem
   place_below(field, list);
   if (!open_list) watch(field);
   open_list = {field, list, std::move(take_item), std::move(escaped)};
-  select(1);
+  list_select_place(list, 1);
   XtPopup(shell_around(list), XtGrabNone);
 }
 

@@ -115,9 +115,16 @@ std::string list_selected(Widget list) {
 
 void list_select(Widget list, Name name) {
   const int place = list_position(list, name);
-  if (place == 0) return;
-  XmListSelectPos(list, place, False);
-  bring_into_view(list, place);
+  if (place != 0) list_select_place(list, place);
+}
+
+void list_select_place(Widget list, int place) {
+  int count = 0;
+  XtVaGetValues(list, XmNitemCount, &count, nullptr);
+  if (count == 0) return;
+  const int nearest = std::clamp(place, 1, count);
+  XmListSelectPos(list, nearest, False);
+  bring_into_view(list, nearest);
 }
 
 std::string clicked_name(Widget list, const XmListCallbackStruct& call) {

@@ -30,6 +30,8 @@ int list_selected_place(Widget list);
 std::string list_selected(Widget list);
 /// Selects a name and scrolls so that it is seen; calls nobody.
 void list_select(Widget list, Name name);
+/// The same of a place; the nearest one where the list has no such place.
+void list_select_place(Widget list, int place);
 /// The name that a click on a list means.
 std::string clicked_name(Widget list, const XmListCallbackStruct& call);
 
