@@ -84,10 +84,7 @@ bool act_on(KeySym key) {
 
 /// The toolkit is not told of keys that are meant for the list: Return would press a button, and Escape another.
 void key_pressed(Widget, XtPointer, XEvent* event, Boolean* go_on) {
-  constexpr unsigned kModifiers = ShiftMask | ControlMask | Mod1Mask;
-  KeySym key = NoSymbol;
-  XLookupString(&event->xkey, nullptr, 0, &key, nullptr);
-  if (open_list && !(event->xkey.state & kModifiers) && act_on(key)) *go_on = False;
+  if (open_list && act_on(plain_key(event))) *go_on = False;
 }
 
 void focus_lost(Widget, XtPointer, XtPointer) { hide_dropdown(); }

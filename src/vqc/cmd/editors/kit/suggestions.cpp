@@ -60,10 +60,8 @@ void typed(Widget field, XtPointer suggestions, XtPointer) {
 }
 
 void key_pressed(Widget field, XtPointer suggestions, XEvent* event, Boolean* go_on) {
-  constexpr unsigned kModifiers = ShiftMask | ControlMask | Mod1Mask;
-  KeySym key = NoSymbol;
-  XLookupString(&event->xkey, nullptr, 0, &key, nullptr);
-  if ((key != XK_Down && key != XK_KP_Down) || event->xkey.state & kModifiers) return;
+  const KeySym key = plain_key(event);
+  if (key != XK_Down && key != XK_KP_Down) return;
   guarded([&] { show_matching(field, *static_cast<const Suggestions*>(suggestions)); });
   *go_on = False;
 }

@@ -1,7 +1,8 @@
-// Asks the toolkit about widgets.
+// Asks the toolkit about widgets and keys.
 
 #include "vqc/cmd/editors/kit/widgets.h"
 
+#include <X11/Xutil.h>
 #include <Xm/MenuShell.h>
 #include <Xm/RowColumn.h>
 #include <Xm/Text.h>
@@ -39,5 +40,13 @@ std::string characters_in(Widget text) {
 }
 
 void set_characters(Widget text, std::string characters) { XmTextSetString(text, characters.data()); }
+
+KeySym plain_key(XEvent* event) {
+  constexpr unsigned kModifiers = ShiftMask | ControlMask | Mod1Mask;
+  if (event->xkey.state & kModifiers) return NoSymbol;
+  KeySym key = NoSymbol;
+  XLookupString(&event->xkey, nullptr, 0, &key, nullptr);
+  return key;
+}
 
 }  // namespace vqc::editors

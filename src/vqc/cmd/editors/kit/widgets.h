@@ -1,7 +1,7 @@
 #ifndef VQC_CMD_EDITORS_KIT_WIDGETS_H
 #define VQC_CMD_EDITORS_KIT_WIDGETS_H
 
-// What the toolkit has to be asked in several steps about a widget.
+// What the toolkit has to be asked in several steps about a widget, or about a key.
 
 #include <Xm/Xm.h>
 
@@ -27,6 +27,9 @@ bool is_text(Widget w);
 /// The characters in it, as the locale encodes them.
 std::string characters_in(Widget text);
 void set_characters(Widget text, std::string characters);
+
+/// The key that is pressed; NoSymbol where Shift, Ctrl or Alt is held.
+KeySym plain_key(XEvent* event);
 
 }  // namespace vqc::editors
 
