@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "vqc/cmd/editors/document_files.h"
 #include "vqc/cmd/editors/facts.h"
 #include "vqc/cmd/editors/kit/main_shell.h"
 #include "vqc/cmd/editors/kit/memory.h"
@@ -16,13 +17,6 @@ namespace {
 
 std::optional<ProblemFinder> finder;
 std::shared_ptr<const Problems> found = std::make_shared<const Problems>();
-
-/// The file that has not been read whole, if it is the last one that was read.
-struct Unread {
-  std::string path;
-  std::shared_ptr<const Source> file;
-};
-Unread unread;
 
 void take_found(XtPointer, int*, XtInputId*) {
   guarded([] {
@@ -47,10 +41,9 @@ void begin() {
 void check_document(std::shared_ptr<const State> state, const std::optional<std::string>& path) {
   if (!finder) begin();
   const std::string folder = std::filesystem::path(path.value_or("")).parent_path();
-  finder->take({std::move(state), folder, path == unread.path ? unread.file : nullptr});
+  const UnreadRest* unread = unread_rest();
+  finder->take({std::move(state), folder, unread ? unread->file : nullptr});
 }
-
-void note_unread(const std::string& path, std::shared_ptr<const Source> file) { unread = {path, std::move(file)}; }
 
 const std::shared_ptr<const Problems>& problems_found() { return found; }
 

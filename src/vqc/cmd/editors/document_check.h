@@ -7,7 +7,6 @@
 #include <optional>
 #include <string>
 
-#include "libkel/source.h"
 #include "vqc/cmd/history/state.h"
 #include "vqc/cmd/problems/find_problems.h"
 
@@ -15,10 +14,6 @@ namespace vqc::editors {
 
 /// The document says that now, and belongs to the file of that path.
 void check_document(std::shared_ptr<const State> state, const std::optional<std::string>& path);
-
-/// A document has been read from the file of that path, or written to it. `file` is what that holds if it has not been
-/// read whole, else null.
-void note_unread(const std::string& path, std::shared_ptr<const Source> file);
 
 /// What has been found last.
 const std::shared_ptr<const Problems>& problems_found();

@@ -3,11 +3,10 @@
 #include "vqc/cmd/editors/document_files.h"
 
 #include <memory>
+#include <utility>
 
 #include "libkel/leafnm.h"
 #include "libkel/message.h"
-#include "vqc/cmd/editors/document_check.h"
-#include "vqc/cmd/editors/facts.h"
 #include "vqc/cmd/editors/kit/edited_document.h"
 #include "vqc/cmd/editors/kit/status_line.h"
 #include "vqc/cmd/editors/outside_changes.h"
@@ -20,6 +19,9 @@ namespace vqc::editors {
 
 namespace {
 
+/// Of the file that has been read last, whatever the document's is now.
+std::optional<UnreadRest> unread;
+
 /// Shows what has ended a reading early: of the syntax errors, the first of the process.
 void show_errors(const LoadResult& result, const Diagnostics& findings) {
   if (result.out_of_memory) error_show("out_of_memory");
@@ -30,9 +32,10 @@ void show_errors(const LoadResult& result, const Diagnostics& findings) {
   if (no_document) error_show("bad_save_file");
 }
 
-void note_fresh(const std::string& path, int unread_from) {
-  note_file_known(path);
-  note_unread_from(path, unread_from);
+void note_fresh(std::shared_ptr<const Source> source, int unread_from) {
+  note_file_known(source->name());
+  unread.reset();
+  if (unread_from > 0) unread = {unread_from, std::move(source)};
 }
 
 void say_what_was_read(const std::string& path, bool fresh, int unread_from) {
@@ -61,8 +64,7 @@ int parseit(std::optional<std::string>& path, int fresh) {
   const LoadResult result = load(source, edited_document, findings);
   show_errors(result, findings);
   const int unread_from = result.first_error ? result.first_error->line : 0;
-  if (fresh) note_fresh(*path, unread_from);
-  if (fresh) note_unread(*path, unread_from > 0 ? source : nullptr);
+  if (fresh) note_fresh(source, unread_from);
   if (result.has_header) {
     say_what_was_read(*path, fresh != 0, unread_from);
     return 1;
@@ -73,6 +75,8 @@ int parseit(std::optional<std::string>& path, int fresh) {
   return 0;
 }
 
+const UnreadRest* unread_rest() { return unread && save_file == unread->file->name() ? &*unread : nullptr; }
+
 bool write_save_file(const char* path) {
   const bool is_foreign = is_changed_outside(path);
   keep_before(path, is_foreign ? Reason::changed_outside : Reason::before_save);
@@ -82,7 +86,7 @@ bool write_save_file(const char* path) {
   closefile(*out);
   dirty = false;
   note_file_known(path);
-  note_unread(path, nullptr);
+  unread.reset();
   say(is_foreign ? "kept_outside" : "saved_as", {leafnm(path)});
   return true;
 }

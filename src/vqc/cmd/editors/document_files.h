@@ -3,8 +3,11 @@
 
 // Loads the document that is being edited, and saves it.
 
+#include <memory>
 #include <optional>
 #include <string>
+
+#include "libkel/source.h"
 
 namespace vqc::editors {
 
@@ -16,6 +19,14 @@ inline int parse_errors = 0;
 /// otherwise; a file that could not be opened, or a fresh document with a bad header, also loses its name: `path` is
 /// none then. Failures are shown. The caller clears `dirty`.
 int parseit(std::optional<std::string>& path, int fresh);
+
+/// What has not been read of the document's file, since reading broke off at a syntax error.
+struct UnreadRest {
+  int from_line;
+  std::shared_ptr<const Source> file;  // all of it
+};
+/// Null where the file has been read whole, or has been written since.
+const UnreadRest* unread_rest();
 
 /// Writes the document to the file `path`, replacing it, and clears `dirty`. False when the file cannot be opened,
 /// which changes nothing. Failures are shown; a failure to write stops nothing.

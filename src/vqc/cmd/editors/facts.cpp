@@ -12,6 +12,7 @@
 
 #include "libkel/leafnm.h"
 #include "libkel/message.h"
+#include "vqc/cmd/editors/document_files.h"
 #include "vqc/cmd/editors/kit/counts.h"
 #include "vqc/cmd/editors/kit/edited_document.h"
 #include "vqc/cmd/editors/kit/part_names.h"
@@ -27,13 +28,6 @@ struct Problems {
   int warnings = 0;
 };
 Problems problems;
-
-/// It belongs to the file of that name: another document has been read whole.
-struct Unread {
-  int from_line = 0;
-  std::optional<std::string> path;
-};
-Unread unread;
 
 std::string unsaved;
 
@@ -68,8 +62,8 @@ std::vector<std::string> all_facts() {
   if (dirty) name += std::string(" ") + text_or_name("changed_mark");
   std::vector<std::string> facts{name, unsaved};
   if (save_file && is_read_only(save_file_path())) facts.emplace_back(text_or_name("read_only"));
-  if (unread.from_line > 0 && unread.path == save_file) {
-    facts.push_back(filled(text_or_name("incomplete"), {unread.from_line}));
+  if (const UnreadRest* unread = unread_rest()) {
+    facts.push_back(filled(text_or_name("incomplete"), {unread->from_line}));
   }
   facts.push_back(found_problems());
   std::erase(facts, "");
@@ -88,8 +82,6 @@ void note_problems(int errors, int warnings) {
   problems = {errors, warnings};
   show();
 }
-
-void note_unread_from(const std::optional<std::string>& path, int line) { unread = {line, path}; }
 
 void show_facts(const std::shared_ptr<const State>& now, const std::shared_ptr<const State>& in_file) {
   static std::pair<std::shared_ptr<const State>, std::shared_ptr<const State>> compared;  // most actions change neither

@@ -4,8 +4,6 @@
 // What is so with the document, on the right of the status lines.
 
 #include <memory>
-#include <optional>
-#include <string>
 
 #include "vqc/cmd/history/state.h"
 
@@ -13,8 +11,6 @@ namespace vqc::editors {
 
 /// How many problems the document has.
 void note_problems(int errors, int warnings);
-/// A document has been read from that file up to a line only; 0 when it has been read whole, or written.
-void note_unread_from(const std::optional<std::string>& path, int line);
 
 /// Shows all of it, with what the document says now and what its file says, null where that is unknown.
 void show_facts(const std::shared_ptr<const State>& now, const std::shared_ptr<const State>& in_file);

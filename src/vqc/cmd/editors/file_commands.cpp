@@ -12,7 +12,6 @@
 
 #include "libkel/message.h"
 #include "vqc/cmd/editors/document_files.h"
-#include "vqc/cmd/editors/facts.h"
 #include "vqc/cmd/editors/familylist.h"
 #include "vqc/cmd/editors/goto.h"
 #include "vqc/cmd/editors/kit/compound.h"
@@ -155,7 +154,6 @@ void file_in_use() {
 void save_document() {
   if (!write_save_file(save_file_path())) return;
   note_saving();
-  note_unread_from(save_file, 0);
   file_in_use();
   run_save_op();
   save_op = SaveOp::none;
