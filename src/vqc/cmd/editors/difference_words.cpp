@@ -47,10 +47,6 @@ std::string with_verb(Verb verb, const std::string& what) {
   return filled(text_or_name(verb_messages[static_cast<std::size_t>(verb)]), {what.c_str()});
 }
 
-void add_to_list(std::string& list, const std::string& words) {
-  list = list.empty() ? words : filled(text_or_name("differs_and"), {list.c_str(), words.c_str()});
-}
-
 /// What owns a part, or refers to it.
 Part owner_of(Part part) {
   if (part == Part::resource) return Part::widget;

@@ -26,6 +26,7 @@
 #include "vqc/cmd/editors/generated_paths.h"
 #include "vqc/cmd/editors/kit/columns.h"
 #include "vqc/cmd/editors/kit/compound.h"
+#include "vqc/cmd/editors/kit/counts.h"
 #include "vqc/cmd/editors/kit/cursor.h"
 #include "vqc/cmd/editors/kit/diff_text.h"
 #include "vqc/cmd/editors/kit/edited_document.h"
@@ -111,20 +112,12 @@ bool is_right() {
   return errors == 0;
 }
 
-std::string with_comma(const std::string& list, const std::string& words) {
-  return list.empty() ? words : filled(text_or_name("differs_and"), {list.c_str(), words.c_str()});
-}
-
 /// What becomes of stubs, in numbers; empty where all stay.
 std::string words_of_stubs(const KeptStubs& stubs) {
-  std::string words;
-  const auto add = [&](const char* message, int number) {
-    if (number > 0) words = with_comma(words, filled(text_or_name(message), {number}));
-  };
-  add("genall_adds", stubs.new_stubs);
-  add("genall_retires", stubs.retired);
-  add("genall_revives", stubs.revived);
-  return words;
+  const Count counts[] = {{stubs.new_stubs, "genall_adds", "genall_adds"},
+                          {stubs.retired, "genall_retires", "genall_retires"},
+                          {stubs.revived, "genall_revives", "genall_revives"}};
+  return in_words(counts);
 }
 
 std::string words_of(const FilePlan& plan) {
@@ -159,8 +152,10 @@ void say_of_stubs(FilePlan& plan, const KeptStubs& stubs) {
   plan.changes.insert(plan.changes.begin(), messages.begin(), messages.end());
   if (!stubs.text) {
     plan.words = text_or_name("genall_blocked");
-  } else if (const std::string words = words_of_stubs(stubs); !words.empty()) {
-    plan.words = with_comma(words, plan.words);
+  } else {
+    std::string words = words_of_stubs(stubs);
+    add_to_list(words, plan.words);
+    plan.words = words;
   }
 }
 
@@ -233,8 +228,9 @@ std::string summary(const Plan& plan) {
   for (const FilePlan& each : plan.files) {
     if (!each.is_written()) continue;
     const auto lines = static_cast<int>(std::ranges::count(each.file.text, '\n'));
+    const char* name = leafnm(each.file.path.c_str());
     const int changed = std::max(count_lines(each.changes, Tint::added), count_lines(each.changes, Tint::removed));
-    words = with_comma(words, filled(text_or_name("genall_file"), {leafnm(each.file.path.c_str()), lines, changed}));
+    add_to_list(words, filled(text_or_name("genall_file"), {name, lines, changed}));
   }
   return filled(text_or_name("genall_wrote"), {words.c_str()});
 }

@@ -6,6 +6,10 @@
 
 namespace vqc::editors {
 
+void add_to_list(std::string& list, const std::string& words) {
+  list = list.empty() ? words : filled(text_or_name("differs_and"), {list.c_str(), words.c_str()});
+}
+
 std::string in_words(const Count& count) {
   return filled(text_or_name(count.number == 1 ? count.one : count.several), {count.number});
 }
@@ -13,7 +17,7 @@ std::string in_words(const Count& count) {
 std::string in_words(std::span<const Count> counts) {
   std::string words;
   for (const Count& count : counts) {
-    if (count.number > 0) words += (words.empty() ? "" : ", ") + in_words(count);
+    if (count.number > 0) add_to_list(words, in_words(count));
   }
   return words;
 }

@@ -6,6 +6,9 @@
 
 namespace vqc::editors {
 
+/// Puts words at the end of a list, such as "1 error, 2 warnings".
+void add_to_list(std::string& list, const std::string& words);
+
 /// A number of things, and the messages for one of them and for several.
 struct Count {
   int number;
