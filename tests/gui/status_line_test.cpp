@@ -165,6 +165,10 @@ TEST_F(StatusLine, SaysHowManyLinesAGenerationHasWritten) {
   press("family_genstubs_b");
   choose_file("gen_fsb", path);
   EXPECT_EQ("Wrote stubs.c: " + lines + " lines, 0 changed", said());
+  write_file(path, text + "one\ntwo\n");
+  press("family_genstubs_b");
+  choose_file("gen_fsb", path);
+  EXPECT_EQ("Wrote stubs.c: " + lines + " lines, 2 changed", said()) << "two have gone";
 }
 
 TEST_F(StatusLine, ShowsTheDocumentItsMarkAndTheNumberOfThings) {

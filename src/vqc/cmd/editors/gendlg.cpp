@@ -140,7 +140,7 @@ void say_what_was_written(const std::string& path, const Source* before) {
   const char* name = leafnm(path.c_str());
   const auto lines = static_cast<int>(std::ranges::count(after->text(), '\n'));
   if (!before || before->text().size() + after->text().size() > kMostCompared) return say("wrote", {name, lines});
-  say("wrote_changed", {name, lines, count_lines(changed_lines(before->text(), after->text()), Tint::added)});
+  say("wrote_changed", {name, lines, changed_count(changed_lines(before->text(), after->text()))});
 }
 
 }  // namespace

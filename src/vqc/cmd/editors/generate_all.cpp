@@ -229,8 +229,7 @@ std::string summary(const Plan& plan) {
     if (!each.is_written()) continue;
     const auto lines = static_cast<int>(std::ranges::count(each.file.text, '\n'));
     const char* name = leafnm(each.file.path.c_str());
-    const int changed = std::max(count_lines(each.changes, Tint::added), count_lines(each.changes, Tint::removed));
-    add_to_list(words, filled(text_or_name("genall_file"), {name, lines, changed}));
+    add_to_list(words, filled(text_or_name("genall_file"), {name, lines, changed_count(each.changes)}));
   }
   return filled(text_or_name("genall_wrote"), {words.c_str()});
 }

@@ -91,4 +91,8 @@ int count_lines(const TintedLines& lines, Tint tint) {
   return static_cast<int>(std::ranges::count(lines, tint, &TintedLine::tint));
 }
 
+int changed_count(const TintedLines& lines) {
+  return std::max(count_lines(lines, Tint::added), count_lines(lines, Tint::removed));
+}
+
 }  // namespace vqc::editors

@@ -35,6 +35,8 @@ TintedLines changed_lines(std::string_view from, std::string_view to);
 
 /// How many of the lines have a tint.
 int count_lines(const TintedLines& lines, Tint tint);
+/// How many lines have changed: one that has another in its place counts once.
+int changed_count(const TintedLines& lines);
 
 }  // namespace vqc::editors
 
