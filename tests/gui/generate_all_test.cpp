@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <filesystem>
 #include <regex>
@@ -65,6 +67,15 @@ TEST_F(GenerateAll, ShowsWhatEachFileWouldHoldAndWritesNothing) {
   press("genall_closeb");
   EXPECT_FALSE(is_shown("genall_dialog"));
   EXPECT_FALSE(std::filesystem::exists(config()));
+}
+
+TEST_F(GenerateAll, ReadsNoDocumentThatHasNoEnd) {
+  open_document(document);
+  const std::string path = folder / "document.vqc";
+  std::filesystem::remove(path);
+  ASSERT_EQ(0, mkfifo(path.c_str(), 0600));
+  open_window();
+  EXPECT_TRUE(is_shown("genall_dialog"));
 }
 
 TEST_F(GenerateAll, WritesWhatTheCommandsForOneFileWrite) {

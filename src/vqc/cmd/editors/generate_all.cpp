@@ -106,7 +106,7 @@ std::optional<OutputPaths> output_paths() {
 bool is_right() {
   const std::filesystem::path path = save_file.value_or("");
   const Problems problems =
-      find_problems({capture(edited_document, nullptr), path.parent_path(), Source::read(path.c_str())});
+      find_problems({capture(edited_document, nullptr), path.parent_path(), Source::read_regular(path.c_str())});
   const auto errors = static_cast<int>(problems.count(Severity::error));
   if (errors > 0) say("genall_errors", {errors, problems.first.front().words.c_str()});
   return errors == 0;
