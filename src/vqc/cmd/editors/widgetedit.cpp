@@ -32,6 +32,7 @@
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
 #include "vqc/cmd/editors/title.h"
+#include "vqc/cmd/lookup/namings.h"
 #include "vqc/cmd/savefile/fields.h"
 
 namespace vqc::editors {
@@ -411,8 +412,7 @@ void select_resource(Name name) {
 void complete_fields(Widget* record) {
   for (const auto& [slot, member] : text_fields) {
     for (const Field<WidgetDef>& field : widget_fields) {
-      if (field.text() && *field.text() == member && names_something(field.kind))
-        complete_value(record[slot], field.kind);
+      if (field.text() && *field.text() == member && named_by(field.kind)) complete_value(record[slot], field.kind);
     }
   }
   complete_value(record[POPUP], ValueKind::popup);

@@ -7,8 +7,6 @@
 #include <span>
 #include <string_view>
 
-#include "vqc/cmd/lookup/namings.h"
-
 namespace vqc {
 
 namespace {
@@ -41,10 +39,6 @@ void add_values_in(Names& names, const List& records, std::span<const Field<Reco
 std::vector<std::string> listed(const Names& names) { return {names.begin(), names.end()}; }
 
 }  // namespace
-
-bool names_something(ValueKind kind) {
-  return kind == ValueKind::header || kind == ValueKind::popup || is_procedure(kind);
-}
 
 std::vector<std::string> completions(const Document& document, ValueKind kind) {
   Names names;

@@ -9,9 +9,6 @@
 
 namespace vqc {
 
-/// Whether values of a kind name something that more than one record may name.
-bool names_something(ValueKind kind);
-
 /// The names that a document has for values of a kind, in alphabetical order, each once: what stands in fields of the
 /// kind, and the popups or headers that the document lists.
 std::vector<std::string> completions(const Document& document, ValueKind kind);
