@@ -1,6 +1,7 @@
 #ifndef LIBKEL_TEXT_H
 #define LIBKEL_TEXT_H
 
+#include <string>
 #include <string_view>
 
 namespace vqc {
@@ -32,6 +33,9 @@ class Text {
 
 /// `text`, or null where it is empty: what an optional value given as '' means.
 constexpr Text non_empty(Text text) { return text.empty() ? Text() : text; }
+
+/// A copy of a text; empty for null.
+inline std::string string_of(Text text) { return std::string(text.view()); }
 
 }  // namespace vqc
 

@@ -80,8 +80,6 @@ bool is_in_family(const Inspection& inspection, const Record& record) {
   }
 }
 
-inline std::string string_of(Text text) { return std::string(text.view()); }
-
 // The rules, by the files in which they stand. check.cpp has their table.
 
 // references.cpp

@@ -28,8 +28,6 @@ namespace {
 
 using Chosen = std::optional<Spot>;
 
-std::string string_of(Text text) { return std::string(text.view()); }
-
 /// What stands in a field, as a thing of that kind; none where nothing stands there.
 Chosen named_in(Widget field, Part part) {
   const std::string name = gettextf(field);

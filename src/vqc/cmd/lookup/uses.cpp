@@ -33,8 +33,6 @@ int& count_for(Part by, UseCounts& counts) {
   }
 }
 
-std::string string_of(Text text) { return std::string(text.view()); }
-
 }  // namespace
 
 std::vector<Spot> uses_of(const Document& document, const Spot& thing) {

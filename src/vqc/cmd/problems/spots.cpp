@@ -22,8 +22,6 @@ struct Standing {
   std::optional<Kw> field = {};
 };
 
-std::string string_of(Text text) { return std::string(text.view()); }
-
 Spot spot_of(const Standing& standing) {
   return {.part = standing.part,
           .name = string_of(standing.name),
