@@ -15,11 +15,6 @@ namespace vqc {
 
 namespace {
 
-/// The parts that a family's lists have, in the order of each_family_list().
-constexpr Part list_parts[] = {Part::widget,        Part::enumeration, Part::alias,
-                               Part::converter,     Part::code_header, Part::family_header,
-                               Part::config_header, Part::popup,       Part::page};
-
 template <class States>
 using ByName = std::unordered_map<std::string_view, const typename States::value_type*>;
 
@@ -147,7 +142,7 @@ class Comparison {
   void compare_family(const FamilyState& from, const FamilyState& to) {
     bool in_order = true;
     for (std::size_t i = 0; i < to.lists.size(); ++i) {
-      in_order = compare_names(from.lists[i], to.lists[i], list_parts[i], to.name) && in_order;
+      in_order = compare_names(from.lists[i], to.lists[i], family_list_parts[i], to.name) && in_order;
     }
     if (!in_order) add(ORDER, {Verb::reordered, Part::family, to.name});
     add_if_changed<FamilyInit>(Part::family, to.name, from, to);

@@ -24,7 +24,7 @@ struct EnumState : EnumFields {
 
 struct FamilyState : FamilyInit {
   Text name;
-  std::array<std::vector<Text>, 9> lists;  // of names, in the order of each_family_list()
+  std::array<std::vector<Text>, std::size(family_list_parts)> lists;  // of names, in the order of each_family_list()
 
   bool operator==(const FamilyState&) const = default;
 };

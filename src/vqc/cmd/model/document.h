@@ -12,6 +12,7 @@
 #include "libkel/source.h"
 #include "vqc/cmd/model/builtin.h"
 #include "vqc/cmd/model/options.h"
+#include "vqc/cmd/model/part.h"
 #include "vqc/cmd/model/records.h"
 
 namespace vqc {
@@ -181,6 +182,11 @@ void each_family_list(Visit visit) {
   visit(&Family::popups, &Document::popups);
   visit(&Family::pages, &Document::pages);
 }
+
+/// The parts that these lists have, in the same order.
+constexpr Part family_list_parts[] = {Part::widget,        Part::enumeration, Part::alias,
+                                      Part::converter,     Part::code_header, Part::family_header,
+                                      Part::config_header, Part::popup,       Part::page};
 
 // What is done by name tells by a code how it went: 0 when it was done.
 

@@ -109,15 +109,8 @@ class Walk {
     const Standing whole{Part::family, family.name};
     at(static_cast<const void*>(&family), whole);
     values<FamilyInit>(whole, family, family_init_fields);
-    references(Part::widget, family, family.widgets);
-    references(Part::enumeration, family, family.enumerations);
-    references(Part::alias, family, family.aliases);
-    references(Part::converter, family, family.converters);
-    references(Part::code_header, family, family.code_headers);
-    references(Part::config_header, family, family.config_headers);
-    references(Part::family_header, family, family.family_headers);
-    references(Part::popup, family, family.popups);
-    references(Part::page, family, family.pages);
+    std::size_t i = 0;
+    each_family_list([&](auto list, auto /*pool*/) { references(family_list_parts[i++], family, family.*list); });
   }
 
   template <class References>
