@@ -6,14 +6,12 @@
 
 #include <string>
 
-#include "vqc/cmd/editors/aliaslist.h"
 #include "vqc/cmd/editors/convlist.h"
-#include "vqc/cmd/editors/entity_dialog.h"
+#include "vqc/cmd/editors/entity.h"
 #include "vqc/cmd/editors/enumedit.h"
 #include "vqc/cmd/editors/enumlist.h"
 #include "vqc/cmd/editors/familyinit.h"
 #include "vqc/cmd/editors/familylist.h"
-#include "vqc/cmd/editors/headerlists.h"
 #include "vqc/cmd/editors/kit/fields.h"
 #include "vqc/cmd/editors/kit/widgets.h"
 #include "vqc/cmd/editors/pagelist.h"
@@ -45,38 +43,15 @@ Chosen named_by(Widget focus, const Field<Record> (&fields)[n], Widget (*field_f
 }
 
 /// The record that stands in the name field of a list editor, which the buttons act on.
-Chosen in_name_field(const ListEditor& editor, Part part, const std::string& of = {}) {
+Chosen in_name_field(const ListEditor& editor, const std::string& of = {}) {
   const std::string name = gettextf(editor.name_field());
-  return editor.names.has(name) ? Chosen({part, name, of}) : std::nullopt;
+  return editor.names.has(name) ? Chosen({editor.part, name, of}) : std::nullopt;
 }
 
-Chosen in_main_window(Widget) { return in_name_field(family_editor, Part::family); }
-
-struct ListOnPage {
-  EntitySlot page;
-  const ListEditor& editor;
-  Part part;
-};
-const ListOnPage pages[] = {
-    {WIDGETLIST_BOX, widgetlist_editor, Part::widget},
-    {ENUMLIST_BOX, enumlist_editor, Part::enumeration},
-    {ALIASLIST_BOX, aliaslist_editor, Part::alias},
-    {CONVERTER_BOX, converterlist_editor, Part::converter},
-    {CODEHEADERLIST_BOX, codeheaderlist_editor, Part::code_header},
-    {FAMILYHEADERLIST_BOX, familyheaderlist_editor, Part::family_header},
-    {CONFHEADERLIST_BOX, confheaderlist_editor, Part::config_header},
-};
-
-bool is_shown_page(EntitySlot page) {
-  Boolean is_mapped = False;
-  XtVaGetValues(entity_dialog[page], XmNmappedWhenManaged, &is_mapped, nullptr);
-  return is_mapped;
-}
+Chosen in_main_window(Widget) { return in_name_field(family_editor); }
 
 Chosen on_page_of_family() {
-  for (const ListOnPage& each : pages) {
-    if (is_shown_page(each.page)) return in_name_field(each.editor, each.part);
-  }
+  if (const ListEditor* editor = entity_shown_list()) return in_name_field(*editor);
   const Family* family = family_getcurrent();
   return family ? Chosen({Part::family, string_of(family->name)}) : std::nullopt;
 }
@@ -118,7 +93,7 @@ Chosen in_enumeration_editor(Widget focus) {
   if (!element) return std::nullopt;
   const std::string name = string_of(element->record->name);
   const bool is_on_type = focus == enumedit_field(Kw::type_name);
-  const Chosen entry = is_on_type ? std::nullopt : in_name_field(enumentry_editor, Part::entry, name);
+  const Chosen entry = is_on_type ? std::nullopt : in_name_field(enumentry_editor, name);
   return entry ? entry : Chosen({Part::enumeration, name});
 }
 

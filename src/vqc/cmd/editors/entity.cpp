@@ -150,7 +150,7 @@ Widget* create_entity_dialog(Widget parent) {
   watch_aliaslist(record);
   watch_converter(record);
   watch_familyinit(record);
-  search_in(record[ENTITY_SEARCH], [] { return shown_list; });
+  search_in(record[ENTITY_SEARCH], entity_shown_list);
   return record;
 }
 
@@ -161,6 +161,8 @@ int entity_show() {
   if (is_new) XmProcessTraversal(first_field(entity_dialog[WIDGETLIST_BOX]), XmTRAVERSE_CURRENT);
   return 1;
 }
+
+const ListEditor* entity_shown_list() { return shown_list; }
 
 bool entity_show_page(EntitySlot page) {
   if (entity_show() == 0) return false;

@@ -4,6 +4,7 @@
 // The family dialog: everything that belongs to a family, a page for each kind.
 
 #include "vqc/cmd/editors/entity_dialog.h"
+#include "vqc/cmd/editors/kit/list_editor.h"
 #include "vqc/cmd/model/records.h"
 
 namespace vqc::editors {
@@ -17,6 +18,9 @@ int entity_show();
 /// Shows the dialog with one of its pages, of which it is the slot, and the keyboard on it. False when it cannot be
 /// made.
 bool entity_show_page(EntitySlot page);
+
+/// The list of the page that is shown; null where that has none.
+const ListEditor* entity_shown_list();
 
 /// Shows the page given as client data instead of the others, when the toggle has been set.
 void entity_do_show_page(Widget toggle, XtPointer page, XtPointer call);
