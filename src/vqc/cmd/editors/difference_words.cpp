@@ -3,6 +3,7 @@
 #include "vqc/cmd/editors/difference_words.h"
 
 #include <iterator>
+#include <string_view>
 
 #include "libkel/message.h"
 #include "vqc/cmd/editors/kit/counts.h"
@@ -58,13 +59,17 @@ std::string name_of_part(const Difference& difference) {
   return difference.of ? name + " (" + part_name(owner_of(difference.part), difference.of) + ")" : name;
 }
 
+/// "  + page = look"
+std::string assignment(const char* mark, std::string_view field, const std::string& value) {
+  return mark + std::string(field) + " = " + value;
+}
+
 void add_lines(TintedLines& lines, const RecordDifference& difference) {
   const auto verb = static_cast<std::size_t>(difference.verb);
   lines.push_back({tints[verb], marks[verb] + name_of_part(difference)});
   for (const auto& [field, from, to] : difference.fields) {
-    const std::string assigned = std::string(field) + " = ";
-    if (!from.empty()) lines.push_back({Tint::removed, "  - " + assigned + from});
-    if (!to.empty()) lines.push_back({Tint::added, "  + " + assigned + to});
+    if (!from.empty()) lines.push_back({Tint::removed, assignment("  - ", field, from)});
+    if (!to.empty()) lines.push_back({Tint::added, assignment("  + ", field, to)});
   }
 }
 

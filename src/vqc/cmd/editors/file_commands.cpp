@@ -187,10 +187,18 @@ bool load_document() {
 }
 
 std::span<const CommandKey> file_command_keys() {
-  static constexpr CommandKey keys[] = {{'o', open_do_popup},     {'s', save_do_popup},    {'S', saveas_do_popup},
-                                        {'q', do_exit},           {'z', undo_do},          {'Z', redo_do},
-                                        {'y', redo_do},           {'k', goto_do_popup},    {'u', uses_do_popup},
-                                        {'p', problems_do_popup}, {'t', resources_do_popup}, {XK_F2, rename_do_popup}};
+  static constexpr CommandKey keys[] = {{'o', open_do_popup},
+                                        {'s', save_do_popup},
+                                        {'S', saveas_do_popup},
+                                        {'q', do_exit},
+                                        {'z', undo_do},
+                                        {'Z', redo_do},
+                                        {'y', redo_do},
+                                        {'k', goto_do_popup},
+                                        {'u', uses_do_popup},
+                                        {'p', problems_do_popup},
+                                        {'t', resources_do_popup},
+                                        {XK_F2, rename_do_popup}};
   return keys;
 }
 
@@ -202,7 +210,7 @@ void show_document() {
 
 LoadResult restore_kept(std::string_view text, Reason reason) {
   edited_document.clear();
-  const LoadResult result = load_kept(text, reason, edited_document);
+  LoadResult result = load_kept(text, reason, edited_document);
   dirty = true;
   show_document();
   options_dialog_load();

@@ -38,11 +38,12 @@ class Directory::Maker {
 
   void arrange() {
     std::uint32_t end = 0;
-    for (std::size_t i = 0; i < counts_.size(); ++i) directory_.names_[i].end = end += counts_[i];
+    auto name = directory_.names_.begin();
+    for (const std::uint32_t count : counts_) (name++)->end = end += count;
     directory_.places_.resize(found_.size());
-    for (auto each = found_.rbegin(); each != found_.rend(); ++each) {
-      const std::size_t place = directory_.begin_of(each->name) + --counts_[each->name];
-      directory_.places_[place] = each->place;
+    for (std::size_t i = found_.size(); i-- > 0;) {
+      const auto& [of_name, place] = found_[i];
+      directory_.places_[directory_.begin_of(of_name) + --counts_[of_name]] = place;
     }
   }
 
@@ -57,7 +58,7 @@ class Directory::Maker {
 
   /// About how many names there are.
   static std::size_t size_of(const Document& document) {
-    std::size_t size = document.widgets.size() * 2;
+    std::size_t size = std::size_t{2} * document.widgets.size();
     for (const WidgetDef& widget : document.widgets) size += widget.resource_definitions.size();
     return size;
   }

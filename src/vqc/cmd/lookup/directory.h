@@ -42,7 +42,7 @@ class Directory {
   };
 
   std::size_t begin_of(std::size_t name) const { return name == 0 ? 0 : names_[name - 1].end; }
-  std::size_t number_of(Key key) const { return static_cast<std::uint32_t>(key); }
+  static std::size_t number_of(Key key) { return static_cast<std::uint32_t>(key); }
   void match(std::string_view typed);
   Spot spot_at(std::size_t name, std::size_t place) const;
 
