@@ -1,20 +1,25 @@
 // Measures what a user of the editor waits for. Needs a display.
 //
 //   editor start [DOCUMENT]           ends when the main window has been mapped and painted
-//   editor act DOCUMENT FAMILY        prints the CPU milliseconds of single actions, one "action milliseconds" a line;
-//                                     the document has a family of that name
+//   editor act DOCUMENT FAMILY        prints the CPU milliseconds of single actions, one "action milliseconds" a line,
+//                                     and at last how much memory it has taken, in megabytes; the document has a
+//                                     family of that name
 //
-// The program's own callbacks are called, as the buttons call them, and all events that follow are served.
+// The program's own callbacks are called, as the buttons call them, and all events that follow are served. What the
+// user waits for is counted: not what other threads do, or this one when it is idle.
 
 #include <X11/Intrinsic.h>
 #include <Xm/List.h>
 #include <Xm/SelectioB.h>
 #include <Xm/TextF.h>
+#include <sys/resource.h>
 
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <ctime>
 #include <string>
+#include <thread>
 
 #include "desktop/search_path.h"
 #include "vqc/cmd/application/command_line.h"
@@ -39,6 +44,17 @@ void settle() {
   }
 }
 
+/// Lets the program finish what it leaves for when it is idle.
+void rest() {
+  constexpr int kQuiet = 20;  // less than what a text cursor blinks in
+  constexpr std::chrono::milliseconds kMoment(10);
+  for (int quiet = 0; quiet < kQuiet; ++quiet) {
+    if (XtAppPending(context())) quiet = 0;
+    settle();
+    std::this_thread::sleep_for(kMoment);
+  }
+}
+
 void wait_until_mapped() {
   for (bool mapped = false; !mapped;) {
     XEvent event;
@@ -51,7 +67,7 @@ void wait_until_mapped() {
 
 double milliseconds() {
   timespec now;
-  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
   return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
 }
 
@@ -61,6 +77,7 @@ void measure(const char* name, Action action) {
   action();
   settle();
   std::printf("%s %.3f\n", name, milliseconds() - before);
+  rest();
 }
 
 Widget named(const std::string& name) { return XtNameToWidget(main_shell(), const_cast<char*>(("*" + name).c_str())); }
@@ -78,7 +95,11 @@ void name_in(const char* box, const char* name) {
   XmTextFieldSetString(XtNameToWidget(named(box), const_cast<char*>("Text")), const_cast<char*>(name));
 }
 
-void act(const char* family) {
+void type_at_end(Widget field, const char* text) {
+  XmTextFieldInsert(field, XmTextFieldGetLastPosition(field), const_cast<char*>(text));
+}
+
+void act_in_lists(const char* family) {
   name_in("family_selection", family);
   measure("open_family_dialog", [] { press_in("family_selection", "OK"); });
   Widget families = list_of("family_selection");
@@ -102,6 +123,43 @@ void act(const char* family) {
   });
   measure("add_resource", [] { press(named("we_resource_upd_b")); });
   measure("delete_widget", [] { press_in("widgetlist_selection", "Cancel"); });
+  measure("undo", [] { press(named("family_undob")); });
+  measure("redo", [] { press(named("family_redob")); });
+}
+
+void search() {
+  measure("open_go_to", [] { press(named("family_gotob")); });
+  for (const char* letter : {"r", "e", "s"}) {
+    measure(letter[0] == 'r' ? "go_to_first_letter" : "go_to_next_letter",
+            [letter] { type_at_end(named("goto_name"), letter); });
+  }
+  measure("close_go_to", [] { press(named("goto_closeb")); });
+  measure("open_problems", [] { press(named("family_problemsb")); });
+  measure("open_uses", [] { press(named("family_usesb")); });
+  type_at_end(named("uses_name"), "settings");
+  measure("show_uses", [] { press(named("uses_showb")); });
+}
+
+void act_in_table() {
+  measure("open_table", [] { press(named("family_resourcesb")); });
+  measure("filter_table", [] { type_at_end(named("resources_filter"), "1"); });
+  measure("filter_table_further", [] { type_at_end(named("resources_filter"), "2"); });
+  XmTextFieldSetString(named("resources_filter"), const_cast<char*>(""));
+  rest();
+  measure("sort_table", [] { press(named("resources_sort_menu_name")); });
+  measure("select_all_rows", [] { press(named("resources_allb")); });
+  type_at_end(named("resources_value"), "bench");
+  measure("set_all_rows", [] { press(named("resources_setb")); });
+  measure("undo_all_rows", [] { press(named("family_undob")); });
+}
+
+void act(const char* family) {
+  act_in_lists(family);
+  search();
+  act_in_table();
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  std::printf("memory %.0f\n", static_cast<double>(usage.ru_maxrss) / 1024);
 }
 
 int stop(const char* message) {

@@ -19,8 +19,8 @@ namespace vqc::editors {
 
 namespace {
 
-/// Of the file that has been read last, whatever the document's is now.
-std::optional<UnreadRest> unread;
+/// Of the file that has been read last, whatever the document's is now; without a file where nothing is left.
+UnreadRest unread;
 
 /// Shows what has ended a reading early: of the syntax errors, the first of the process.
 void show_errors(const LoadResult& result, const Diagnostics& findings) {
@@ -34,8 +34,7 @@ void show_errors(const LoadResult& result, const Diagnostics& findings) {
 
 void note_fresh(std::shared_ptr<const Source> source, int unread_from) {
   note_file_known(source->name());
-  unread.reset();
-  if (unread_from > 0) unread = {unread_from, std::move(source)};
+  unread = {unread_from, unread_from > 0 ? std::move(source) : nullptr};
 }
 
 void say_what_was_read(const std::string& path, bool fresh, int unread_from) {
@@ -75,7 +74,7 @@ int parseit(std::optional<std::string>& path, int fresh) {
   return 0;
 }
 
-const UnreadRest* unread_rest() { return unread && save_file == unread->file->name() ? &*unread : nullptr; }
+const UnreadRest* unread_rest() { return unread.file && save_file == unread.file->name() ? &unread : nullptr; }
 
 bool write_save_file(const char* path) {
   const bool is_foreign = is_changed_outside(path);
@@ -86,7 +85,7 @@ bool write_save_file(const char* path) {
   closefile(*out);
   dirty = false;
   note_file_known(path);
-  unread.reset();
+  unread = {};
   say(is_foreign ? "kept_outside" : "saved_as", {leafnm(path)});
   return true;
 }

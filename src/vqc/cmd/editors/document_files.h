@@ -22,7 +22,7 @@ int parseit(std::optional<std::string>& path, int fresh);
 
 /// What has not been read of the document's file, since reading broke off at a syntax error.
 struct UnreadRest {
-  int from_line;
+  int from_line = 0;
   std::shared_ptr<const Source> file;  // all of it
 };
 /// Null where the file has been read whole, or has been written since.
