@@ -146,20 +146,29 @@ void act_in_table() {
   measure("filter_table_further", [] { type_at_end(named("resources_filter"), "2"); });
   XmTextFieldSetString(named("resources_filter"), const_cast<char*>(""));
   rest();
-  measure("sort_table", [] { press(named("resources_sort_menu_name")); });
+  XtVaSetValues(named("resources_sort_opt"), XmNmenuHistory, named("resources_sort_menu_name"), nullptr);
+  measure("sort_table", [] { XtCallCallbacks(named("resources_descending"), XmNvalueChangedCallback, nullptr); });
   measure("select_all_rows", [] { press(named("resources_allb")); });
   type_at_end(named("resources_value"), "bench");
   measure("set_all_rows", [] { press(named("resources_setb")); });
   measure("undo_all_rows", [] { press(named("family_undob")); });
 }
 
-void act(const char* family) {
-  act_in_lists(family);
-  search();
-  act_in_table();
+/// The most that the program has held so far.
+void print_memory(const char* when) {
   rusage usage{};
   getrusage(RUSAGE_SELF, &usage);
-  std::printf("memory %.0f\n", static_cast<double>(usage.ru_maxrss) / 1024);
+  std::printf("memory_%s %.0f\n", when, static_cast<double>(usage.ru_maxrss) / 1024);
+}
+
+void act(const char* family) {
+  print_memory("start");
+  act_in_lists(family);
+  print_memory("lists");
+  search();
+  print_memory("search");
+  act_in_table();
+  print_memory("table");
 }
 
 int stop(const char* message) {

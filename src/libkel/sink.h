@@ -2,6 +2,7 @@
 #define LIBKEL_SINK_H
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -44,6 +45,9 @@ class Sink {
   std::size_t used_ = 0;
   int error_ = 0;  // the first errno
 };
+
+/// Something that writes a text into a sink, the same each time.
+using WriteText = std::function<void(Sink& out)>;
 
 /// A file that is written in place: what was in it goes first.
 class FileSink : public Sink {

@@ -59,6 +59,32 @@ bool read_all(int descriptor, Growing& read) {
   }
 }
 
+class CountingSink : public Sink {
+ public:
+  std::size_t size() const { return size_; }
+
+ private:
+  bool take(std::string_view text) override {
+    size_ += text.size();
+    return true;
+  }
+
+  std::size_t size_ = 0;
+};
+
+class BytesSink : public Sink {
+ public:
+  explicit BytesSink(char* to) : to_(to) {}
+
+ private:
+  bool take(std::string_view text) override {
+    to_ += text.copy(to_, text.size());
+    return true;
+  }
+
+  char* to_;
+};
+
 }  // namespace
 
 std::shared_ptr<const Source> Source::read(const char* path) {
@@ -87,6 +113,17 @@ std::shared_ptr<const Source> Source::from_text(std::string_view text, std::stri
   Bytes bytes(text.size() + 1);
   text.copy(bytes.get(), text.size());
   return std::shared_ptr<const Source>(new Source(std::move(name), std::move(bytes), text.size()));
+}
+
+std::shared_ptr<const Source> Source::written_by(const WriteText& write) {
+  CountingSink count;
+  write(count);
+  count.finish();
+  Bytes bytes(count.size() + 1);
+  BytesSink out(bytes.get());
+  write(out);
+  out.finish();
+  return std::shared_ptr<const Source>(new Source({}, std::move(bytes), count.size()));
 }
 
 Source::Source(std::string name, Bytes bytes, std::size_t size)

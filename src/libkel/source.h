@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "libkel/large_memory.h"
+#include "libkel/sink.h"
 
 namespace vqc {
 
@@ -55,6 +56,8 @@ class Source {
   static std::shared_ptr<const Source> read(int descriptor, std::string name);
   /// A text that is in memory already.
   static std::shared_ptr<const Source> from_text(std::string_view text, std::string name = {});
+  /// A text that is written, twice: how large it is has to be known, so that no more memory is taken than it needs.
+  static std::shared_ptr<const Source> written_by(const WriteText& write);
 
   const std::string& name() const { return name_; }
   /// All of it. A NUL that does not count follows.

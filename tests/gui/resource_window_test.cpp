@@ -347,6 +347,17 @@ TEST_F(LongResourceWindow, SelectsARangeBeyondWhatIsInView) {
   EXPECT_NE(std::string::npos, saved_item("widget 'W398'").find("all"));
 }
 
+void count_exposures(Widget, XtPointer count, XEvent*, Boolean*) { ++*static_cast<int*>(count); }
+
+TEST_F(LongResourceWindow, RestsWhenItIsLeftAlone) {
+  key("End");
+  int exposures = 0;
+  wait_for([] { return false; }, 0.3);
+  XtAddEventHandler(widget("resources_list"), ExposureMask | StructureNotifyMask, False, count_exposures, &exposures);
+  wait_for([] { return false; }, 0.5);
+  EXPECT_EQ(0, exposures);
+}
+
 TEST_F(LongResourceWindow, ShowsMoreRowsWhenItIsLarger) {
   const std::size_t before = names().size();
   XtVaSetValues(widget("resources_dialog"), XmNheight, 800, nullptr);

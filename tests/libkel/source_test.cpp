@@ -84,6 +84,26 @@ TEST(SourceFromText, IsACopy) {
   EXPECT_EQ("name", source->name());
 }
 
+TEST(SourceWrittenBy, HoldsWhatIsWritten) {
+  const auto source = Source::written_by([](Sink& out) {
+    out.write("two\n");
+    out.write("lines");
+  });
+  EXPECT_EQ("two\nlines", source->text());
+  EXPECT_EQ('\0', source->text().data()[source->text().size()]);
+  EXPECT_EQ(2U, source->place(source->text().size()).line);
+}
+
+TEST(SourceWrittenBy, MayBeOfAnySize) {
+  const std::string part(50'000, 'x');
+  for (const int parts : {0, 1, 2, 20}) {
+    const auto source = Source::written_by([&](Sink& out) {
+      for (int i = 0; i < parts; ++i) out.write(part);
+    });
+    EXPECT_EQ(std::string(part.size() * static_cast<std::size_t>(parts), 'x'), source->text()) << parts;
+  }
+}
+
 TEST(SourceFromText, GivesTheTextOfARange) { EXPECT_EQ("bc", Source::from_text("abcd")->text({1, 3})); }
 
 // Places.

@@ -25,7 +25,7 @@ class TabSeparated : public DocumentTest {
   TabSeparated() {
     read_document(
         "VQconfig\n"
-        "widget 'Dial' {\nresource_definitions='face', , 'faces', True, VQC_FREE_DEFAULT, VQC_FREE_DEFAULT access 1;\n}\nwidget 'Knob' {\n}\n");
+        "widget 'Dial' {\nresource_definitions='face', , 'faces', True, VQC_FREE_DEFAULT, VQC_FREE_DEFAULT access 1;\n}\nwidget 'Knob' {\n}\nfamily 'F' {\nwidget='Dial'\n}\n");
     document.dirty = false;
   }
   std::string text() { return as_text(resource_rows(document)); }
@@ -66,6 +66,13 @@ TEST_F(TabSeparated, ChangesAndAddsResources) {
   EXPECT_EQ(heading + std::string("Dial\tface\tother\t\t\tFalse\tVQC_FREE_DEFAULT\tVQC_FREE_DEFAULT\tcreate\n"
                                   "Knob\tknob\tknobs\t\t\tTrue\tVQC_FREE_DEFAULT\tVQC_FREE_DEFAULT\t\n"),
             text());
+}
+
+TEST_F(TabSeparated, PutsPagesIntoTheFamiliesOfTheirWidgets) {
+  paste_text(document, "widget\tname\tpage\nDial\tface\tnew\nKnob\tknob\tknobs\n");
+  const Family& family = *document.families.find(Text("F"));
+  EXPECT_TRUE(family.pages.find(Text("new")));
+  EXPECT_FALSE(family.pages.find(Text("knobs"))) << "it has no Knob";
 }
 
 TEST_F(TabSeparated, ALastLineNeedsNoEnd) {

@@ -124,9 +124,12 @@ std::error_code Journal::set_document(const fs::path& document) {
   return folder && begin(folder) && announce() ? std::error_code() : last_error();
 }
 
-std::error_code Journal::write(std::string_view text) {
+std::error_code Journal::write(const WriteText& write_state) {
   const PrivateFolder folder = PrivateFolder::make(folder_);
-  const bool written = folder && begin(folder) && folder.put(journal_file(id_), {head_of(document_), text});
+  const bool written = folder && begin(folder) && folder.put(journal_file(id_), [&](Sink& out) {
+    out.write(head_of(document_));
+    write_state(out);
+  });
   return written ? std::error_code() : last_error();
 }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "libkel/descriptor.h"
+#include "libkel/sink.h"
 
 namespace vqc {
 
@@ -43,7 +44,10 @@ class Journal {
   /// Says which document the session is on from now on.
   std::error_code set_document(const std::filesystem::path& document);
   /// Takes this text for the session's state. It is on the disk when this is done; until then the former one is.
-  std::error_code write(std::string_view text);
+  std::error_code write(const WriteText& write_state);
+  std::error_code write(std::string_view text) {
+    return write([text](Sink& out) { out.write(text); });
+  }
   /// Ends the session well: nothing is left of it. A journal that goes without this is abandoned.
   void end();
 

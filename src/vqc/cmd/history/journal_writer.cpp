@@ -11,14 +11,11 @@ namespace vqc {
 
 namespace {
 
-/// What a state says, as a document from which it can be read back.
-std::string text_of(const State& state) {
+/// Writes what a state says, as a document from which it can be read back.
+void write_state(const State& state, Sink& out) {
   Document document;
   restore(document, {}, state);
-  StringSink text;
-  save_whole(document, text);
-  text.finish();
-  return text.text();
+  save_whole(document, out);
 }
 
 }  // namespace
@@ -41,7 +38,7 @@ void JournalWriter::write(const Task& task) {
   std::error_code failure;
   try {
     failure = journal_.set_document(task.document);
-    const std::error_code unwritten = journal_.write(text_of(*task.state));
+    const std::error_code unwritten = journal_.write([&](Sink& out) { write_state(*task.state, out); });
     if (unwritten) failure = unwritten;
   } catch (const std::bad_alloc&) {
     failure = std::make_error_code(std::errc::not_enough_memory);

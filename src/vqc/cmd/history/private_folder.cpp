@@ -77,20 +77,19 @@ std::vector<std::string> PrivateFolder::names() const {
   return names;
 }
 
-bool PrivateFolder::write_beside(const std::string& temporary, std::initializer_list<std::string_view> parts) const {
-  Descriptor out = file(temporary, O_WRONLY | O_CREAT | O_EXCL);
+bool PrivateFolder::write_beside(const std::string& temporary, const WriteText& write) const {
+  Descriptor file_beside = file(temporary, O_WRONLY | O_CREAT | O_EXCL);
+  const auto out = file_beside ? FileSink::to_descriptor(file_beside.get()) : nullptr;
   if (!out) return false;
-  for (const std::string_view part : parts) {
-    if (!out.write(part)) return false;
-  }
-  return fsync(out.get()) == 0 && out.close();
+  write(*out);
+  return out->finish() && fsync(file_beside.get()) == 0 && file_beside.close();
 }
 
-bool PrivateFolder::put(const std::string& name, std::initializer_list<std::string_view> parts) const {
+bool PrivateFolder::put(const std::string& name, const WriteText& write) const {
   const std::string temporary = temporary_of(name);
   const int folder = folder_.get();
   unlinkat(folder, temporary.c_str(), 0);  // a killed writer may have left it
-  const bool is_put = write_beside(temporary, parts) &&
+  const bool is_put = write_beside(temporary, write) &&
                       renameat(folder, temporary.c_str(), folder, name.c_str()) == 0 &&
                       (fsync(folder) == 0 || errno == EINVAL);  // not all file systems do that for folders
   const int error = errno;

@@ -3,7 +3,6 @@
 
 #include <cerrno>
 #include <filesystem>
-#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,6 +11,7 @@
 #include <vector>
 
 #include "libkel/descriptor.h"
+#include "libkel/sink.h"
 
 namespace vqc {
 
@@ -42,16 +42,19 @@ class PrivateFolder {
   /// The names of its files, in no order.
   std::vector<std::string> names() const;
 
-  /// Makes or replaces a file that holds these parts, one behind the other. Whoever looks, and whenever this is killed,
-  /// finds it whole, as it was or as it is to be; once this is done, it is on the disk. Not for two writers of one file
-  /// at once. False when it cannot be done; errno says why.
-  bool put(const std::string& name, std::initializer_list<std::string_view> parts) const;
+  /// Makes or replaces a file that holds a text. Whoever looks, and whenever this is killed, finds it whole, as it was
+  /// or as it is to be; once this is done, it is on the disk. Not for two writers of one file at once. False when it
+  /// cannot be done; errno says why.
+  bool put(const std::string& name, const WriteText& write) const;
+  bool put(const std::string& name, std::string_view text) const {
+    return put(name, [text](Sink& out) { out.write(text); });
+  }
   /// Removes a file, if it is there, and what a killed writer of it has left.
   void remove(const std::string& name) const;
 
  private:
   explicit PrivateFolder(Descriptor folder) : folder_(std::move(folder)) {}
-  bool write_beside(const std::string& temporary, std::initializer_list<std::string_view> parts) const;
+  bool write_beside(const std::string& temporary, const WriteText& write) const;
 
   Descriptor folder_;
 };

@@ -50,7 +50,7 @@ std::error_code RecentDocuments::add(const fs::path& document) const {
   std::erase(paths, added);
   paths.insert(paths.begin(), added);
   paths.resize(std::min(paths.size(), kMost));
-  return folder.put(kFile, {text_of(paths)}) ? std::error_code() : last_error();
+  return folder.put(kFile, text_of(paths)) ? std::error_code() : last_error();
 }
 
 }  // namespace vqc

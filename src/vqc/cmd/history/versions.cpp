@@ -110,7 +110,7 @@ std::optional<Entries> read_index(const PrivateFolder& folder) {
 bool write_index(const PrivateFolder& folder, const Entries& entries) {
   std::string text;
   for (const Entry& entry : entries) text += line_of(entry);
-  return folder.put(kIndex, {text});
+  return folder.put(kIndex, text);
 }
 
 // Contents.
@@ -130,7 +130,7 @@ void add(Entries& entries, const Entry& entry) {
 }
 
 bool keep_content(const PrivateFolder& folder, const std::string& hash, std::string_view text) {
-  return content_of(folder, hash) || folder.put(hash, {text});
+  return content_of(folder, hash) || folder.put(hash, text);
 }
 
 // Thinning.

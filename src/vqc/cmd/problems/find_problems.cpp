@@ -74,10 +74,7 @@ void add_errors(const std::shared_ptr<const Source>& source, const char* note, P
 std::shared_ptr<const Source> text_of(const State& state, void (*write)(const Document&, Sink&)) {
   Document document;
   restore(document, {}, state);
-  StringSink text;
-  write(document, text);
-  text.finish();
-  return Source::from_text(text.text());
+  return Source::written_by([&](Sink& out) { write(document, out); });
 }
 
 /// Adds what is found in a document by its text. False where that has errors: nothing is added then.

@@ -67,16 +67,14 @@ void add_rows(ResourceRows& rows, WidgetDef& widget) {
   for (ResourceDef& resource : widget.resource_definitions) rows.push_back({&widget, &resource});
 }
 
-/// What a resource says once a column has been set.
-ResourceFields with_cell(Document& document, const ResourceFields& before, Column column, std::string_view text) {
+/// What a resource says once a column has been set. The text is the document's.
+ResourceFields with_cell(const ResourceFields& before, Column column, Text text) {
   ResourceFields after = before;
-  if (auto member = text_of(column)) {
-    if ((before.*member).view() != text) after.*member = text.empty() ? Text() : document.keep(Text(text));
-  }
-  if (column == Column::visible) after.visible = text == kFlagWords[true];
-  if (column == Column::free_get) after.free_get = static_cast<FreeMode>(*place_of(free_mode_words, text));
-  if (column == Column::free_set) after.free_set = static_cast<FreeMode>(*place_of(free_mode_words, text));
-  if (column == Column::access) after.access = *access_of(text);
+  if (auto member = text_of(column)) after.*member = text.empty() ? Text() : text;
+  if (column == Column::visible) after.visible = text.view() == kFlagWords[true];
+  if (column == Column::free_get) after.free_get = static_cast<FreeMode>(*place_of(free_mode_words, text.view()));
+  if (column == Column::free_set) after.free_set = static_cast<FreeMode>(*place_of(free_mode_words, text.view()));
+  if (column == Column::access) after.access = *access_of(text.view());
   return after;
 }
 
@@ -87,14 +85,14 @@ bool store(Document& document, ResourceDef& resource, const ResourceFields& fiel
   return true;
 }
 
-/// Gives a widget a resource like this one.
-ResourceRow copy(Document& document, const ResourceFields& resource, WidgetDef& widget, Changes& changes) {
+/// Gives a widget a resource like this one, and notes the row of it unless it has been so before.
+void copy(Document& document, const ResourceFields& resource, WidgetDef& widget, Changes& changes,
+          ResourceRows& copies) {
   const bool is_new = widget.resource_definitions.find(resource.name) == nullptr;
   ResourceDef* own = document.ensure(widget.resource_definitions, resource.name);
-  const bool is_other = store(document, *own, resource);
-  changes.added += is_new ? 1 : 0;
-  changes.changed += !is_new && is_other ? 1 : 0;
-  return {&widget, own};
+  if (!store(document, *own, resource) && !is_new) return;
+  ++(is_new ? changes.added : changes.changed);
+  copies.push_back({&widget, own});
 }
 
 }  // namespace
@@ -148,15 +146,15 @@ ResourceRows matching_rows(std::span<const ResourceRow> rows, Column column, std
 }
 
 void sort_rows(ResourceRows& rows, Column column, bool descending) {
-  std::vector<std::pair<std::string_view, ResourceRow>> keyed;
-  keyed.reserve(rows.size());
-  for (const ResourceRow& row : rows) keyed.emplace_back(cell(row, column), row);
-  const auto comes_first = [descending](const auto& a, const auto& b) {
-    return descending ? b.first < a.first : a.first < b.first;
-  };
-  if (std::ranges::is_sorted(keyed, comes_first)) return;
-  std::ranges::stable_sort(keyed, comes_first);
-  std::ranges::transform(keyed, rows.begin(), [](const auto& each) { return each.second; });
+  std::unordered_map<std::string_view, ResourceRows> rows_of;
+  for (const ResourceRow& row : rows) rows_of[cell(row, column)].push_back(row);
+  std::vector<std::string_view> cells;
+  cells.reserve(rows_of.size());
+  for (const auto& [text, same] : rows_of) cells.push_back(text);
+  std::ranges::sort(cells);
+  if (descending) std::ranges::reverse(cells);
+  rows.clear();
+  for (const std::string_view text : cells) rows.insert(rows.end(), rows_of[text].begin(), rows_of[text].end());
 }
 
 bool is_value(Column column, std::string_view text) {
@@ -189,21 +187,28 @@ std::vector<std::string> known_values(Column column) {
 }
 
 bool set_cell(Document& document, ResourceDef& resource, Column column, std::string_view text) {
-  return is_value(column, text) && store(document, resource, with_cell(document, resource, column, text));
+  if (!is_value(column, text)) return false;
+  const auto member = text_of(column);
+  if (member && (resource.*member).view() == text) return false;  // before the document keeps it once more
+  return store(document, resource, with_cell(resource, column, document.keep(Text(text))));
 }
 
 Changes set_cells(Document& document, std::span<const ResourceRow> rows, Column column, std::string_view text) {
-  Changes changes;
-  for (const ResourceRow& row : rows) changes.changed += set_cell(document, *row.resource, column, text) ? 1 : 0;
-  if (column == Column::page) pages_into_families(document, rows);
-  return changes;
+  if (!is_value(column, text)) return {};
+  const Text value = document.keep(Text(text));
+  ResourceRows changed;
+  std::ranges::copy_if(rows, std::back_inserter(changed), [&](const ResourceRow& row) {
+    return store(document, *row.resource, with_cell(*row.resource, column, value));
+  });
+  if (column == Column::page) pages_into_families(document, changed);
+  return {.changed = changed.size()};
 }
 
 Changes copy_rows(Document& document, std::span<const ResourceRow> rows, std::span<WidgetDef* const> widgets) {
   Changes changes;
   ResourceRows copies;
   for (WidgetDef* widget : widgets) {
-    for (const ResourceRow& row : rows) copies.push_back(copy(document, *row.resource, *widget, changes));
+    for (const ResourceRow& row : rows) copy(document, *row.resource, *widget, changes, copies);
   }
   pages_into_families(document, copies);
   return changes;

@@ -62,8 +62,8 @@ std::vector<std::string> known_values(Column column);
 /// something else than before. Whether it is.
 bool set_cell(Document& document, ResourceDef& resource, Column column, std::string_view text);
 
-// What follows changes the document, and marks it as changed where anything becomes another. Each page that a row names
-// then goes into all families that have its widget.
+// What follows changes the document, and marks it as changed where anything becomes another. The page that a row
+// gets then goes into all families that have its widget.
 
 struct Changes {
   std::size_t added = 0;    // resources

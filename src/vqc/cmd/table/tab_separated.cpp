@@ -141,20 +141,20 @@ class Paste {
     const bool is_new = !resource;
     if (is_new)
       resource = document_.ensure(resources, document_.keep(Text(std::string_view(cell(line, Column::name)))));
-    bool is_changed = false;
+    bool is_changed = is_new;
     for (std::size_t i = 0; i < columns_.size(); ++i) {
       if (is_settable(columns_[i])) is_changed |= set_cell(document_, *resource, columns_[i], line.cells[i]);
     }
+    if (!is_changed) return;
+    ++(is_new ? pasted_.added : pasted_.changed);
     rows_.push_back({widget, resource});
-    pasted_.added += is_new ? 1 : 0;
-    pasted_.changed += !is_new && is_changed ? 1 : 0;
   }
 
   Document& document_;
   CellReader reader_;
   std::vector<Column> columns_;
   std::vector<Line> lines_;
-  ResourceRows rows_;  // that have been put there
+  ResourceRows rows_;  // that are new or others now
   Pasted pasted_;
 };
 

@@ -25,6 +25,7 @@ struct LongList {
   Rows rows = {};
   std::vector<bool> selected = {};
   std::size_t top = 0;      // the first row in view
+  std::size_t filled = 0;   // how many there was room for when it was filled
   std::size_t current = 0;  // where the keyboard is
   std::size_t anchor = 0;   // where a range begins
   void (*when_selected)() = nullptr;
@@ -67,7 +68,7 @@ void fill_items(const LongList& list) {
     strings.push_back(item(list.rows.text(row), "long_list_row"));
   }
   std::vector<XmString> items(strings.begin(), strings.end());
-  XmListDeleteAllItems(list.list);
+  XmListDeselectAllItems(list.list);
   XtVaSetValues(list.list, XmNitems, items.data(), XmNitemCount, static_cast<int>(items.size()), nullptr);
 }
 
@@ -91,8 +92,8 @@ void set_bar(const LongList& list) {
 }
 
 void fill(LongList& list) {
-  const std::size_t rows = rows_in_view(list);
-  list.top = std::min(list.top, list.rows.count - std::min(rows, list.rows.count));
+  list.filled = rows_in_view(list);
+  list.top = std::min(list.top, list.rows.count - std::min(list.filled, list.rows.count));
   fill_items(list);
   mark_selected(list);
   set_bar(list);
@@ -211,8 +212,10 @@ void scrolled(Widget, XtPointer of_list, XtPointer call) {
   guarded([&] { fill(list); });
 }
 
+/// Filling may bring the other bar or take it away, which changes the size again.
 void resized(Widget w, XtPointer, XEvent* event, Boolean*) {
-  if (event->type == ConfigureNotify) guarded([w] { fill(list_of(w)); });
+  LongList& list = list_of(w);
+  if (event->type == ConfigureNotify && list.filled != rows_in_view(list)) guarded([&] { fill(list); });
 }
 
 void destroyed(Widget w, XtPointer, XtPointer) { all_lists().erase(w); }

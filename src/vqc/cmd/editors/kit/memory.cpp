@@ -2,6 +2,8 @@
 
 #include "vqc/cmd/editors/kit/memory.h"
 
+#include <malloc.h>
+
 #include <cstddef>
 #include <memory>
 
@@ -27,6 +29,13 @@ void keep_reserve() {
 }
 
 }  // namespace
+
+void give_back_large_blocks() {
+#ifdef M_MMAP_THRESHOLD
+  constexpr int kLarge = 1024 * 1024;
+  mallopt(M_MMAP_THRESHOLD, kLarge);
+#endif
+}
 
 void survive_short_memory() {
   std::set_new_handler(run_short);

@@ -8,6 +8,10 @@
 
 namespace vqc::editors {
 
+/// From now on large blocks go back to the system when they are freed. The C library would keep as much as each thread
+/// has ever had.
+void give_back_large_blocks();
+
 /// From now on an allocation that fails throws std::bad_alloc.
 void survive_short_memory();
 

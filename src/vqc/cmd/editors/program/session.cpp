@@ -117,6 +117,7 @@ const char* open_display(int* argc, char** argv) {
 }
 
 bool start_session(int argc, char** argv) {
+  give_back_large_blocks();
   survive_short_memory();
   std::signal(SIGPIPE, SIG_IGN);  // writing to a display that is lost is to end with Xlib's message
   register_converters();
