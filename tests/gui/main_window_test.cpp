@@ -4,9 +4,10 @@
 
 #include "gui/hands.h"
 #include "gui/looks.h"
-#include "gui/outside.h"
 #include "gui/pixels.h"
 #include "gui/session.h"
+
+#include <Xm/CutPaste.h>
 
 using namespace vqc;
 
@@ -49,6 +50,18 @@ TEST_F(MainWindow, FieldsHaveTheKeysOfTheClipboard) {
   EXPECT_EQ("", text("family_selection"));
   paste();
   EXPECT_EQ("NewDial", text("family_selection"));
+}
+
+/// Another program's copy of a text.
+void put_into_clipboard(std::string text) {
+  Display* display = XtDisplay(main_shell());
+  const Window window = XtWindow(main_shell());
+  XmString label = XmStringCreateLocalized(const_cast<char*>("copied"));
+  long item = 0;
+  XmClipboardStartCopy(display, window, label, CurrentTime, nullptr, nullptr, &item);
+  XmClipboardCopy(display, window, item, const_cast<char*>("STRING"), text.data(), text.size(), 0, nullptr);
+  XmClipboardEndCopy(display, window, item);
+  XmStringFree(label);
 }
 
 TEST_F(MainWindow, ATextThatIsTooLongToBeDrawnIsNotPasted) {

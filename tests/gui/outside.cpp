@@ -7,8 +7,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <Xm/CutPaste.h>
-
 #include <chrono>
 #include <filesystem>
 #include <memory>
@@ -67,15 +65,26 @@ void leave_state(const std::string& document, const std::string& text) {
   if (status != 0) throw std::runtime_error("no state could be left");
 }
 
-void put_into_clipboard(std::string text) {
-  Display* display = XtDisplay(main_shell());
-  const Window window = XtWindow(main_shell());
-  XmString label = XmStringCreateLocalized(const_cast<char*>("copied"));
-  long item = 0;
-  XmClipboardStartCopy(display, window, label, CurrentTime, nullptr, nullptr, &item);
-  XmClipboardCopy(display, window, item, const_cast<char*>("STRING"), text.data(), text.size(), 0, nullptr);
-  XmClipboardEndCopy(display, window, item);
-  XmStringFree(label);
+namespace {
+
+std::string text_of_old_program;
+
+/// What a program of old knows of selections.
+Boolean give_string(Widget, Atom*, Atom* target, Atom* type, XtPointer* value, unsigned long* length, int* format) {
+  if (*target != XA_STRING) return False;
+  *value = XtNewString(text_of_old_program.data());
+  *length = text_of_old_program.size();
+  *type = XA_STRING;
+  *format = 8;
+  return True;
+}
+
+}  // namespace
+
+void copy_as_old_program(std::string text) {
+  text_of_old_program = std::move(text);
+  XtOwnSelection(main_shell(), XInternAtom(XtDisplay(main_shell()), "CLIPBOARD", False),
+                 XtLastTimestampProcessed(XtDisplay(main_shell())), give_string, nullptr, nullptr);
 }
 
 std::string pasted_outside() {

@@ -18,8 +18,8 @@ bool wait_until_true(const std::function<bool()>& condition);
 /// What a session on a document leaves that is killed.
 void leave_state(const std::string& document, const std::string& text);
 
-/// Another program's copy of a text.
-void put_into_clipboard(std::string text);
+/// The copy of a text by another program, one of those that know no other texts than STRING.
+void copy_as_old_program(std::string text);
 /// The text that another program gets when it pastes.
 std::string pasted_outside();
 

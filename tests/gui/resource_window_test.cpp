@@ -224,7 +224,7 @@ TEST_F(ResourceWindow, CopiesAndPastesText) {
 
 TEST_F(ResourceWindow, TakesATextOfAnotherProgramOrSaysWhyNot) {
   const auto paste = [](const char* copied, const std::string& expected) {
-    put_into_clipboard(copied);
+    copy_as_old_program(copied);
     press("resources_pasteb");
     EXPECT_TRUE(wait_for([&] { return said("resources_form") == expected; })) << said("resources_form");
   };
@@ -263,6 +263,22 @@ TEST_F(ResourceWindow, FollowsTheDocument) {
   press("family_undob");
   expect_rows({"Dial face", "Dial hand", "Dial value", "Knob face"});
   EXPECT_EQ(Items{"Knob face"}, chosen_rows());
+}
+
+/// Before the program is idle.
+void press_at_once(const std::string& button) {
+  XmPushButtonCallbackStruct call{XmCR_ACTIVATE, nullptr, 1};
+  XtCallCallbacks(widget(button), XmNactivateCallback, &call);
+}
+
+TEST_F(ResourceWindow, KnowsItsRowsAgainAfterWhatIsUndoneAtOnce) {
+  click_on_row(2);
+  edit_family("Clocks");
+  select("widgetlist_selection", "Dial");
+  press_at_once("widgetlist_selection.Cancel");
+  press_at_once("family_undob");
+  press_at_once("resources_copyb");
+  EXPECT_NE(std::string::npos, pasted_outside().find("\nDial\thand\tlook\thand_popup\t"));
 }
 
 TEST_F(ResourceWindow, ShowsWhatItHasChangedInTheWidgetEditor) {

@@ -71,6 +71,21 @@ TEST_F(Unapplied, MarksTogglesAndMenusToo) {
   EXPECT_EQ("not applied", label("widgetedit_not_applied"));
 }
 
+TEST_F(Unapplied, ATypeIsAppliedWithoutAValueToo) {
+  open_document(dial);
+  edit_family("Athena");
+  edit_enumeration("Mode");
+  enter("enumedit_type", "XtRMode");
+  enter("enumedit_code_symbol", "FAST");
+  EXPECT_EQ("not applied", label("enumedit_not_applied"));
+  enter("enumedit_selection", "");
+  press_ok("enumedit_selection");
+  EXPECT_NE(std::string::npos, saved_item("enumeration 'Mode'").find("XtRMode"));
+  EXPECT_EQ("not applied", label("enumedit_not_applied")) << "the symbol is in no value";
+  enter("enumedit_code_symbol", "");
+  EXPECT_EQ("", label("enumedit_not_applied"));
+}
+
 TEST_F(Unapplied, UndoBringsBackWhatWasLeft) {
   edit_dial();
   enter("widgetedit_realise", "make_a_dial");

@@ -156,6 +156,7 @@ void enumentry_do_update(Widget w, XtPointer, XtPointer call) {
   say_unless_changed("nothing_changed", {part_name(Part::enumeration, enumeration->name).c_str()});
   dirty = true;
   gettextf(enumedit_dialog[TYPE], &enumeration->type_name);
+  note_one_applied(enumedit_dialog[TYPE]);
   with_name(w, call, enumentry_editor, accept_name);
 }
 

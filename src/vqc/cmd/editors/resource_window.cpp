@@ -115,6 +115,7 @@ struct Shown {
   std::size_t all = 0;  // of which these are those that are looked for
   std::array<std::size_t, all_columns.size()> widths = {};
   std::shared_ptr<const State> state;
+  bool is_outdated = false;  // also when the document is in that state again, for its records may be others
 };
 Shown shown;
 
@@ -181,7 +182,7 @@ std::string line_of(Say say) {
   return line;
 }
 
-bool is_up_to_date() { return shown.state == document_state(); }
+bool is_up_to_date() { return !shown.is_outdated && shown.state == document_state(); }
 
 /// Nothing for the moment in which the document is another already.
 std::string line_of_row(std::size_t row) {
@@ -369,6 +370,7 @@ void resources_do_popup(Widget w, XtPointer, XtPointer) {
 
 void refresh_resources() {
   constexpr unsigned long kMilliseconds = 10;
+  if (shown.state != document_state()) shown.is_outdated = true;
   if (!resources_dialog || !XtIsManaged(at(FORM)) || waits_for_idleness || is_up_to_date()) return;
   waits_for_idleness = true;
   XtAppAddTimeOut(XtWidgetToApplicationContext(at(FORM)), kMilliseconds, refresh_when_idle, nullptr);

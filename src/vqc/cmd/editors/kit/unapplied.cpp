@@ -159,10 +159,12 @@ ShowingField::~ShowingField() {
 void note_applied(Widget field) {
   const auto found = fields().find(field);
   if (found == fields().end()) return;
-  for (Widget w : groups[found->second.group].fields) {
-    fields().at(w).shown = value_of(w);
-    mark_with_group(w);
-  }
+  for (Widget w : groups[found->second.group].fields) note_one_applied(w);
+}
+
+void note_one_applied(Widget field) {
+  fields().at(field).shown = value_of(field);
+  mark_with_group(field);
 }
 
 void mark_unapplied() {

@@ -37,6 +37,8 @@ class ShowingField {
 
 /// What stands in a field, and in those that are applied together with it, is in the record now.
 void note_applied(Widget field);
+/// What stands in one of them is, whatever becomes of the others.
+void note_one_applied(Widget field);
 /// Brings all marks up to date.
 void mark_unapplied();
 
