@@ -230,7 +230,7 @@ TEST_F(ResourceWindow, TakesATextOfAnotherProgramOrSaysWhyNot) {
   };
   press("resources_pasteb");
   EXPECT_TRUE(wait_for([&] { return said("resources_form") == "There is no text on the clipboard"; }));
-  paste("widget\tname\tcolour\n", "Nothing pasted: line 1 names a column \"colour\"");
+  paste("widget\tname\tcolour\n", "Nothing pasted: line 1 names a column \"colour\", which is not there");
   paste("widget\tname\tpage\nPiano\tkey\tkeys\nDial\t\tkeys\n",
         "Nothing pasted: line 2 names a widget class Piano, which is not there; and 1 more");
   EXPECT_FALSE(is_sensitive("family_undob"));
@@ -300,6 +300,64 @@ TEST_F(ResourceWindow, GoesToTheSelectedResource) {
   ASSERT_TRUE(has_keyboard("widgetedit_dialog"));
   EXPECT_EQ("Widget: Knob", title("widgetedit_dialog"));
   EXPECT_EQ("face", text("we_resource_t"));
+}
+
+TEST_F(ResourceWindow, SelectsRowsThatAreApartWithKeysAlone) {
+  click_on_row(1);
+  key("ctrl+Down");
+  key("ctrl+Down");
+  EXPECT_EQ(Items{"Dial face"}, chosen_rows());
+  key("ctrl+space");
+  EXPECT_EQ((Items{"Dial face", "Dial value"}), chosen_rows());
+  key("ctrl+space");
+  EXPECT_EQ(Items{"Dial face"}, chosen_rows());
+  key("space");
+  EXPECT_EQ(Items{"Dial value"}, chosen_rows());
+  EXPECT_EQ("Rows selected: 1", said("resources_form"));
+}
+
+TEST_F(ResourceWindow, ShowsAsSelectedWhatIsWhenReturnIsPressed) {
+  click_on_row(4);
+  key("ctrl+Up");
+  key("Return");
+  ASSERT_TRUE(has_keyboard("widgetedit_dialog"));
+  EXPECT_EQ("Widget: Knob", title("widgetedit_dialog"));
+  EXPECT_EQ(Items{"Knob face"}, chosen_rows());
+}
+
+TEST_F(ResourceWindow, ReturnGoesToTheCurrentRowWhereNoneIsSelected) {
+  tab_to("resources_form", "resources_list");
+  key("Return");
+  ASSERT_TRUE(has_keyboard("widgetedit_dialog"));
+  EXPECT_EQ("face", text("we_resource_t"));
+  EXPECT_EQ(Items{"Dial face"}, chosen_rows());
+}
+
+TEST_F(ResourceWindow, TakesTheKeyboardWhereItIsClickedBelowItsRows) {
+  click("resources_list");
+  EXPECT_EQ("resources_list", focus("resources_form"));
+}
+
+TEST_F(ResourceWindow, SaysThatThereIsNoFamilyOfThatName) {
+  enter("resources_family", "Cl");
+  EXPECT_EQ("There is no family Cl", label("resources_found"));
+}
+
+TEST_F(ResourceWindow, OpensWithoutTheFilterOfLastTime) {
+  enter("resources_filter", "knob");
+  close("resources_dialog");
+  turn_to(main_shell());
+  key("ctrl+t");
+  ASSERT_TRUE(has_keyboard("resources_dialog"));
+  EXPECT_EQ("", text("resources_filter"));
+  EXPECT_EQ("4 of 4 resources", label("resources_found"));
+}
+
+TEST_F(ResourceWindow, TellsOtherCommandsWhatIsSelected) {
+  click_on_row(4);
+  key("F2");
+  ASSERT_TRUE(has_keyboard("rename_dialog"));
+  EXPECT_EQ("resource face of Knob", label("rename_old"));
 }
 
 TEST_F(ResourceWindow, ItsHeadingCannotBeSelected) {

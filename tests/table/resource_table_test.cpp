@@ -169,6 +169,19 @@ TEST_F(ResourceTable, KnowsTheValuesOfColumnsThatTakeNoOthers) {
   EXPECT_EQ(Texts(), known_values(Column::page));
 }
 
+TEST_F(ResourceTable, TakesCapitalsAsSpreadsheetsHaveThem) {
+  const ResourceRow dial = row("Dial", "face");
+  EXPECT_TRUE(set_cell(document, *dial.resource, Column::visible, "FALSE"));
+  EXPECT_EQ("False", cell(dial, Column::visible));
+  EXPECT_EQ(Column::free_get, column_of("Free_Get"));
+}
+
+TEST_F(ResourceTable, TakesTheWordsOfAnAccessInAnyOrderWithAnyBlanks) {
+  const ResourceRow dial = row("Dial", "face");
+  EXPECT_TRUE(set_cell(document, *dial.resource, Column::access, " set  get "));
+  EXPECT_EQ("get set", cell(dial, Column::access));
+}
+
 TEST_F(ResourceTable, NamesItsColumns) {
   for (const Column column : all_columns) EXPECT_EQ(column, column_of(column_word(column)));
   EXPECT_EQ(std::nullopt, column_of("colour"));

@@ -16,6 +16,7 @@
 #include "vqc/cmd/editors/kit/widgets.h"
 #include "vqc/cmd/editors/pagelist.h"
 #include "vqc/cmd/editors/popuplist.h"
+#include "vqc/cmd/editors/resource_window.h"
 #include "vqc/cmd/editors/widgetedit.h"
 #include "vqc/cmd/editors/widgetlist.h"
 #include "vqc/cmd/lookup/namings.h"
@@ -108,15 +109,18 @@ Chosen in_page_editor(Widget) {
   return page_picker.exists(name) ? Chosen({Part::page, name}) : std::nullopt;
 }
 
+Chosen in_resource_window(Widget) { return selected_resource(); }
+
 /// A window, by the record of its dialog, which has the shell in front.
 struct Window {
   Widget*& dialog;
   Chosen (*chosen)(Widget focus);
 };
 const Window windows[] = {
-    {family_dialog, in_main_window},       {entity_dialog, in_family_dialog},
-    {widgetedit_dialog, in_widget_editor}, {enumedit_dialog, in_enumeration_editor},
-    {popupedit_dialog, in_popup_editor},   {pageedit_dialog, in_page_editor},
+    {family_dialog, in_main_window},        {entity_dialog, in_family_dialog},
+    {widgetedit_dialog, in_widget_editor},  {enumedit_dialog, in_enumeration_editor},
+    {popupedit_dialog, in_popup_editor},    {pageedit_dialog, in_page_editor},
+    {resources_dialog, in_resource_window},
 };
 
 }  // namespace

@@ -79,7 +79,8 @@ std::string row_of(const Problem& problem) {
   const char* words = problem.words.c_str();
   if (problem.spot) return filled(text_or_name("problem_at_spot"), {severity, words, spot_name(*problem.spot).c_str()});
   if (!problem.line) return filled(text_or_name("problem_anywhere"), {severity, words});
-  const auto& [place, text] = *problem.line;
+  auto [place, text] = *problem.line;
+  std::ranges::replace(text, '\t', ' ');  // a list shows no tabs
   return filled(text_or_name("problem_at_line"),
                 {severity, words, static_cast<int>(place.line), static_cast<int>(place.column), text.c_str()});
 }

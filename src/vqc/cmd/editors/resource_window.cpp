@@ -212,12 +212,16 @@ Shown look() {
 
 /// "120 of 400000 resources"
 std::string words_of(const Shown& table) {
+  const std::string family = gettextf(at(FAMILY));
+  if (!family.empty() && !edited_document.families.find(Name(family))) {
+    return filled(text_or_name("resources_no_family"), {family.c_str()});
+  }
   const auto number = static_cast<int>(table.rows.size());
   return filled(text_or_name("resources_shown"), {number, static_cast<int>(table.all)});
 }
 
 void show_table() {
-  XtVaSetValues(at(FOUND), XmNlabelString, CompoundString(words_of(shown).c_str()).get(), nullptr);
+  XtVaSetValues(at(FOUND), XmNlabelString, CompoundString(displayable(words_of(shown)).c_str()).get(), nullptr);
   show_rows(at(LIST), {line_of(title_of), shown.rows.size(), line_of_row});
   recount();
 }
@@ -364,8 +368,17 @@ void resources_do_popup(Widget w, XtPointer, XtPointer) {
   if (!ensure_dialog(resources_dialog, create_resources_dialog)) return;
   const Family* family = window_around(w) == main_shell() ? nullptr : family_getcurrent();
   settextf(at(FAMILY), family ? Name(family->name) : Name(nullptr));
+  settextf(at(FILTER), nullptr);
   show_again();
   show_dialog(at(FORM));
+}
+
+std::optional<Spot> selected_resource() {
+  bring_up_to_date();
+  const ResourceRows selected = selected_resources();
+  if (selected.empty()) return std::nullopt;
+  const auto& [widget, resource] = selected.front();
+  return Spot{Part::resource, string_of(resource->name), string_of(widget->name)};
 }
 
 void refresh_resources() {
@@ -432,11 +445,9 @@ void resources_do_select_all(Widget w, XtPointer, XtPointer) {
 
 void resources_do_go(Widget w, XtPointer, XtPointer) {
   const BusyCursor busy(w);
-  bring_up_to_date();
-  const ResourceRows selected = selected_resources();
-  if (selected.empty()) return say("resources_unselected");
-  const auto& [widget, resource] = selected.front();
-  show_spot({Part::resource, std::string(resource->name.view()), std::string(widget->name.view())});
+  const std::optional<Spot> resource = selected_resource();
+  if (!resource) return say("resources_unselected");
+  show_spot(*resource);
 }
 
 void resources_do_hide(Widget, XtPointer, XtPointer) {

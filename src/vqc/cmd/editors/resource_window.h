@@ -3,7 +3,10 @@
 
 // The window with a table of the resources of a family, or of the document, in which many can be changed at once.
 
+#include <optional>
+
 #include "vqc/cmd/editors/kit/dialog.h"
+#include "vqc/cmd/model/part.h"
 
 namespace vqc::editors {
 
@@ -15,6 +18,8 @@ inline void delete_resources_dialog(Widget* record) { delete_dialog(record); }
 
 /// Shows the resources of the document, or, asked in another window than the main one, those of the current family.
 void resources_do_popup(Widget w, XtPointer, XtPointer);
+/// The first row that is selected; none where none is.
+std::optional<Spot> selected_resource();
 /// The document says something else now.
 void refresh_resources();
 

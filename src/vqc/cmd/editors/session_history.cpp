@@ -29,7 +29,6 @@
 #include "vqc/cmd/editors/step_names.h"
 #include "vqc/cmd/editors/stop.h"
 #include "vqc/cmd/editors/title.h"
-#include "vqc/cmd/editors/uses.h"
 #include "vqc/cmd/editors/widgetedit.h"
 #include "vqc/cmd/editors/widgetlist.h"
 #include "vqc/cmd/history/timeline.h"
@@ -87,7 +86,6 @@ void show_now() {
   vqc_set_title(save_file_path());
   refill_windows();
   select_again(timeline->now().selection);
-  refresh_uses();
 }
 
 /// Says in a menu item what it would do.
@@ -176,7 +174,6 @@ void note_action() {
     timeline->name_step(std::exchange(step_said, {}));
     hand_on_state();
     show_steps();
-    refresh_uses();
   }
   end_action(is_step ? done_name(timeline->previous(), timeline->now()) : std::string());
   show_facts(timeline->now().state, in_file);

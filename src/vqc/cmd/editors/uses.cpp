@@ -9,6 +9,7 @@
 #include <Xm/TextF.h>
 
 #include <algorithm>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -22,6 +23,7 @@
 #include "vqc/cmd/editors/kit/session_hooks.h"
 #include "vqc/cmd/editors/kit/status_line.h"
 #include "vqc/cmd/editors/kit/widgets.h"
+#include "vqc/cmd/editors/session_history.h"
 #include "vqc/cmd/editors/show_spot.h"
 #include "vqc/cmd/editors/spot_list.h"
 
@@ -61,6 +63,9 @@ constexpr std::size_t kMostShown = 1000;
 /// What the window is about: one thing that was chosen, or whatever has the name that was typed.
 std::string name_asked;
 std::optional<Spot> thing_asked;
+
+/// The document that has the users shown.
+std::shared_ptr<const State> state_shown;
 
 /// Where a press on each item of the list leads.
 std::vector<Spot> targets;
@@ -108,6 +113,7 @@ std::string summary_of(const std::vector<Spot>& things) {
 }
 
 void show_uses() {
+  state_shown = document_state();
   targets.clear();
   std::vector<Spot> users;
   const std::vector<Spot> things = things_meant();
@@ -145,7 +151,7 @@ void uses_do_popup(Widget w, XtPointer, XtPointer) {
 }
 
 void refresh_uses() {
-  if (uses_dialog && XtIsManaged(at(FORM))) show_uses();
+  if (uses_dialog && XtIsManaged(at(FORM)) && state_shown != document_state()) show_uses();
 }
 
 void uses_do_show(Widget w, XtPointer, XtPointer) {

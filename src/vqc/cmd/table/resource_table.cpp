@@ -3,6 +3,7 @@
 #include "vqc/cmd/table/resource_table.h"
 
 #include <algorithm>
+#include <cctype>
 #include <iterator>
 #include <sstream>
 #include <unordered_map>
@@ -34,6 +35,19 @@ std::optional<std::size_t> place_of(const Words& words, std::string_view word) {
   return static_cast<std::size_t>(found - std::begin(words));
 }
 
+/// Whether words differ in capitals only, which spreadsheets change.
+bool is_same_word(std::string_view a, std::string_view b) {
+  const auto lower = [](unsigned char c) { return std::tolower(c); };
+  return std::ranges::equal(a, b, {}, lower, lower);
+}
+
+std::optional<bool> flag_of(std::string_view text) {
+  for (const bool flag : {false, true}) {
+    if (is_same_word(text, kFlagWords[flag])) return flag;
+  }
+  return std::nullopt;
+}
+
 std::string_view access_text(int access) {
   if (access == ACCESS_NOT_GIVEN) return {};
   return kAccessTexts[static_cast<std::size_t>(access) % kAccessTexts.size()];
@@ -41,17 +55,17 @@ std::string_view access_text(int access) {
 
 /// The access that words say, in any order; nothing where one is no such word.
 std::optional<int> access_of(std::string_view text) {
-  if (text.empty()) return ACCESS_NOT_GIVEN;
   if (text == kAccessTexts[0]) return 0;
   int access = 0;
   while (!text.empty()) {
     const std::string_view word = text.substr(0, text.find(' '));
+    text.remove_prefix(std::min(word.size() + 1, text.size()));
+    if (word.empty()) continue;
     const auto known = std::ranges::find(kAccessBits, word, access_text);
     if (known == std::end(kAccessBits)) return std::nullopt;
     access |= *known;
-    text.remove_prefix(std::min(word.size() + 1, text.size()));
   }
-  return access;
+  return access == 0 ? ACCESS_NOT_GIVEN : access;
 }
 
 std::string_view free_word(FreeMode mode) { return free_mode_words[static_cast<std::size_t>(mode)]; }
@@ -71,7 +85,7 @@ void add_rows(ResourceRows& rows, WidgetDef& widget) {
 ResourceFields with_cell(const ResourceFields& before, Column column, Text text) {
   ResourceFields after = before;
   if (auto member = text_of(column)) after.*member = text.empty() ? Text() : text;
-  if (column == Column::visible) after.visible = text.view() == kFlagWords[true];
+  if (column == Column::visible) after.visible = *flag_of(text.view());
   if (column == Column::free_get) after.free_get = static_cast<FreeMode>(*place_of(free_mode_words, text.view()));
   if (column == Column::free_set) after.free_set = static_cast<FreeMode>(*place_of(free_mode_words, text.view()));
   if (column == Column::access) after.access = *access_of(text.view());
@@ -100,8 +114,8 @@ void copy(Document& document, const ResourceFields& resource, WidgetDef& widget,
 std::string_view column_word(Column column) { return kWords[static_cast<std::size_t>(column)]; }
 
 std::optional<Column> column_of(std::string_view word) {
-  const std::optional<std::size_t> place = place_of(kWords, word);
-  return place ? std::optional(static_cast<Column>(*place)) : std::nullopt;
+  const auto found = std::ranges::find_if(kWords, [word](std::string_view each) { return is_same_word(each, word); });
+  return found == kWords.end() ? std::nullopt : std::optional(static_cast<Column>(found - kWords.begin()));
 }
 
 ResourceRows resource_rows(Document& document) {
@@ -160,7 +174,7 @@ void sort_rows(ResourceRows& rows, Column column, bool descending) {
 bool is_value(Column column, std::string_view text) {
   switch (column) {
     case Column::visible:
-      return place_of(kFlagWords, text).has_value();
+      return flag_of(text).has_value();
     case Column::free_get:
     case Column::free_set:
       return place_of(free_mode_words, text).has_value();

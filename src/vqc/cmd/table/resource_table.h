@@ -22,7 +22,7 @@ inline constexpr std::array all_columns = {Column::widget,   Column::name,     C
                                            Column::popup,    Column::counter,  Column::visible,
                                            Column::free_get, Column::free_set, Column::access};
 
-/// The word for a column in a text, and the column of a word.
+/// The word for a column in a text, and the column of a word, in capitals or not.
 std::string_view column_word(Column column);
 std::optional<Column> column_of(std::string_view word);
 
@@ -52,7 +52,7 @@ void sort_rows(ResourceRows& rows, Column column, bool descending = false);
 /// Whether a column can be set: `widget` and `name` say which resource it is, and never are.
 constexpr bool is_settable(Column column) { return column != Column::widget && column != Column::name; }
 
-/// Whether a text is a value for a column that can be set.
+/// Whether a text is a value for a column that can be set. A flag may be in capitals, as spreadsheets have it.
 bool is_value(Column column, std::string_view text);
 
 /// The values that a column may have, where they are known; of an access all but that of none given.

@@ -194,17 +194,53 @@ void go_to_row(LongList& list, std::size_t row, unsigned modifiers) {
   tell(list);
 }
 
-/// The widget would stop at the end of what is in view.
+/// Selects the current row alone or, with Ctrl, as well or no longer.
+void choose_current(LongList& list, unsigned modifiers) {
+  const bool was_selected = list.selected[list.current];
+  if (!(modifiers & ControlMask)) select_none(list);
+  list.selected[list.current] = !(modifiers & ControlMask) || !was_selected;
+  list.anchor = list.current;
+  bring_into_view(list, list.current);
+  tell(list);
+}
+
+/// Does what a double click does, with the current row where none is selected.
+void act_on_selection(LongList& list, XEvent* event) {
+  if (std::ranges::find(list.selected, true) == list.selected.end()) choose_current(list, 0);
+  XmListCallbackStruct call{};
+  call.reason = XmCR_DEFAULT_ACTION;
+  call.event = event;
+  XtCallCallbacks(list.list, XmNdefaultActionCallback, &call);
+}
+
+/// Does what a key does. False when that is nothing.
+bool act_on(LongList& list, KeySym key, XEvent* event) {
+  const unsigned modifiers = event->xkey.state;
+  if (const auto row = target_of(list, key)) {
+    go_to_row(list, *row, modifiers);
+  } else if (key == XK_space || key == XK_KP_Space) {
+    choose_current(list, modifiers);
+  } else if (key == XK_Return || key == XK_KP_Enter) {
+    act_on_selection(list, event);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+/// The widget knows what is in view only, and would select what this does not.
 void key_pressed(Widget w, XtPointer, XEvent* event, Boolean* goes_on) {
   LongList& list = list_of(w);
   if (list.rows.count == 0) return;
   KeySym key = NoSymbol;
   XLookupString(&event->xkey, nullptr, 0, &key, nullptr);
-  const auto row = target_of(list, key);
-  if (!row) return;
-  *goes_on = False;
-  guarded([&] { go_to_row(list, *row, event->xkey.state); });
+  guarded([&] {
+    if (act_on(list, key, event)) *goes_on = False;
+  });
 }
+
+/// The widget does it only where a click meets an item.
+void take_keyboard(Widget w, XtPointer, XEvent*, Boolean*) { XmProcessTraversal(w, XmTRAVERSE_CURRENT); }
 
 void scrolled(Widget, XtPointer of_list, XtPointer call) {
   LongList& list = list_of(static_cast<Widget>(of_list));
@@ -228,6 +264,7 @@ Widget create_list(Widget parent, char* name) {
   XtAddCallback(list, XmNdestroyCallback, destroyed, nullptr);
   XtInsertEventHandler(list, KeyPressMask, False, key_pressed, nullptr, XtListHead);
   XtAddEventHandler(list, StructureNotifyMask, False, resized, nullptr);
+  XtAddEventHandler(list, ButtonPressMask, False, take_keyboard, nullptr);
   return list;
 }
 

@@ -21,7 +21,7 @@ Widget create_unapplied_note(Widget parent, char* name, ArgList, Cardinal);
 /// From now on marks the text fields, toggles and option menus that differ from what the program has shown in them; a
 /// form stands for all that it has. One button applies them together; `note`, which is empty otherwise, says so beside
 /// it.
-void watch_fields(std::initializer_list<Widget> fields, Widget note);
+void watch_fields(std::initializer_list<Widget> all, Widget note);
 
 /// For as long as the program shows something in a field. What has not been applied is left then.
 class ShowingField {

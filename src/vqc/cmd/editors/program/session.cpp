@@ -62,6 +62,7 @@ void show_resources_from(Widget w) { resources_do_popup(w, nullptr, nullptr); }
 void note_and_refresh() {
   note_action();
   refresh_versions();
+  refresh_uses();
   refresh_resources();
 }
 
