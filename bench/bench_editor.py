@@ -8,6 +8,7 @@ met.
 """
 
 import argparse
+import contextlib
 import os
 import re
 import statistics
@@ -33,12 +34,20 @@ def make_document(tools, path, families, widgets, in_largest):
     return path
 
 
+@contextlib.contextmanager
+def first_session():
+    """The environment of a session that finds nothing that others have left, and leaves nothing to others."""
+    with tempfile.TemporaryDirectory() as state:
+        yield {**os.environ, "XDG_STATE_HOME": state}
+
+
 def run(command):
     """CPU and elapsed seconds of a program."""
-    begin = time.perf_counter()
-    process = subprocess.Popen(command)
-    _, status, usage = os.wait4(process.pid, 0)
-    elapsed = time.perf_counter() - begin
+    with first_session() as environment:
+        begin = time.perf_counter()
+        process = subprocess.Popen(command, env=environment)
+        _, status, usage = os.wait4(process.pid, 0)
+        elapsed = time.perf_counter() - begin
     if status != 0:
         raise SystemExit(f"{command} ended with status {status}")
     return usage.ru_utime + usage.ru_stime, elapsed
@@ -65,10 +74,12 @@ def report_start(tools, folder, rounds):
 
 
 def actions(tools, document, rounds):
-    """Milliseconds of CPU time by action."""
+    """Milliseconds of CPU time by action, and megabytes of memory."""
     taken = {}
     for _ in range(rounds):
-        lines = subprocess.run([tools / "editor", "act", document, LARGEST], check=True, capture_output=True, text=True)
+        with first_session() as environment:
+            command = [tools / "editor", "act", document, LARGEST]
+            lines = subprocess.run(command, check=True, capture_output=True, text=True, env=environment)
         for line in lines.stdout.splitlines():
             action, milliseconds = line.split()
             taken.setdefault(action, []).append(float(milliseconds))
@@ -93,6 +104,9 @@ def report_actions(tools, folder, rounds):
     for action, whole in by_size["whole"].items():
         name = action.replace("_", " ")
         tenth = by_size["tenth"][action]
+        if action.startswith("memory"):
+            print(f"  {name + ', MB':<22} {whole:7.0f}  ({tenth:.0f})")
+            continue
         growth = "" if whole <= 10 * tenth else ", grows faster than the lists: MISSED"
         print(f"  {name:<22} {whole:7.2f}  ({tenth:.2f})  {verdict(whole, MOST_MILLISECONDS)}{growth}")
 

@@ -2,8 +2,8 @@
 //
 //   editor start [DOCUMENT]           ends when the main window has been mapped and painted
 //   editor act DOCUMENT FAMILY        prints the CPU milliseconds of single actions, one "action milliseconds" a line,
-//                                     and at last how much memory it has taken, in megabytes; the document has a
-//                                     family of that name
+//                                     and between them how much memory it has taken at most so far, in
+//                                     megabytes; the document has a family of that name
 //
 // The program's own callbacks are called, as the buttons call them, and all events that follow are served. What the
 // user waits for is counted: not what other threads do, or this one when it is idle.
@@ -12,13 +12,14 @@
 #include <Xm/List.h>
 #include <Xm/SelectioB.h>
 #include <Xm/TextF.h>
-#include <sys/resource.h>
 
 #include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <ctime>
+#include <fstream>
 #include <string>
+#include <string_view>
 #include <thread>
 
 #include "desktop/search_path.h"
@@ -156,9 +157,11 @@ void act_in_table() {
 
 /// The most that the program has held so far.
 void print_memory(const char* when) {
-  rusage usage{};
-  getrusage(RUSAGE_SELF, &usage);
-  std::printf("memory_%s %.0f\n", when, static_cast<double>(usage.ru_maxrss) / 1024);
+  constexpr std::string_view kPeak = "VmHWM:";
+  std::ifstream status("/proc/self/status");
+  for (std::string line; std::getline(status, line);) {
+    if (line.starts_with(kPeak)) std::printf("memory_%s %.0f\n", when, std::stod(line.substr(kPeak.size())) / 1024);
+  }
 }
 
 void act(const char* family) {
