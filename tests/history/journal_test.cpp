@@ -374,7 +374,7 @@ class BusySession {
 
 TEST_F(JournalTest, IsWholeWheneverItsSessionIsKilled) {
   std::minstd_rand random(1);
-  for (int round = 0; round < 150; ++round) {
+  for (int round = 0; round < 300; ++round) {
     const int reports = static_cast<int>(random() % 4);
     const auto pause = static_cast<useconds_t>(random() % (reports > 0 ? 3000 : 20000));
     const int reported = BusySession(journals, document).killed_after(reports, pause);
