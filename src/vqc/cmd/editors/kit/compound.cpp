@@ -2,6 +2,7 @@
 
 #include "vqc/cmd/editors/kit/compound.h"
 
+#include <algorithm>
 #include <cwchar>
 #include <string_view>
 
@@ -57,6 +58,13 @@ std::string displayable(const std::string& whole) {
     text.remove_prefix(character ? length : 1);
   }
   return result;
+}
+
+std::string displayable_line(const std::string& text) {
+  std::string line = displayable(text);
+  std::ranges::replace_if(
+      line, [](unsigned char c) { return c < ' '; }, '?');
+  return line;
 }
 
 }  // namespace vqc::editors

@@ -48,6 +48,8 @@ std::string label_text(Widget w);
 
 /// The text with a question mark for each byte that is no character of the locale.
 std::string displayable(const std::string& whole);
+/// The same in one line, with a question mark for each control character.
+std::string displayable_line(const std::string& text);
 
 }  // namespace vqc::editors
 

@@ -55,10 +55,7 @@ std::size_t row_at(const LongList& list, int position) {
 }
 
 CompoundString item(const std::string& text, const char* rendition) {
-  std::string line = displayable(text);
-  std::ranges::replace_if(
-      line, [](unsigned char c) { return c < ' '; }, '?');
-  return CompoundString::of_lines(line.c_str(), rendition);
+  return CompoundString::of_lines(displayable_line(text).c_str(), rendition);
 }
 
 void fill_items(const LongList& list) {

@@ -27,12 +27,7 @@ std::vector<std::string>& names_in(Widget list) {
 }
 
 /// In one line, or all rows of the list would be as high as this one.
-CompoundString item(const std::string& name) {
-  std::string line = displayable(name);
-  std::ranges::replace_if(
-      line, [](unsigned char c) { return c < ' '; }, '?');
-  return CompoundString(line.c_str());
-}
+CompoundString item(const std::string& name) { return CompoundString(displayable_line(name).c_str()); }
 
 /// Scrolls no further than the item needs.
 void bring_into_view(Widget list, int position) {
